@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdarg>
+#include <string>
+
+namespace vorn::utils
+{
+
+// vprintf into a string; an unusable format yields an empty one.
+std::string formatList(const char* format, va_list arguments);
+
+} // namespace vorn::utils

@@ -1,0 +1,243 @@
+#include <fcntl.h>
+
+#include <cstdint>
+#include <cstring>
+#include <fstream>
+#include <limits>
+#include <optional>
+#include <string>
+
+#include <vorn/parsers/toml.h>
+#include <vorn/utils/file.h>
+
+#include "cleanup_guard.h"
+#include "log.h"
+#include "runtime_text.h"
+
+#include "grammar/recognisers.h"
+
+namespace vorn::parsers::toml
+{
+namespace
+{
+
+// Usual sizes of the runtime's buffers; they grow as needed.
+constexpr ANTLR3_UINT32 tokenBufferHint = 1025;
+constexpr ANTLR3_UINT32 nodeBufferHint = 90000;
+
+constexpr std::size_t readBlock = 64 * 1024;
+
+// The runtime's default lexer display passes the offending character to isprint(),
+// whose domain ends at 255, and prints no more than its low byte.
+class PrintableCharacter
+{
+public:
+    explicit PrintableCharacter(pANTLR3_EXCEPTION exception)
+        : exception_(exception), character_(exception->c)
+    {
+        if (character_ != ANTLR3_CHARSTREAM_EOF)
+        {
+            exception_->c &= 0xFF;
+        }
+    }
+    PrintableCharacter(const PrintableCharacter&) = delete;
+    PrintableCharacter& operator=(const PrintableCharacter&) = delete;
+    ~PrintableCharacter() { exception_->c = character_; }
+
+private:
+    pANTLR3_EXCEPTION exception_;
+    decltype(ANTLR3_EXCEPTION::c) character_;
+};
+
+void installErrorDisplay(pTomlLexer lexer)
+{
+    static const auto defaultDisplay = lexer->pLexer->rec->displayRecognitionError;
+    lexer->pLexer->rec->displayRecognitionError =
+        [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
+    {
+        {
+            const PrintableCharacter printable(recogniser->state->exception);
+            defaultDisplay(recogniser, tokenNames);
+        }
+        const auto failed = static_cast<pANTLR3_LEXER>(recogniser->super);
+        VORN_LOG_ERROR("Invalid TOML: lexer failure at: %s", characters(failed->getText(failed)));
+    };
+}
+
+void installErrorDisplay(pTomlParser parser)
+{
+    static const auto defaultDisplay = parser->pParser->rec->displayRecognitionError;
+    parser->pParser->rec->displayRecognitionError =
+        [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
+    {
+        defaultDisplay(recogniser, tokenNames);
+        const auto failed = static_cast<pANTLR3_PARSER>(recogniser->super);
+        const auto text = textOf(failed->getTokenStream(failed));
+        VORN_LOG_ERROR("Invalid TOML: parser failure at: %s", text != nullptr ? text.get() : "");
+    };
+}
+
+void installErrorDisplay(pTomlTree tree)
+{
+    static const auto defaultDisplay = tree->pTreeParser->rec->displayRecognitionError;
+    tree->pTreeParser->rec->displayRecognitionError =
+        [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
+    {
+        defaultDisplay(recogniser, tokenNames);
+        VORN_LOG_ERROR("Invalid TOML: tree parser failure");
+    };
+}
+
+unsigned syntaxErrors(pANTLR3_BASE_RECOGNIZER recogniser)
+{
+    return recogniser->getNumberOfSyntaxErrors(recogniser);
+}
+
+// The pipeline: lexer, token stream, parser, node stream, tree parser.  Each object
+// is freed by the guard that follows it, the last one first.
+bool visitTomlTree(ANTLR3_INPUT_STREAM* input, ITomlTreeVisitor& visitor)
+{
+    const pTomlLexer lexer = TomlLexerNew(input);
+    if (lexer == nullptr)
+    {
+        VORN_LOG_ERROR("Failed to create toml lexer");
+        return false;
+    }
+    const CleanupGuard lexerGuard([lexer] { lexer->free(lexer); });
+    installErrorDisplay(lexer);
+
+    const pANTLR3_COMMON_TOKEN_STREAM tokens =
+        antlr3CommonTokenStreamSourceNew(tokenBufferHint, lexer->pLexer->rec->state->tokSource);
+    if (tokens == nullptr)
+    {
+        VORN_LOG_ERROR("Failed to create toml token stream");
+        return false;
+    }
+    const CleanupGuard tokensGuard([tokens] { tokens->free(tokens); });
+
+    const pTomlParser parser = TomlParserNew(tokens);
+    if (parser == nullptr)
+    {
+        VORN_LOG_ERROR("Failed to create toml parser");
+        return false;
+    }
+    const CleanupGuard parserGuard([parser] { parser->free(parser); });
+    installErrorDisplay(parser);
+
+    // Errors do not stop the walk: the visitor gets what the parser could make out.
+    const pANTLR3_BASE_TREE document = parser->document(parser).tree;
+    const pANTLR3_COMMON_TREE_NODE_STREAM nodes =
+        antlr3CommonTreeNodeStreamNewTree(document, nodeBufferHint);
+    if (nodes == nullptr)
+    {
+        VORN_LOG_ERROR("Failed to create toml node stream");
+        return false;
+    }
+    const CleanupGuard nodesGuard([nodes] { nodes->free(nodes); });
+
+    const pTomlTree tree = TomlTreeNew(nodes);
+    if (tree == nullptr)
+    {
+        VORN_LOG_ERROR("Failed to create toml tree");
+        return false;
+    }
+    const CleanupGuard treeGuard([tree] { tree->free(tree); });
+    installErrorDisplay(tree);
+
+    if (!tree->document(tree, visitor))
+    {
+        VORN_LOG_ERROR("Failed to visit toml tree");
+        return false;
+    }
+    const unsigned errors = syntaxErrors(lexer->pLexer->rec) + syntaxErrors(parser->pParser->rec) +
+                            syntaxErrors(tree->pTreeParser->rec);
+    if (errors != 0)
+    {
+        VORN_LOG_ERROR("Failed: input TOML has %d syntax errors", static_cast<int>(errors));
+        return false;
+    }
+    return true;
+}
+
+// The runtime takes its input and names as mutable bytes, but only reads them.
+pANTLR3_UINT8 runtimeBytes(const char* text)
+{
+    return reinterpret_cast<pANTLR3_UINT8>(const_cast<char*>(text));
+}
+
+// A stream over the bytes of `text`, not a copy; null if it cannot be made.
+pANTLR3_INPUT_STREAM openStream(const std::string& text)
+{
+    // The runtime counts bytes in 32 bits.
+    if (std::uint64_t{text.size()} > std::numeric_limits<ANTLR3_UINT32>::max())
+    {
+        return nullptr;
+    }
+    return antlr3StringStreamNew(runtimeBytes(text.data()), ANTLR3_ENC_UTF8,
+                                 static_cast<ANTLR3_UINT32>(text.size()), runtimeBytes("toml"));
+}
+
+// The path's characters.  Clients may come with a path type of their own making that
+// begins, like ours, with a pointer to NUL-terminated characters.
+const char* charactersOf(const FilePath& path)
+{
+    const char* text = nullptr;
+    static_assert(sizeof(path) >= sizeof(text));
+    std::memcpy(&text, &path, sizeof(text));
+    return text;
+}
+
+// The whole content, or nothing if reading fails before the file's end.
+std::optional<std::string> readAll(std::ifstream& file)
+{
+    std::string content;
+    while (file)
+    {
+        const std::size_t length = content.size();
+        content.resize(length + readBlock);
+        file.read(content.data() + length, readBlock);
+        content.resize(length + static_cast<std::size_t>(file.gcount()));
+    }
+    if (file.bad())
+    {
+        return std::nullopt;
+    }
+    return content;
+}
+
+} // namespace
+
+ITomlTreeVisitor::~ITomlTreeVisitor() = default;
+
+bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor)
+{
+    const pANTLR3_INPUT_STREAM input = openStream(text);
+    if (input == nullptr)
+    {
+        VORN_LOG_ERROR("Failed to create toml string stream");
+        return false;
+    }
+    const CleanupGuard inputGuard([input] { input->close(input); });
+    return visitTomlTree(input, visitor);
+}
+
+bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visitor)
+{
+    const char* const name = charactersOf(path);
+    if (!fileExists(name, true, AT_FDCWD))
+    {
+        VORN_LOG_ERROR("No such file: %s", name);
+        return false;
+    }
+    std::ifstream file(name);
+    const std::optional<std::string> content = file ? readAll(file) : std::nullopt;
+    if (!content)
+    {
+        VORN_LOG_ERROR("Failed to open file; %s", name);
+        return false;
+    }
+    file.close();
+    return visitTomlTree(*content, visitor);
+}
+
+} // namespace vorn::parsers::toml

@@ -1,0 +1,48 @@
+#include "input.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+
+namespace tool
+{
+namespace
+{
+
+struct CloseFile
+{
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+bool readAll(std::FILE* file, std::string& content)
+{
+    std::array<char, 64 * 1024> block = {};
+    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file))
+    {
+        content.append(block.data(), count);
+    }
+    return std::ferror(file) == 0;
+}
+
+std::optional<std::string> fail(const std::string& name)
+{
+    std::fprintf(stderr, "vorn-toml: %s: %s\n", name.c_str(), std::strerror(errno));
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<std::string> readInput(const std::string& name)
+{
+    std::string content;
+    if (name == "-")
+    {
+        return readAll(stdin, content) ? std::optional(std::move(content)) : fail("standard input");
+    }
+    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(name.c_str(), "rb"));
+    return file && readAll(file.get(), content) ? std::optional(std::move(content)) : fail(name);
+}
+
+} // namespace tool

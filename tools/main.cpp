@@ -1,0 +1,65 @@
+// vorn-toml: the library on the command line.
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "commands.h"
+
+namespace
+{
+
+using Command = tool::Status (*)(const std::string& name);
+
+// Adds a subcommand that runs over FILE... and raises `status` to its worst outcome.
+void addCommand(CLI::App& app, tool::Status& status, Command command, const std::string& name,
+                const std::string& description, const std::string& example)
+{
+    CLI::App* const subcommand = app.add_subcommand(name, description);
+    const auto files = std::make_shared<std::vector<std::string>>();
+    subcommand->add_option("FILE", *files, "A document; - stands for standard input")->required();
+    subcommand->footer("Example:\n" + example);
+    subcommand->callback(
+        [&status, command, files]
+        {
+            for (const std::string& file : *files)
+            {
+                status = std::max(status, command(file));
+            }
+        });
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    CLI::App app("Reads TOML documents the way the services of the device do.", "vorn-toml");
+    app.require_subcommand(1);
+    app.footer("Exit status: 0 accepted, 1 rejected, 2 wrong usage, 3 a file could not be read.\n"
+               "What is wrong with a document is logged on standard error.");
+
+    auto status = tool::accepted;
+    addCommand(app, status, tool::printEvents, "events",
+               "Print the visitor calls of documents, one a line",
+               "  $ printf 'a = 1\\n' | vorn-toml events -\n"
+               "  beginDocument\n"
+               "  beginKeyValue\n"
+               "  visitBareKey a\n"
+               "  visitInteger 1\n"
+               "  endKeyValue\n"
+               "  endDocument\n");
+    addCommand(app, status, tool::check, "check", "Tell whether documents are accepted",
+               "  $ vorn-toml check network.toml\n"
+               "  network.toml: accepted\n");
+    try
+    {
+        app.parse(argc, argv);
+    }
+    catch (const CLI::ParseError& error)
+    {
+        // Asking for help is no error.
+        return app.exit(error) == 0 ? tool::accepted : tool::usage;
+    }
+    return status;
+}
