@@ -25,7 +25,7 @@ namespace
 constexpr ANTLR3_UINT32 tokenBufferHint = 1025;
 constexpr ANTLR3_UINT32 nodeBufferHint = 90000;
 
-constexpr std::size_t readBlock = 64 * 1024;
+constexpr std::size_t readBlock = 65536;
 
 // The runtime's default lexer display passes the offending character to isprint(),
 // whose domain ends at 255, and prints no more than its low byte.
@@ -59,7 +59,7 @@ void installErrorDisplay(pTomlLexer lexer)
             const PrintableCharacter printable(recogniser->state->exception);
             defaultDisplay(recogniser, tokenNames);
         }
-        const auto failed = static_cast<pANTLR3_LEXER>(recogniser->super);
+        auto* const failed = static_cast<pANTLR3_LEXER>(recogniser->super);
         VORN_LOG_ERROR("Invalid TOML: lexer failure at: %s", characters(failed->getText(failed)));
     };
 }
@@ -71,7 +71,7 @@ void installErrorDisplay(pTomlParser parser)
         [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
     {
         defaultDisplay(recogniser, tokenNames);
-        const auto failed = static_cast<pANTLR3_PARSER>(recogniser->super);
+        auto* const failed = static_cast<pANTLR3_PARSER>(recogniser->super);
         const auto text = textOf(failed->getTokenStream(failed));
         VORN_LOG_ERROR("Invalid TOML: parser failure at: %s", text != nullptr ? text.get() : "");
     };
@@ -183,7 +183,7 @@ const char* charactersOf(const FilePath& path)
 {
     const char* text = nullptr;
     static_assert(sizeof(path) >= sizeof(text));
-    std::memcpy(&text, &path, sizeof(text));
+    std::memcpy(&text, static_cast<const void*>(&path), sizeof(text));
     return text;
 }
 

@@ -18,7 +18,7 @@ struct CloseFile
 
 bool readAll(std::FILE* file, std::string& content)
 {
-    std::array<char, 64 * 1024> block = {};
+    std::array<char, 65536> block = {};
     while (const std::size_t count = std::fread(block.data(), 1, block.size(), file))
     {
         content.append(block.data(), count);
