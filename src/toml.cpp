@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstring>
 #include <fstream>
+#include <initializer_list>
 #include <limits>
 #include <optional>
 #include <string>
@@ -88,9 +89,14 @@ void installErrorDisplay(pTomlTree tree)
     };
 }
 
-unsigned syntaxErrors(pANTLR3_BASE_RECOGNIZER recogniser)
+int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers)
 {
-    return recogniser->getNumberOfSyntaxErrors(recogniser);
+    ANTLR3_UINT32 count = 0;
+    for (const pANTLR3_BASE_RECOGNIZER recogniser : recognisers)
+    {
+        count += recogniser->getNumberOfSyntaxErrors(recogniser);
+    }
+    return static_cast<int>(count);
 }
 
 // The pipeline: lexer, token stream, parser, node stream, tree parser.  Each object
@@ -149,11 +155,11 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, ITomlTreeVisitor& visitor)
         VORN_LOG_ERROR("Failed to visit toml tree");
         return false;
     }
-    const unsigned errors = syntaxErrors(lexer->pLexer->rec) + syntaxErrors(parser->pParser->rec) +
-                            syntaxErrors(tree->pTreeParser->rec);
+    const int errors =
+        countSyntaxErrors({lexer->pLexer->rec, parser->pParser->rec, tree->pTreeParser->rec});
     if (errors != 0)
     {
-        VORN_LOG_ERROR("Failed: input TOML has %d syntax errors", static_cast<int>(errors));
+        VORN_LOG_ERROR("Failed: input TOML has %d syntax errors", errors);
         return false;
     }
     return true;

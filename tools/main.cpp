@@ -2,6 +2,10 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -30,13 +34,32 @@ void addCommand(CLI::App& app, tool::Status& status, Command command, const std:
         });
 }
 
+// What has been printed must have reached its place.
+tool::Status flushOutput()
+{
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+    {
+        return tool::accepted;
+    }
+    std::fprintf(stderr, "vorn-toml: standard output: %s\n", std::strerror(errno));
+    return tool::unreadable;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    // Events and the log lines on standard error come out in the order they are made.
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+
     CLI::App app("Reads TOML documents the way the services of the device do.", "vorn-toml");
     app.require_subcommand(1);
-    app.footer("Exit status: 0 accepted, 1 rejected, 2 wrong usage, 3 a file could not be read.\n"
+    app.footer("Example:\n"
+               "  $ vorn-toml check network.toml\n"
+               "  network.toml: accepted\n"
+               "\n"
+               "Exit status: 0 accepted, 1 rejected, 2 wrong usage, 3 a file could not be read or\n"
+               "the output not be written.\n"
                "What is wrong with a document is logged on standard error.");
 
     auto status = tool::accepted;
@@ -61,5 +84,5 @@ int main(int argc, char** argv)
         // Asking for help is no error.
         return app.exit(error) == 0 ? tool::accepted : tool::usage;
     }
-    return status;
+    return std::max(status, flushOutput());
 }

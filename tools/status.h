@@ -10,7 +10,7 @@ enum Status
     accepted = 0,
     rejected = 1,
     usage = 2,
-    unreadable = 3,
+    unreadable = 3, // or the output cannot be written
 };
 
 } // namespace tool

@@ -1,0 +1,265 @@
+#include "pipeline_spy.h"
+
+#include "grammar/recognisers.h"
+
+namespace test
+{
+namespace
+{
+
+PipelineSpy* spy = nullptr;
+
+void record(const std::string& step)
+{
+    if (spy != nullptr)
+    {
+        spy->steps.push_back(step);
+    }
+}
+
+// Records an object's creation, and tells whether it is to fail.
+bool fails(const std::string& object)
+{
+    record("new " + object);
+    return spy != nullptr && spy->failing == object;
+}
+
+// The entry `Member` of an object records `step` before it does its work.
+template <auto Member, typename Object>
+void watchRelease(Object* object, const char* step)
+{
+    static auto original = object->*Member;
+    static const char* recorded = step;
+    original = object->*Member;
+    object->*Member = [](Object* released)
+    {
+        record(recorded);
+        original(released);
+    };
+}
+
+struct LexerKind
+{
+    static constexpr const char* name = "lexer";
+    static constexpr std::size_t index = 0;
+};
+
+struct ParserKind
+{
+    static constexpr const char* name = "parser";
+    static constexpr std::size_t index = 1;
+};
+
+struct TreeKind
+{
+    static constexpr const char* name = "tree";
+    static constexpr std::size_t index = 2;
+};
+
+// The display of the first recogniser of its kind is the one that the driver keeps; the
+// displays of later ones differ, so that a call of them shows.
+template <typename Kind>
+void watchDisplay(pANTLR3_BASE_RECOGNIZER recogniser)
+{
+    static const auto original = recogniser->displayRecognitionError;
+    static bool first = true;
+    recogniser->displayRecognitionError =
+        first ? [](pANTLR3_BASE_RECOGNIZER failed, pANTLR3_UINT8* tokenNames)
+    {
+        record(std::string("display ") + Kind::name);
+        if (spy != nullptr && spy->onDisplay)
+        {
+            spy->onDisplay(Kind::name, failed, tokenNames);
+        }
+        original(failed, tokenNames);
+    }
+              : [](pANTLR3_BASE_RECOGNIZER, pANTLR3_UINT8*)
+    { record(std::string("display of a later ") + Kind::name); };
+    first = false;
+}
+
+template <typename Kind>
+void watchCount(pANTLR3_BASE_RECOGNIZER recogniser)
+{
+    static auto original = recogniser->getNumberOfSyntaxErrors;
+    original = recogniser->getNumberOfSyntaxErrors;
+    recogniser->getNumberOfSyntaxErrors = [](pANTLR3_BASE_RECOGNIZER asked) -> ANTLR3_UINT32
+    {
+        record(std::string("count ") + Kind::name);
+        const bool claimed = spy != nullptr && !spy->claimedErrors.empty();
+        return claimed ? spy->claimedErrors.at(Kind::index) : original(asked);
+    };
+}
+
+void watchReport(pANTLR3_BASE_RECOGNIZER lexer)
+{
+    static auto original = lexer->reportError;
+    original = lexer->reportError;
+    lexer->reportError = [](pANTLR3_BASE_RECOGNIZER failed)
+    {
+        original(failed);
+        if (spy != nullptr && spy->onLexerReport)
+        {
+            spy->onLexerReport(failed);
+        }
+    };
+}
+
+void watchParse(pTomlParser parser)
+{
+    static auto original = parser->document;
+    original = parser->document;
+    parser->document = [](pTomlParser started)
+    {
+        record("parse");
+        const TomlParser_document_return result = original(started);
+        spy->created.document = result.tree;
+        return result;
+    };
+}
+
+void watchWalk(pTomlTree tree)
+{
+    static auto original = tree->document;
+    original = tree->document;
+    tree->document = [](pTomlTree started, TomlVisitor& visitor)
+    {
+        record("walk");
+        spy->arguments.visitor = &visitor;
+        return original(started, visitor);
+    };
+}
+
+} // namespace
+
+const Steps& creation()
+{
+    static const Steps steps = {"new input", "new lexer", "new tokens", "new parser",
+                                "parse",     "new nodes", "new tree",   "walk"};
+    return steps;
+}
+
+const Steps& release()
+{
+    static const Steps steps = {"free tree",   "free nodes", "free parser",
+                                "free tokens", "free lexer", "close input"};
+    return steps;
+}
+
+PipelineSpy::PipelineSpy()
+{
+    spy = this;
+}
+
+PipelineSpy::~PipelineSpy()
+{
+    spy = nullptr;
+}
+
+} // namespace test
+
+// The linker gives these names: callers reach __wrap_f, which reaches f by __real_f.
+extern "C"
+{
+    decltype(antlr3StringStreamNew) __real_antlr3StringStreamNew;
+    decltype(TomlLexerNew) __real_TomlLexerNew;
+    decltype(antlr3CommonTokenStreamSourceNew) __real_antlr3CommonTokenStreamSourceNew;
+    decltype(TomlParserNew) __real_TomlParserNew;
+    decltype(antlr3CommonTreeNodeStreamNewTree) __real_antlr3CommonTreeNodeStreamNewTree;
+    decltype(TomlTreeNew) __real_TomlTreeNew;
+
+    pANTLR3_INPUT_STREAM __wrap_antlr3StringStreamNew(pANTLR3_UINT8 data, ANTLR3_UINT32 encoding,
+                                                      ANTLR3_UINT32 size, pANTLR3_UINT8 name)
+    {
+        test::CreationArguments& arguments = test::spy->arguments;
+        arguments.data = data;
+        arguments.encoding = encoding;
+        arguments.size = size;
+        arguments.name = reinterpret_cast<const char*>(name);
+        if (test::fails("input"))
+        {
+            return nullptr;
+        }
+        auto* const input = __real_antlr3StringStreamNew(data, encoding, size, name);
+        test::spy->created.input = input;
+        test::watchRelease<&ANTLR3_INPUT_STREAM::close>(input, "close input");
+        return input;
+    }
+
+    pTomlLexer __wrap_TomlLexerNew(pANTLR3_INPUT_STREAM input)
+    {
+        test::spy->arguments.lexerInput = input;
+        if (test::fails("lexer"))
+        {
+            return nullptr;
+        }
+        const pTomlLexer lexer = __real_TomlLexerNew(input);
+        const pANTLR3_BASE_RECOGNIZER recogniser = lexer->pLexer->rec;
+        test::spy->created.tokenSource = recogniser->state->tokSource;
+        test::watchRelease<&TomlLexer::free>(lexer, "free lexer");
+        test::watchDisplay<test::LexerKind>(recogniser);
+        test::watchCount<test::LexerKind>(recogniser);
+        test::watchReport(recogniser);
+        return lexer;
+    }
+
+    pANTLR3_COMMON_TOKEN_STREAM __wrap_antlr3CommonTokenStreamSourceNew(ANTLR3_UINT32 hint,
+                                                                        pANTLR3_TOKEN_SOURCE source)
+    {
+        test::spy->arguments.tokensHint = hint;
+        test::spy->arguments.tokenSource = source;
+        if (test::fails("tokens"))
+        {
+            return nullptr;
+        }
+        auto* const tokens = __real_antlr3CommonTokenStreamSourceNew(hint, source);
+        test::spy->created.tokens = tokens;
+        test::watchRelease<&ANTLR3_COMMON_TOKEN_STREAM::free>(tokens, "free tokens");
+        return tokens;
+    }
+
+    pTomlParser __wrap_TomlParserNew(pANTLR3_COMMON_TOKEN_STREAM tokens)
+    {
+        test::spy->arguments.parserTokens = tokens;
+        if (test::fails("parser"))
+        {
+            return nullptr;
+        }
+        const pTomlParser parser = __real_TomlParserNew(tokens);
+        test::watchRelease<&TomlParser::free>(parser, "free parser");
+        test::watchDisplay<test::ParserKind>(parser->pParser->rec);
+        test::watchCount<test::ParserKind>(parser->pParser->rec);
+        test::watchParse(parser);
+        return parser;
+    }
+
+    pANTLR3_COMMON_TREE_NODE_STREAM __wrap_antlr3CommonTreeNodeStreamNewTree(pANTLR3_BASE_TREE tree,
+                                                                             ANTLR3_UINT32 hint)
+    {
+        test::spy->arguments.nodesTree = tree;
+        test::spy->arguments.nodesHint = hint;
+        if (test::fails("nodes"))
+        {
+            return nullptr;
+        }
+        auto* const nodes = __real_antlr3CommonTreeNodeStreamNewTree(tree, hint);
+        test::spy->created.nodes = nodes;
+        test::watchRelease<&ANTLR3_COMMON_TREE_NODE_STREAM::free>(nodes, "free nodes");
+        return nodes;
+    }
+
+    pTomlTree __wrap_TomlTreeNew(pANTLR3_COMMON_TREE_NODE_STREAM nodes)
+    {
+        test::spy->arguments.treeNodes = nodes;
+        if (test::fails("tree"))
+        {
+            return nullptr;
+        }
+        const pTomlTree tree = __real_TomlTreeNew(nodes);
+        test::watchRelease<&TomlTree::free>(tree, "free tree");
+        test::watchDisplay<test::TreeKind>(tree->pTreeParser->rec);
+        test::watchCount<test::TreeKind>(tree->pTreeParser->rec);
+        test::watchWalk(tree);
+        return tree;
+    }
+}

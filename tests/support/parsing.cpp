@@ -1,0 +1,54 @@
+#include "parsing.h"
+
+#include <gtest/gtest.h>
+
+#include "tree_text.h"
+
+#include "parser_pipeline.h"
+
+namespace test
+{
+
+ParsedDocument parseDocument(const std::string& text)
+{
+    const ParserPipeline pipeline(text);
+    const pANTLR3_BASE_RECOGNIZER parser = pipeline.recogniser();
+    const pANTLR3_BASE_RECOGNIZER lexer = pipeline.lexer().recogniser();
+
+    ParsedDocument parsed;
+    collectErrors(parser, parsed.errors);
+    collectErrors(lexer, parsed.lexerErrors);
+    parsed.trees = treeText(pipeline.parser()->document(pipeline.parser()).tree);
+    parsed.errorCount = parser->getNumberOfSyntaxErrors(parser);
+    parsed.lexerErrorCount = lexer->getNumberOfSyntaxErrors(lexer);
+    return parsed;
+}
+
+void expectParsed(const std::vector<AcceptedDocument>& documents)
+{
+    for (const AcceptedDocument& document : documents)
+    {
+        SCOPED_TRACE(testing::PrintToString(document.text));
+        const ParsedDocument parsed = parseDocument(document.text);
+        EXPECT_EQ(parsed.trees, document.trees);
+        EXPECT_EQ(parsed.errors, ErrorKinds());
+        EXPECT_EQ(parsed.errorCount, 0u);
+        EXPECT_EQ(parsed.lexerErrors, ErrorKinds());
+        EXPECT_EQ(parsed.lexerErrorCount, 0u);
+    }
+}
+
+void expectRejected(const std::vector<RejectedDocument>& documents)
+{
+    for (const RejectedDocument& document : documents)
+    {
+        SCOPED_TRACE(testing::PrintToString(document.text));
+        const ParsedDocument parsed = parseDocument(document.text);
+        EXPECT_EQ(parsed.errors, document.errors);
+        EXPECT_EQ(parsed.errorCount, document.errors.size());
+        EXPECT_EQ(parsed.lexerErrors, document.lexerErrors);
+        EXPECT_EQ(parsed.lexerErrorCount, document.lexerErrors.size());
+    }
+}
+
+} // namespace test
