@@ -12,6 +12,7 @@
 #include <vorn/utils/file.h>
 
 #include "cleanup_guard.h"
+#include "direct_reader.h"
 #include "log.h"
 #include "runtime_text.h"
 
@@ -171,11 +172,16 @@ pANTLR3_UINT8 runtimeBytes(const char* text)
     return reinterpret_cast<pANTLR3_UINT8>(const_cast<char*>(text));
 }
 
+// Whether the runtime can count the text's bytes, which it does in 32 bits.
+bool isStreamable(const std::string& text)
+{
+    return std::uint64_t{text.size()} <= std::numeric_limits<ANTLR3_UINT32>::max();
+}
+
 // A stream over the bytes of `text`, not a copy; null if it cannot be made.
 pANTLR3_INPUT_STREAM openStream(const std::string& text)
 {
-    // The runtime counts bytes in 32 bits.
-    if (std::uint64_t{text.size()} > std::numeric_limits<ANTLR3_UINT32>::max())
+    if (!isStreamable(text))
     {
         return nullptr;
     }
@@ -217,6 +223,12 @@ ITomlTreeVisitor::~ITomlTreeVisitor() = default;
 
 bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor)
 {
+    // Nothing has been called when a document is refused: then the recognisers read it
+    // from its start and say what is wrong with it.
+    if (isStreamable(text) && readDirectly(text, visitor))
+    {
+        return true;
+    }
     const pANTLR3_INPUT_STREAM input = openStream(text);
     if (input == nullptr)
     {

@@ -1,0 +1,40 @@
+// The visitor's operations as values.
+#pragma once
+
+#include <cstdint>
+
+namespace vorn::parsers::toml
+{
+
+enum class Event : std::uint8_t
+{
+    beginKeyValue,
+    endKeyValue,
+    beginTable,
+    endTable,
+    beginArrayTable,
+    endArrayTable,
+    beginDottedKey,
+    endDottedKey,
+    beginArray,
+    endArray,
+    beginInlineTable,
+    endInlineTable,
+    // With a text:
+    visitBareKey,
+    visitQuotedKey,
+    visitBasicString,
+    visitMultilineBasicString,
+    visitLiteralString,
+    visitMultilineLiteralString,
+    visitInteger,
+    visitFloat,
+    visitBoolean,
+    visitOffsetDateTime,
+    visitLocalDateTime,
+    visitLocalDate,
+    visitLocalTime,
+    none, // not a scalar
+};
+
+} // namespace vorn::parsers::toml

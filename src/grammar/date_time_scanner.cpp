@@ -1,0 +1,123 @@
+#include "date_time_scanner.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "character_class.h"
+
+namespace vorn::parsers::toml
+{
+namespace
+{
+
+constexpr std::ptrdiff_t dateLength = 10;      // 0000-00-00
+constexpr std::ptrdiff_t timeLength = 8;       // 00:00:00
+constexpr std::ptrdiff_t hourMinuteLength = 5; // 00:00
+
+std::uint64_t load(const char* at) noexcept
+{
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, at, sizeof(bytes));
+    return bytes;
+}
+
+// Whether eight bytes have a shape, in which '0' stands for any digit.
+//
+// Digits differ from '0' by 0 to 9, separators from themselves by 0.  What is added
+// makes a difference beyond that reach the upper half of its byte.
+bool haveShape(const char* at, const char (&shape)[9]) noexcept
+{
+    char reach[8] = {};
+    for (unsigned index = 0; index < 8; ++index)
+    {
+        reach[index] = shape[index] == '0' ? 0x06 : 0x0F;
+    }
+    const std::uint64_t difference = load(at) ^ load(shape);
+    return ((difference | (difference + load(reach))) & 0xF0F0F0F0F0F0F0F0U) == 0;
+}
+
+bool areHourAndColon(const char* at, const char* end) noexcept
+{
+    return end - at >= 3 && is(at[0], digit) && is(at[1], digit) && at[2] == ':';
+}
+
+bool areHourAndMinute(const char* at, const char* end) noexcept
+{
+    return end - at >= hourMinuteLength && areHourAndColon(at, end) && is(at[3], digit) &&
+           is(at[4], digit);
+}
+
+// The end of a time with an optional fraction; null if there is none.
+const char* partialTimeEnd(const char* at, const char* end) noexcept
+{
+    if (end - at < timeLength || !haveShape(at, "00:00:00"))
+    {
+        return nullptr;
+    }
+    at += timeLength;
+    if (at == end || *at != '.')
+    {
+        return at;
+    }
+    const char* const stop = skip(at + 1, end, digit);
+    return stop != at + 1 ? stop : nullptr;
+}
+
+// The date-time whose time begins at `at`.
+Token scanDateTime(const char* at, const char* end) noexcept
+{
+    at = partialTimeEnd(at, end);
+    if (at == nullptr)
+    {
+        return {TokenType::none, nullptr};
+    }
+    if (at == end)
+    {
+        return {TokenType::localDateTime, at};
+    }
+    switch (*at)
+    {
+    case 'Z':
+        return {TokenType::offsetDateTime, at + 1};
+    case '+':
+    case '-':
+        return areHourAndMinute(at + 1, end)
+                   ? Token{TokenType::offsetDateTime, at + 1 + hourMinuteLength}
+                   : Token{TokenType::none, nullptr};
+    default:
+        return {TokenType::localDateTime, at};
+    }
+}
+
+} // namespace
+
+bool beginsWithDate(const char* at, const char* end) noexcept
+{
+    return end - at >= dateLength && haveShape(at, "0000-00-") && haveShape(at + 2, "00-00-00");
+}
+
+// A date before a blank, and one before an hour with a colon, has begun a date-time:
+// that must be whole, there is no way back to the date alone.
+Token scanDate(const char* begin, const char* end) noexcept
+{
+    const char* const at = begin + dateLength;
+    if (at != end && *at == ' ')
+    {
+        return scanDateTime(at + 1, end);
+    }
+    if (at != end && (*at == 'T' || *at == 't') && areHourAndColon(at + 1, end))
+    {
+        return scanDateTime(at + 1, end);
+    }
+    const char* const stop = skip(at, end, keyCharacter);
+    return {stop == at ? TokenType::localDate : TokenType::bareKey, stop};
+}
+
+Token scanTime(const char* begin, const char* end) noexcept
+{
+    const char* const stop = partialTimeEnd(begin, end);
+    return {stop != nullptr ? TokenType::localTime : TokenType::none, stop};
+}
+
+} // namespace vorn::parsers::toml

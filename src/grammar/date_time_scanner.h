@@ -1,0 +1,18 @@
+// Dates and times: their shapes, and what may follow them.
+#pragma once
+
+#include "scanner.h"
+
+namespace vorn::parsers::toml
+{
+
+// Whether the text at `at` begins with a date.
+bool beginsWithDate(const char* at, const char* end) noexcept;
+
+// The token that begins with the date at `begin`: a date, a date-time or a bare key.
+Token scanDate(const char* begin, const char* end) noexcept;
+
+// The time at `begin`.
+Token scanTime(const char* begin, const char* end) noexcept;
+
+} // namespace vorn::parsers::toml

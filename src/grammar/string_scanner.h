@@ -1,0 +1,17 @@
+// Tokens that hold free text: strings and comments.
+#pragma once
+
+#include "scanner.h"
+
+namespace vorn::parsers::toml
+{
+
+// The string that begins at `begin` with a quotation mark or an apostrophe.
+Token scanBasic(const char* begin, const char* end) noexcept;
+Token scanLiteral(const char* begin, const char* end) noexcept;
+
+// The end of the comment that begins at `begin`: its line feed or the end of the text.
+// Null if it is not recognised.
+const char* commentEnd(const char* begin, const char* end) noexcept;
+
+} // namespace vorn::parsers::toml

@@ -1,0 +1,15 @@
+// Tokens made of key characters: bare keys, booleans, numbers, dates and times.
+#pragma once
+
+#include "scanner.h"
+
+namespace vorn::parsers::toml
+{
+
+// The token that begins at `begin` with a key character.
+Token scanWord(const char* begin, const char* end) noexcept;
+
+// The token that begins at `begin` with a plus sign.
+Token scanPlus(const char* begin, const char* end) noexcept;
+
+} // namespace vorn::parsers::toml
