@@ -12,7 +12,7 @@ bool readDirectly(const std::string& text, ITomlTreeVisitor& visitor)
     const char* const end = text.data() + text.size();
     // A byte order mark at the very beginning is no part of the document.
     const char* const begin = text.data() + (text.compare(0, 3, "\xEF\xBB\xBF") == 0 ? 3 : 0);
-    NestingStack nesting;
+    NestingStack nesting(text.size());
     EventRecord record(begin, end);
     if (!Reader(begin, end, nesting, record).lines())
     {

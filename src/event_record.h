@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
@@ -15,14 +16,13 @@ namespace vorn::parsers::toml
 // can be repeated without reading those lines again.  It is bounded, whatever the size
 // of the document: a sink that takes all events and keeps what it has room for.
 //
-// An event takes an entry of 16 bits: what it is and, for a text, its length and the gap
-// between it and the text before.  Where those are large, four more entries follow.
+// An event takes a byte: what it is.  A text takes two more, the gap between it and the
+// text before and its length.  Where those are large, eight more bytes follow.
 class EventRecord
 {
 public:
     EventRecord(const char* begin, const char* end)
-        : EventRecord(
-              begin, std::min(static_cast<std::size_t>(end - begin) / 2 + longEntries, mostEntries))
+        : EventRecord(begin, std::min(static_cast<std::size_t>(end - begin), mostBytes) + longEntry)
     {
     }
 
@@ -30,7 +30,7 @@ public:
     {
         if (hasRoom())
         {
-            *last_++ = entry(event, 0, 0);
+            *last_++ = static_cast<Byte>(event);
         }
     }
 
@@ -43,14 +43,20 @@ public:
         }
         const auto gap = static_cast<std::size_t>(text.data() - textEnd_);
         textEnd_ = text.data() + text.size();
+        Byte* const entry = last_;
+        entry[0] = static_cast<Byte>(event);
         if (gap < longGap && text.size() <= mostLength)
         {
-            *last_++ = entry(event, gap, text.size());
+            entry[1] = static_cast<Byte>(gap);
+            entry[2] = static_cast<Byte>(text.size());
+            last_ = entry + shortEntry;
             return;
         }
-        *last_++ = entry(event, longGap, 0);
-        addLong(gap);
-        addLong(text.size());
+        entry[1] = longGap;
+        const Numbers numbers = {static_cast<std::uint32_t>(gap),
+                                 static_cast<std::uint32_t>(text.size())};
+        std::memcpy(entry + shortEntry, &numbers, sizeof(numbers));
+        last_ = entry + longEntry;
     }
 
     // All events of a line, with the pair or the header that it holds, have come.
@@ -73,22 +79,25 @@ public:
     void repeat(Sink& sink) const
     {
         const char* text = begin_;
-        for (const Entry* next = entries_.get(); next != lastLine_;)
+        for (const Byte* entry = entries_.get(); entry != lastLine_;)
         {
-            const unsigned entry = *next++;
-            const auto event = static_cast<Event>(entry >> eventShift);
+            const auto event = static_cast<Event>(entry[0]);
             if (event < Event::visitBareKey)
             {
+                ++entry;
                 sink.event(event);
                 continue;
             }
-            std::size_t gap = entry >> gapShift & longGap;
-            std::size_t length = entry & mostLength;
+            std::size_t gap = entry[1];
+            std::size_t length = entry[2];
+            entry += shortEntry;
             if (gap == longGap)
             {
-                gap = next[0] | std::size_t{next[1]} << 16;
-                length = next[2] | std::size_t{next[3]} << 16;
-                next += longEntries - 1;
+                Numbers numbers;
+                std::memcpy(&numbers, entry, sizeof(numbers));
+                gap = numbers.gap;
+                length = numbers.length;
+                entry += sizeof(numbers);
             }
             text += gap;
             sink.text(event, {text, length});
@@ -97,48 +106,35 @@ public:
     }
 
 private:
-    using Entry = std::uint16_t;
-    // Five bits of event, four of gap, seven of length.
-    static constexpr unsigned eventShift = 11;
-    static constexpr unsigned gapShift = 7;
-    static constexpr unsigned longGap = 15;
-    static constexpr unsigned mostLength = 127;
-    static constexpr std::size_t longEntries = 5;
-    static constexpr std::size_t mostEntries = 256 * 1024;
+    using Byte = std::uint8_t;
+
+    // The runtime, too, counts a text's bytes in 32 bits.
+    struct Numbers
+    {
+        std::uint32_t gap;
+        std::uint32_t length;
+    };
+
+    static constexpr Byte longGap = 255;
+    static constexpr std::size_t mostLength = 255;
+    static constexpr std::size_t shortEntry = 3;
+    static constexpr std::size_t longEntry = shortEntry + sizeof(Numbers);
+    static constexpr std::size_t mostBytes = 512 * 1024;
 
     EventRecord(const char* begin, std::size_t room)
-        : entries_(new Entry[room]), last_(entries_.get()), lastLine_(last_), end_(last_ + room),
+        : entries_(new Byte[room]), last_(entries_.get()), lastLine_(last_), end_(last_ + room),
           begin_(begin), textEnd_(begin), lineEnd_(begin)
     {
     }
 
-    // Once there has been no room, there is none for shorter events either.
-    bool hasRoom() noexcept
-    {
-        if (static_cast<std::size_t>(end_ - last_) >= longEntries)
-        {
-            return true;
-        }
-        end_ = last_;
-        return false;
-    }
+    // For the longest of entries, so that once there is no room there is none for shorter
+    // ones either.
+    bool hasRoom() const noexcept { return static_cast<std::size_t>(end_ - last_) >= longEntry; }
 
-    static Entry entry(Event event, std::size_t gap, std::size_t length) noexcept
-    {
-        return static_cast<Entry>(static_cast<unsigned>(event) << eventShift | gap << gapShift |
-                                  length);
-    }
-
-    void addLong(std::size_t number) noexcept
-    {
-        *last_++ = static_cast<Entry>(number);
-        *last_++ = static_cast<Entry>(number >> 16);
-    }
-
-    const std::unique_ptr<Entry[]> entries_;
-    Entry* last_;
-    const Entry* lastLine_; // the same, when the last line ended
-    const Entry* end_;
+    const std::unique_ptr<Byte[]> entries_;
+    Byte* last_;
+    const Byte* lastLine_; // the same, when the last line ended
+    const Byte* const end_;
     const char* begin_;
     const char* textEnd_;
     const char* lineEnd_;

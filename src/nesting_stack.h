@@ -1,9 +1,8 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <memory>
 
 namespace vorn::parsers::toml
 {
@@ -18,25 +17,35 @@ enum class Inside : std::uint8_t
 };
 
 // The arrays and inline tables that enclose a position: two bits a level, the innermost
-// outside of the stack.
+// outside of the stack.  Its room is never initialised, so that what a document does not
+// use of it costs no memory.
 class NestingStack
 {
 public:
+    // With room for all levels that a document of this many bytes can open and close.
+    explicit NestingStack(std::size_t size)
+        : room_(size / 2), words_(new Word[room_ / levelsPerWord + 1])
+    {
+    }
+
     Inside inside() const noexcept { return inside_; }
     // The innermost level is now this.
     void setInside(Inside inside) noexcept { inside_ = inside; }
 
-    void enter(Inside inside)
+    // Whether there has been room.
+    bool enter(Inside inside) noexcept
     {
-        if (depth_ / levelsPerWord == words_.size())
+        if (depth_ == room_)
         {
-            words_.resize(words_.size() * growth);
+            return false;
         }
-        Word& word = words_[depth_ / levelsPerWord];
         const unsigned shift = shiftOf(depth_);
-        word = (word & ~(Word{3} << shift)) | (Word{static_cast<std::uint8_t>(inside_)} << shift);
+        Word& word = words_[depth_ / levelsPerWord];
+        const Word below = shift == 0 ? 0 : word & ((Word{1} << shift) - 1);
+        word = below | (Word{static_cast<std::uint8_t>(inside_)} << shift);
         ++depth_;
         inside_ = inside;
+        return true;
     }
 
     void leave() noexcept
@@ -48,15 +57,14 @@ public:
 private:
     using Word = std::uint32_t;
     static constexpr std::size_t levelsPerWord = 16;
-    // Few allocations count for more than spare room: 16 times 64 levels, and so on.
-    static constexpr std::size_t growth = 16;
 
     static unsigned shiftOf(std::size_t depth) noexcept
     {
         return static_cast<unsigned>(depth % levelsPerWord) * 2;
     }
 
-    std::vector<Word> words_ = std::vector<Word>(4);
+    const std::size_t room_; // in levels
+    const std::unique_ptr<Word[]> words_;
     std::size_t depth_ = 0;
     Inside inside_ = Inside::pair;
 };

@@ -10,15 +10,19 @@
 namespace vorn::parsers::toml
 {
 
-constexpr bool isKey(TokenType type)
-{
-    return type == TokenType::bareKey || type == TokenType::basicString ||
-           type == TokenType::literalString;
-}
-
+// The event of a key or a part of one; none for other tokens.
 constexpr Event keyEvent(TokenType type)
 {
-    return type == TokenType::bareKey ? Event::visitBareKey : Event::visitQuotedKey;
+    switch (type)
+    {
+    case TokenType::bareKey:
+        return Event::visitBareKey;
+    case TokenType::basicString:
+    case TokenType::literalString:
+        return Event::visitQuotedKey;
+    default:
+        return Event::none;
+    }
 }
 
 // The event of a scalar; none for other tokens.
@@ -58,8 +62,8 @@ constexpr Event scalarEvent(TokenType type)
     }
 }
 
-// Follows the rules of documents token by token, with one token of lookahead.  Each
-// member leaves the first token behind what it has read; false means a refusal.
+// Follows the rules of documents token by token.  Each member stops before the first
+// token behind what it has read; false means a refusal.
 template <typename Sink>
 class Reader
 {
@@ -72,16 +76,15 @@ public:
     // Reads all lines.
     bool lines()
     {
-        for (advance(); next_.type != TokenType::endOfInput;)
+        while (!tokens_.atEnd())
         {
-            if (next_.type == TokenType::newline)
+            if (tokens_.takeNewline())
             {
-                advance();
                 continue;
             }
-            const bool read = next_.type == TokenType::openBracket ? header() : pair();
+            const bool read = tokens_.take('[') ? header() : pair();
             // A line break must follow, also at the document's end.
-            if (!read || next_.type != TokenType::newline)
+            if (!read || !tokens_.takeNewline())
             {
                 return false;
             }
@@ -91,35 +94,20 @@ public:
     }
 
 private:
-    void advance() { next_ = tokens_.next(); }
-
-    // Goes over a token of the given type.
-    bool expect(TokenType type)
-    {
-        if (next_.type != type)
-        {
-            return false;
-        }
-        advance();
-        return true;
-    }
-
     bool header()
     {
-        advance();
-        if (next_.type != TokenType::openBracket)
+        if (!tokens_.take('['))
         {
             sink_.event(Event::beginTable);
-            if (!key() || !expect(TokenType::closeBracket))
+            if (!key() || !tokens_.take(']'))
             {
                 return false;
             }
             sink_.event(Event::endTable);
             return true;
         }
-        advance();
         sink_.event(Event::beginArrayTable);
-        if (!key() || !expect(TokenType::closeBracket) || !expect(TokenType::closeBracket))
+        if (!key() || !tokens_.take(']') || !tokens_.take(']'))
         {
             return false;
         }
@@ -129,38 +117,45 @@ private:
 
     bool key()
     {
-        if (!isKey(next_.type))
+        const Lexeme first = tokens_.take();
+        const bool dotted = tokens_.isNext('.');
+        if (dotted)
+        {
+            sink_.event(Event::beginDottedKey);
+        }
+        if (!keyPart(first))
         {
             return false;
         }
-        const TokenType type = next_.type;
-        const std::string_view first = next_.text;
-        advance();
-        if (next_.type != TokenType::dot)
+        while (tokens_.take('.'))
         {
-            sink_.text(keyEvent(type), first);
-            return true;
-        }
-        sink_.event(Event::beginDottedKey);
-        sink_.text(keyEvent(type), first);
-        while (next_.type == TokenType::dot)
-        {
-            advance();
-            if (!isKey(next_.type))
+            if (!keyPart(tokens_.take()))
             {
                 return false;
             }
-            sink_.text(keyEvent(next_.type), next_.text);
-            advance();
         }
-        sink_.event(Event::endDottedKey);
+        if (dotted)
+        {
+            sink_.event(Event::endDottedKey);
+        }
+        return true;
+    }
+
+    bool keyPart(const Lexeme& part)
+    {
+        const Event event = keyEvent(part.type);
+        if (event == Event::none)
+        {
+            return false;
+        }
+        sink_.text(event, part.text);
         return true;
     }
 
     bool keyAndEquals()
     {
         sink_.event(Event::beginKeyValue);
-        return key() && expect(TokenType::equals);
+        return key() && tokens_.take('=');
     }
 
     // A pair of the top level, with all that nests in it.
@@ -173,32 +168,32 @@ private:
         for (;;)
         {
             // A value begins here, or what it encloses.
-            if (next_.type == TokenType::openBracket)
+            if (tokens_.take('['))
             {
                 sink_.event(Event::beginArray);
-                nesting_.enter(Inside::firstElement);
-                advance();
-                skipNewline();
+                if (!nesting_.enter(Inside::firstElement))
+                {
+                    return false;
+                }
+                tokens_.takeNewline();
                 continue;
             }
-            if (next_.type == TokenType::openBrace)
+            if (tokens_.take('{'))
             {
                 sink_.event(Event::beginInlineTable);
-                nesting_.enter(Inside::inlineTable);
-                advance();
-                if (!keyAndEquals())
+                if (!nesting_.enter(Inside::inlineTable) || !keyAndEquals())
                 {
                     return false;
                 }
                 continue;
             }
-            const Event scalar = scalarEvent(next_.type);
+            const Lexeme value = tokens_.take();
+            const Event scalar = scalarEvent(value.type);
             if (scalar == Event::none)
             {
                 return false;
             }
-            sink_.text(scalar, next_.text);
-            advance();
+            sink_.text(scalar, value.text);
 
             // The value ends, and maybe what encloses it.
             After after = After::end;
@@ -225,17 +220,14 @@ private:
         refusal,
     };
 
-    bool skipNewline() { return expect(TokenType::newline); }
-
     After afterPair()
     {
         sink_.event(Event::endKeyValue);
-        if (next_.type == TokenType::comma)
+        if (tokens_.take(','))
         {
-            advance();
             return keyAndEquals() ? After::value : After::refusal;
         }
-        if (!expect(TokenType::closeBrace))
+        if (!tokens_.take('}'))
         {
             return After::refusal;
         }
@@ -251,20 +243,16 @@ private:
     {
         if (nesting_.inside() == Inside::laterElement)
         {
-            skipNewline();
+            tokens_.takeNewline();
         }
-        const bool committed = skipNewline();
-        if (next_.type == TokenType::comma)
+        const bool committed = tokens_.takeNewline();
+        if (tokens_.take(',') && !tokens_.isNext(']'))
         {
-            advance();
-            if (next_.type != TokenType::closeBracket)
-            {
-                skipNewline();
-                nesting_.setInside(Inside::laterElement);
-                return After::value;
-            }
+            tokens_.takeNewline();
+            nesting_.setInside(Inside::laterElement);
+            return After::value;
         }
-        if (committed || !expect(TokenType::closeBracket))
+        if (committed || !tokens_.take(']'))
         {
             return After::refusal;
         }
@@ -276,7 +264,6 @@ private:
     ScannedTokens tokens_;
     NestingStack& nesting_;
     Sink& sink_;
-    Lexeme next_ = {TokenType::none, {}}; // the lookahead
 };
 
 } // namespace vorn::parsers::toml

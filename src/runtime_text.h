@@ -1,10 +1,15 @@
 // Texts of the runtime's objects.
+//
+// The runtime's own operations make strings that live as long as the input.  Those here
+// make the same texts without them.  None of them throws, since they are needed below
+// frames of the runtime: where memory runs out, they answer null.
 #pragma once
 
 #include <antlr3.h>
 
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 namespace vorn::parsers::toml
 {
@@ -22,11 +27,26 @@ struct FreeText
     void operator()(char* text) const noexcept { std::free(text); }
 };
 
-// The text of all tokens of a stream, joined and NUL-terminated; null when memory
-// runs out, since it is needed where no exception may be thrown.
-//
-// The runtime's own toString() makes the same text, but from a string for each
-// token that lives as long as the input, for every error anew.
-std::unique_ptr<char, FreeText> textOf(pANTLR3_TOKEN_STREAM tokens) noexcept;
+using Text = std::unique_ptr<char, FreeText>; // NUL-terminated
+
+inline const char* orEmpty(const Text& text) noexcept
+{
+    return text != nullptr ? text.get() : "";
+}
+
+// The text of a token that the lexer made, up to its first NUL byte.
+std::string_view lexeme(const ANTLR3_COMMON_TOKEN& token) noexcept;
+
+// Whether a token has its text from the input.
+bool isLexed(const ANTLR3_COMMON_TOKEN& token) noexcept;
+
+// What the lexer has read of the token that it is at, as its getText().
+Text matchedText(pANTLR3_LEXER lexer) noexcept;
+
+// The text of all tokens of a stream, joined, as the stream's toString().
+Text textOf(pANTLR3_TOKEN_STREAM tokens) noexcept;
+
+// The text of a tree, as the tree's toStringTree().
+Text textOf(pANTLR3_BASE_TREE tree) noexcept;
 
 } // namespace vorn::parsers::toml

@@ -17,22 +17,42 @@ struct Lexeme
     std::string_view text;
 };
 
-// Scans a text for its tokens, blanks and comments left out.
+// Goes over a text token by token, blanks and comments left out.  Tokens of one
+// character are known by it, the others are scanned when they are taken.
 class ScannedTokens
 {
 public:
-    explicit ScannedTokens(const char* begin, const char* end) : at_(begin), end_(end) {}
+    ScannedTokens(const char* begin, const char* end) : at_(begin), end_(end) { skipBlanks(); }
 
-    Lexeme next() noexcept
+    bool atEnd() const noexcept { return at_ == end_; }
+
+    // Whether the next token is, or begins with, this character.
+    bool isNext(char c) const noexcept { return at_ != end_ && *at_ == c; }
+
+    // Goes over a token of one character, if it is the next.
+    bool take(char c) noexcept
     {
-        at_ = skip(at_, end_, blank);
-        if (at_ != end_ && *at_ == '#' && !skipComments())
+        if (!isNext(c))
         {
-            return {TokenType::none, {}};
+            return false;
         }
+        ++at_;
+        skipBlanks();
+        return true;
+    }
+
+    // Goes over line breaks, if they come next.
+    bool takeNewline() noexcept
+    {
+        return (isNext('\n') || isNext('\r')) && take().type == TokenType::newline;
+    }
+
+    // Goes over the next token, whatever it is; stays where none is recognised.
+    Lexeme take() noexcept
+    {
         if (at_ == end_)
         {
-            return {TokenType::endOfInput, {}};
+            return {TokenType::none, {}};
         }
         const char* const begin = at_;
         const Token token = scanToken(begin, end_);
@@ -41,18 +61,27 @@ public:
             return {TokenType::none, {}};
         }
         at_ = token.end;
-        return {token.type, {begin, static_cast<std::size_t>(at_ - begin)}};
+        const std::string_view text(begin, static_cast<std::size_t>(at_ - begin));
+        skipBlanks();
+        return {token.type, text};
     }
 
-    // Behind the token that came last.
+    // Before the next token.
     const char* position() const noexcept { return at_; }
 
 private:
-    // A comment ends before a line break, so that no other can follow it.
-    bool skipComments() noexcept
+    // Also goes over a comment, which ends before a line break.  One that is not
+    // recognised stays: no token begins with its character.
+    void skipBlanks() noexcept
     {
-        at_ = commentEnd(at_, end_);
-        return at_ != nullptr;
+        at_ = skip(at_, end_, blank);
+        if (isNext('#'))
+        {
+            if (const char* const stop = commentEnd(at_, end_))
+            {
+                at_ = stop;
+            }
+        }
     }
 
     const char* at_;

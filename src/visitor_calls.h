@@ -3,6 +3,7 @@
 #include <vorn/parsers/toml.h>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstring>
 #include <memory>
@@ -24,74 +25,37 @@ public:
     {
     }
 
-    void event(Event event)
-    {
-        switch (event)
-        {
-        case Event::beginKeyValue:
-            return visitor_.beginKeyValue();
-        case Event::endKeyValue:
-            return visitor_.endKeyValue();
-        case Event::beginTable:
-            return visitor_.beginTable();
-        case Event::endTable:
-            return visitor_.endTable();
-        case Event::beginArrayTable:
-            return visitor_.beginArrayTable();
-        case Event::endArrayTable:
-            return visitor_.endArrayTable();
-        case Event::beginDottedKey:
-            return visitor_.beginDottedKey();
-        case Event::endDottedKey:
-            return visitor_.endDottedKey();
-        case Event::beginArray:
-            return visitor_.beginArray();
-        case Event::endArray:
-            return visitor_.endArray();
-        case Event::beginInlineTable:
-            return visitor_.beginInlineTable();
-        default:
-            return visitor_.endInlineTable();
-        }
-    }
+    void event(Event event) { (visitor_.*operations[static_cast<std::size_t>(event)])(); }
 
-    void text(Event event, std::string_view lexeme)
+    void text(Event event, std::string_view text)
     {
-        const char* const text = terminated(lexeme);
-        switch (event)
-        {
-        case Event::visitBareKey:
-            return visitor_.visitBareKey(text);
-        case Event::visitQuotedKey:
-            return visitor_.visitQuotedKey(text);
-        case Event::visitBasicString:
-            return visitor_.visitBasicString(text);
-        case Event::visitMultilineBasicString:
-            return visitor_.visitMultilineBasicString(text);
-        case Event::visitLiteralString:
-            return visitor_.visitLiteralString(text);
-        case Event::visitMultilineLiteralString:
-            return visitor_.visitMultilineLiteralString(text);
-        case Event::visitInteger:
-            return visitor_.visitInteger(text);
-        case Event::visitFloat:
-            return visitor_.visitFloat(text);
-        case Event::visitBoolean:
-            return visitor_.visitBoolean(text);
-        case Event::visitOffsetDateTime:
-            return visitor_.visitOffsetDateTime(text);
-        case Event::visitLocalDateTime:
-            return visitor_.visitLocalDateTime(text);
-        case Event::visitLocalDate:
-            return visitor_.visitLocalDate(text);
-        default:
-            return visitor_.visitLocalTime(text);
-        }
+        const std::size_t operation = static_cast<std::size_t>(event) - operations.size();
+        (visitor_.*textOperations[operation])(terminated(text));
     }
 
     void lineEnd(const char*) noexcept {}
 
 private:
+    using Visitor = ITomlTreeVisitor;
+
+    // In the order of the events.
+    static constexpr std::array<void (Visitor::*)(), 12> operations = {
+        &Visitor::beginKeyValue,  &Visitor::endKeyValue,      &Visitor::beginTable,
+        &Visitor::endTable,       &Visitor::beginArrayTable,  &Visitor::endArrayTable,
+        &Visitor::beginDottedKey, &Visitor::endDottedKey,     &Visitor::beginArray,
+        &Visitor::endArray,       &Visitor::beginInlineTable, &Visitor::endInlineTable};
+    static constexpr std::array<void (Visitor::*)(const char*), 13> textOperations = {
+        &Visitor::visitBareKey,       &Visitor::visitQuotedKey,
+        &Visitor::visitBasicString,   &Visitor::visitMultilineBasicString,
+        &Visitor::visitLiteralString, &Visitor::visitMultilineLiteralString,
+        &Visitor::visitInteger,       &Visitor::visitFloat,
+        &Visitor::visitBoolean,       &Visitor::visitOffsetDateTime,
+        &Visitor::visitLocalDateTime, &Visitor::visitLocalDate,
+        &Visitor::visitLocalTime};
+    static_assert(static_cast<std::size_t>(Event::visitBareKey) == operations.size());
+    static_assert(static_cast<std::size_t>(Event::none) ==
+                  operations.size() + textOperations.size());
+
     // Most texts are short, and a block of fixed size is copied fastest.
     static constexpr std::size_t block = 32;
 

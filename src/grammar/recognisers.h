@@ -1,4 +1,4 @@
-// The recognisers made from Toml.g and TomlTree.g, and their token names.
+// The recognisers of Toml.g and TomlTree.g, and their token names.
 //
 // Include this header last: it defines a macro for every token type, and some of
 // those names (EOF, NAN, ...) belong to the C library as well.
@@ -9,7 +9,7 @@
 // Before the recognisers, whose headers include it between C declarations.
 #include "tree_actions.h"
 
-#include "TomlLexer.h"
+#include "toml_lexer.h"
 #include "TomlParser.h"
 #include "TomlTree.h"
 

@@ -38,6 +38,10 @@ Token scanNewlines(const char* begin, const char* end) noexcept
 
 Token scanToken(const char* begin, const char* end) noexcept
 {
+    if (is(*begin, keyCharacter))
+    {
+        return is(*begin, digit) ? scanDigit(begin, end) : scanWord(begin, end);
+    }
     switch (*begin)
     {
     case ',':
@@ -72,7 +76,7 @@ Token scanToken(const char* begin, const char* end) noexcept
     case '+':
         return scanPlus(begin, end);
     default:
-        return is(*begin, keyCharacter) ? scanWord(begin, end) : Token{TokenType::none, nullptr};
+        return {TokenType::none, nullptr};
     }
 }
 

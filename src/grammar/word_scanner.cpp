@@ -153,7 +153,8 @@ Token scanNumber(const char* begin, const char* end) noexcept
     return {classifyNumber(begin, stop), stop};
 }
 
-// What begins with a digit.
+} // namespace
+
 Token scanDigit(const char* begin, const char* end) noexcept
 {
     const char* const stop = skip(begin, end, digit);
@@ -174,14 +175,8 @@ Token scanDigit(const char* begin, const char* end) noexcept
     return {plain ? TokenType::decInt : TokenType::bareKey, stop};
 }
 
-} // namespace
-
 Token scanWord(const char* begin, const char* end) noexcept
 {
-    if (is(*begin, digit))
-    {
-        return scanDigit(begin, end);
-    }
     if (*begin == '-' && end - begin > 1 && is(begin[1], digit))
     {
         return scanNumber(begin, end);

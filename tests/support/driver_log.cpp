@@ -27,6 +27,8 @@ const std::vector<Format>& formats()
         {"Failed to create toml tree", "visitTomlTree"},
         {"Failed to visit toml tree", "visitTomlTree"},
         {"Failed: input TOML has %d syntax errors", "visitTomlTree"},
+        {"Failed: input TOML is nested too deeply (%u levels)", "visitTomlTree"},
+        {"Failed: input TOML is too large to diagnose (%zu bytes)", "visitTomlTree"},
         {"No such file: %s", "visitTomlTree"},
         {"Failed to open file; %s", "visitTomlTree"},
         {"Invalid TOML: lexer failure at: %s", "operator()"},
@@ -45,7 +47,7 @@ bool matches(const std::string& format, const std::string& message)
         return message == format;
     }
     const std::string head = format.substr(0, argument);
-    const std::string tail = format.substr(argument + 2);
+    const std::string tail = format.substr(format.find_first_of("dsu", argument) + 1);
     return message.size() >= head.size() + tail.size() &&
            message.compare(0, head.size(), head) == 0 &&
            message.compare(message.size() - tail.size(), tail.size(), tail) == 0;
@@ -108,6 +110,16 @@ std::string walkFailure()
 std::string syntaxErrors(int count)
 {
     return "Failed: input TOML has " + std::to_string(count) + " syntax errors";
+}
+
+std::string tooDeep(unsigned levels)
+{
+    return "Failed: input TOML is nested too deeply (" + std::to_string(levels) + " levels)";
+}
+
+std::string tooLarge(std::size_t bytes)
+{
+    return "Failed: input TOML is too large to diagnose (" + std::to_string(bytes) + " bytes)";
 }
 
 void expectDriverLog(const std::vector<LogLine>& lines, const Messages& messages)

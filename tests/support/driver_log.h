@@ -3,6 +3,7 @@
 
 #include "support/log_recorder.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,8 @@ std::string parserFailure(const std::string& tokens);
 std::string treeFailure();
 std::string walkFailure();
 std::string syntaxErrors(int count);
+std::string tooDeep(unsigned levels);
+std::string tooLarge(std::size_t bytes);
 
 // Checks that `lines` are the lines that the driver logs for `messages`: module, level,
 // format and all, and the place of the message in the source.

@@ -38,4 +38,14 @@ std::string StderrCapture::text() const
     return content;
 }
 
+std::string StderrCapture::take()
+{
+    std::string taken = text();
+    if (!taken.empty() && (ftruncate(file_, 0) != 0 || lseek(file_, 0, SEEK_SET) != 0))
+    {
+        throw std::runtime_error("captured standard error cannot be cleared");
+    }
+    return taken;
+}
+
 } // namespace test

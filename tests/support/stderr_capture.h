@@ -15,8 +15,9 @@ public:
     StderrCapture& operator=(const StderrCapture&) = delete;
     ~StderrCapture();
 
-    // What has been written so far.
+    // What has been written so far, or since it was taken.
     std::string text() const;
+    std::string take();
 
 private:
     int saved_ = -1;

@@ -1,0 +1,133 @@
+#include "documents.h"
+
+#include <utility>
+
+namespace bench
+{
+namespace
+{
+
+// Makes part `number` of a document.  Parts follow each other in any number.
+using Part = std::string (*)(unsigned number);
+
+std::string numbered(const char* text, unsigned number)
+{
+    return text + std::to_string(number);
+}
+
+// A service's configuration: a little of everything.
+std::string service(unsigned number)
+{
+    return "[[service]]\n"
+           "name = \"" +
+           numbered("collector-", number) +
+           "\"  # as systemd knows it\n"
+           "command = '/usr/bin/collectd --config \"/etc/collectd.conf\"'\n"
+           "enabled = true\n"
+           "priority = " +
+           std::to_string(number % 40) +
+           "\n"
+           "ports = [8080, 8443, 9_000]\n"
+           "timeout = 2.5\n"
+           "limits = { memory = \"128M\", files = 1_024, cpu = 0.5 }\n"
+           "started = 2024-03-14T09:26:53Z\n"
+           "env.LANG = \"en_US.UTF-8\"\n"
+           "env.HOME = \"/var/lib/collectd\"\n"
+           "\n"
+           "[service.restart]\n"
+           "policy = \"on-failure\"\n"
+           "delays = [ 0.5, 1.0, 5.0, 30.0 ]\n"
+           "\n";
+}
+
+// A string of about 1 KB.
+std::string longString(unsigned number)
+{
+    std::string text = numbered("text-", number) + " = \"";
+    for (unsigned count = 0; count < 22; ++count)
+    {
+        text += "the quick brown fox jumps over the lazy dog ";
+    }
+    return text + "\"\n";
+}
+
+std::string numberArray(unsigned number)
+{
+    std::string text = numbered("samples-", number) + " = [";
+    for (unsigned index = 0; index < 70; ++index)
+    {
+        text += (index > 0 ? ", " : "") + std::to_string((number * 7919 + index * 104729) % 100000);
+    }
+    return text + "]\n";
+}
+
+std::string smallTable(unsigned number)
+{
+    return "# The sensor in slot " + std::to_string(number) +
+           ", calibrated at the factory.\n"
+           "[sensor." +
+           numbered("slot-", number) +
+           "]\n"
+           "unit = \"celsius\"  # shown beside the value\n"
+           "offset = -0.25\n"
+           "active = true\n"
+           "\n";
+}
+
+// Dates, in inline tables too.
+std::string datedEntry(unsigned number)
+{
+    return "[[entry]]\n"
+           "created = 1979-05-27T07:32:00Z\n"
+           "changed = 1979-05-27T00:32:00.999999-07:00\n"
+           "day = 1979-05-27\n"
+           "window = { from = 07:32:00, until = 09:15:00, zone = { id = " +
+           std::to_string(number) + ", local = 1979-05-27T07:32:00 } }\n";
+}
+
+// One part of each kind.  Where keys stand in no table of their own they get one.
+std::string mixed(unsigned number)
+{
+    return service(number) + smallTable(number) + datedEntry(number) +
+           numbered("\n[part-", number) + "]\n" + numberArray(number) + longString(number);
+}
+
+// As many parts as bring the text closest to the size.
+std::string repeat(Part part, std::size_t size)
+{
+    std::string text;
+    for (unsigned number = 0;; ++number)
+    {
+        const std::string next = part(number);
+        if (text.size() + next.size() / 2 >= size)
+        {
+            return text;
+        }
+        text += next;
+    }
+}
+
+} // namespace
+
+std::vector<Document> documents()
+{
+    const std::pair<const char*, Part> kinds[] = {{"services", service},
+                                                  {"long-strings", longString},
+                                                  {"number-arrays", numberArray},
+                                                  {"small-tables", smallTable},
+                                                  {"dates", datedEntry}};
+    const std::pair<const char*, std::size_t> sizes[] = {
+        {"1KB", 1'000}, {"100KB", 100'000}, {"1MB", 1'000'000}};
+    std::vector<Document> all;
+    for (const auto& [kind, part] : kinds)
+    {
+        for (const auto& [name, size] : sizes)
+        {
+            all.push_back({std::string(kind) + '/' + name, size, repeat(part, size)});
+        }
+    }
+    all.push_back({"mixed/10MB", 10'000'000, repeat(mixed, 10'000'000)});
+    return all;
+}
+
+} // namespace bench

@@ -1,0 +1,60 @@
+// What surrounds the runtime's displays of errors: they print the same, but no longer
+// need memory that grows with every error.
+#pragma once
+
+#include <antlr3.h>
+
+namespace vorn::parsers::toml
+{
+
+// The runtime's default lexer display passes the offending character to isprint(),
+// whose domain ends at 255, and prints no more than its low byte.
+class PrintableCharacter
+{
+public:
+    explicit PrintableCharacter(pANTLR3_EXCEPTION exception)
+        : exception_(exception), character_(exception->c)
+    {
+        if (character_ != ANTLR3_CHARSTREAM_EOF)
+        {
+            exception_->c &= 0xFF;
+        }
+    }
+    PrintableCharacter(const PrintableCharacter&) = delete;
+    PrintableCharacter& operator=(const PrintableCharacter&) = delete;
+    ~PrintableCharacter() { exception_->c = character_; }
+
+private:
+    pANTLR3_EXCEPTION exception_;
+    decltype(ANTLR3_EXCEPTION::c) character_;
+};
+
+// Frees the strings that a factory makes while this lives.
+class TemporaryStrings
+{
+public:
+    explicit TemporaryStrings(pANTLR3_STRING_FACTORY factory)
+        : factory_(factory), kept_(factory->index)
+    {
+    }
+    TemporaryStrings(const TemporaryStrings&) = delete;
+    TemporaryStrings& operator=(const TemporaryStrings&) = delete;
+    ~TemporaryStrings();
+
+private:
+    pANTLR3_STRING_FACTORY factory_;
+    ANTLR3_UINT32 kept_;
+};
+
+// Frees the exceptions before the last one.  The runtime keeps them all, unused.
+void forgetEarlierErrors(pANTLR3_BASE_RECOGNIZER recogniser) noexcept;
+
+// The factory of the strings that a parser's display makes, none of which is kept: a token
+// that keeps its string has it already.
+pANTLR3_STRING_FACTORY prepareDisplay(pANTLR3_PARSER parser) noexcept;
+
+// The same for a tree parser's display, which gets the text of the offending tree from
+// textOf().
+pANTLR3_STRING_FACTORY prepareDisplay(pANTLR3_TREE_PARSER parser) noexcept;
+
+} // namespace vorn::parsers::toml

@@ -1,0 +1,18 @@
+// The direct reader, switched off.  The program that links this wraps readDirectly()
+// (--wrap of the linker), which then refuses all documents.
+#pragma once
+
+namespace test
+{
+
+// The direct reader does its work while this lives.
+class DirectReadingOn
+{
+public:
+    DirectReadingOn();
+    DirectReadingOn(const DirectReadingOn&) = delete;
+    DirectReadingOn& operator=(const DirectReadingOn&) = delete;
+    ~DirectReadingOn();
+};
+
+} // namespace test
