@@ -26,12 +26,14 @@ namespace
 // Replaces every occurrence of `from`; what has been inserted is not searched again.
 std::string replaceAll(std::string text, const std::string& from, const std::string& to)
 {
-    for (std::size_t at = text.find(from); at != std::string::npos;
-         at = text.find(from, at + to.size()))
+    std::string result;
+    std::size_t rest = 0;
+    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, rest))
     {
-        text.replace(at, from.size(), to);
+        result.append(text, rest, at - rest).append(to);
+        rest = at + from.size();
     }
-    return text;
+    return result.append(text, rest);
 }
 
 std::string withoutUnderscores(std::string text)

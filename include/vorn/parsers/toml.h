@@ -257,13 +257,13 @@ VORN_PARSERS_API std::string processMultilineLiteralString(std::string text);
 //   std::locale::global(std::locale("de_DE.UTF-8"));
 //   parseFloat("3.5")       // 35: the point is German digit grouping
 //
-// A text that does not convert yields what the stream leaves: false, 0 or 0.0, also for
-// an empty or a blank text; after a value, the rest of a text is not looked at.
+// Blanks before a value are skipped, and what follows it is not looked at.  A text that
+// does not convert, an empty or a blank one among them, yields false, 0 or 0.0.
 
 // The value of a boolean.
 //
 //   parseBoolean("true")    // true
-//   parseBoolean("True")    // false, as is everything but "true"
+//   parseBoolean("True")    // false: the names are in lower case
 VORN_PARSERS_API bool parseBoolean(const std::string& text);
 
 // The value of an integer, with its sign or prefix, and underscores anywhere.
@@ -280,7 +280,7 @@ VORN_PARSERS_API bool parseBoolean(const std::string& text);
 //   parseInteger("0b1101_0101")           // 213
 //   parseInteger("9223372036854775808")   // 9223372036854775807
 //   parseInteger("0x8000000000000000")    // 9223372036854775807
-//   parseInteger("-0x1")                  // 0: a sign goes with decimal digits only
+//   parseInteger("-0x1")                  // 0: a prefix stands at the start only
 //   parseInteger("")                      // 0
 VORN_PARSERS_API long long parseInteger(std::string text);
 
@@ -293,6 +293,7 @@ VORN_PARSERS_API long long parseInteger(std::string text);
 //   parseFloat("1_000.5")     // 1000.5
 //   parseFloat("-inf")        // 0.0
 //   parseFloat("1e400")       // 1.7976931348623157e308
+//   parseFloat("1e")          // 0.0: an exponent has digits
 VORN_PARSERS_API double parseFloat(std::string text);
 
 // The point in time of an offset or a local date-time: seconds since the epoch;
@@ -302,18 +303,27 @@ VORN_PARSERS_API double parseFloat(std::string text);
 //
 //   - A zone letter or an offset is not applied.
 //   - The fraction of a second is not carried over.
-//   - Daylight saving time is taken into account behind a zone letter only; the other
-//     forms are read as standard time.
+//   - Daylight saving time is taken into account where a zone letter follows the seconds;
+//     the other forms, a fraction with a letter too, are read as standard time.
 //
 // With TZ=UTC:
 //
 //   parseDateTime("1979-05-27T07:32:00Z")          // 296638320
 //   parseDateTime("1979-05-27T07:32:00-07:00")     // 296638320: the offset is ignored
 //   parseDateTime("1979-05-27 07:32:00.999999")    // 296638320: so is the fraction
+//   parseDateTime("1979-02-30T07:32:00Z")          // 289207920: March 2
+//   parseDateTime("1979-05-27T25:00:00Z")          // 296611200: the day's midnight
+//   parseDateTime("1979-13-01T07:32:00Z")          // -2209075200: 1899-12-31 00:00:00
 //
 // A text without a date and time, joined by 'T' or a blank, yields zero and the log line
 // "Failed to parse date-time: ...": so do local dates, local times and date-times with a
-// lower-case 't'.  Fields out of range are carried over (hour 25 is 1 on the next day).
+// lower-case 't'.  Otherwise the text is read from its start, as far as it fits.
+//
+// A day up to 31 that the month has not is carried over, and so are the seconds 60 and 61.
+// With another field out of range a time is read as midnight, and a date with its time as
+// the midnight of 1899-12-31; but of a day from 40 on and of a second from 70 on the first
+// digit is taken (the time of such a day is midnight).  The result is what mktime()
+// answers, which is -1 also for a time that time_t cannot hold.
 VORN_PARSERS_API timeval parseDateTime(const std::string& text);
 
 } // namespace vorn::parsers::toml
