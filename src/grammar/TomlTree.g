@@ -1,13 +1,15 @@
 // The walk over the syntax trees that Toml.g builds: it checks their shape and
 // makes the visitor calls, children left to right, in document order.
 //
-// Two kinds of rule react differently to a node that does not fit:
-//  - Structural rules stop.  They set the walk's flag `ok` to false and return
-//    with the recogniser's error still set, and so does every rule above them;
-//    nothing is reported, and the end calls of the open constructs are not made.
-//  - Text rules (those that end in _text) and whitespace report the error, which
-//    counts it, recover and go on: the caller hands over the text of whatever
-//    node stood there.
+// The runtime's own match comes first: where one node is missing or one is too many it
+// reports that, which counts it, and goes on as if the tree were right.  To what it does
+// not repair, two kinds of rule react differently:
+//  - Structural rules stop.  They set the walk's flag `ok` to false and return with the
+//    recogniser's error still set, and so does every rule above them; nothing is
+//    reported, and the end calls of the open constructs are not made.
+//  - Text rules (those that end in _text) and whitespace report the error, which counts
+//    it, recover and go on: the caller hands over the text of the node that the rule
+//    began at.
 //
 // The order of the rules fixes the members of the recogniser's context and the
 // numbers of its decisions.

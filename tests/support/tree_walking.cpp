@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tree_samples.h"
+
 #include "tree_pipeline.h"
 
 namespace test
@@ -23,31 +25,51 @@ TreeWalk walkTrees(const std::string& trees)
 
 void expectReported(const std::vector<ReportedCase>& cases)
 {
-    for (const ReportedCase& one : cases)
+    for (const ReportedCase& expected : cases)
     {
-        SCOPED_TRACE(one.trees);
-        const TreeWalk walk = walkTrees(one.trees);
-        EXPECT_EQ(walk.events, one.events);
-        EXPECT_EQ(walk.result, one.result);
-        EXPECT_EQ(walk.errors, one.errors);
-        EXPECT_EQ(walk.errorCount, one.errors.size());
+        SCOPED_TRACE(expected.trees);
+        const TreeWalk walk = walkTrees(expected.trees);
+        EXPECT_EQ(walk.events, expected.events);
+        EXPECT_EQ(walk.result, expected.result);
+        EXPECT_EQ(walk.errors, expected.errors);
+        EXPECT_EQ(walk.errorCount, expected.errors.size());
     }
 }
 
 void expectWalked(const std::vector<TreeCase>& cases)
 {
-    for (const TreeCase& one : cases)
+    for (const TreeCase& expected : cases)
     {
-        expectReported({{one.trees, one.events, {}, true}});
+        expectReported({{expected.trees, expected.events, {}, true}});
     }
 }
 
 void expectBrokenOff(const std::vector<TreeCase>& cases)
 {
-    for (const TreeCase& one : cases)
+    for (const TreeCase& expected : cases)
     {
-        expectReported({{one.trees, one.events, {}, false}});
+        expectReported({{expected.trees, expected.events, {}, false}});
     }
+}
+
+void expectReportedValue(const std::string& value, const Events& events, const ErrorKinds& errors)
+{
+    const std::string pairTree = "KEYVAL(" + keyA + ", " + value + ")";
+    expectReported({
+        {pairTree + end, document({pair(bare("a"), events)}), errors},
+        {pairTree + R"( NL "\n" )" + a + end, document({pair(bare("a"), events), aIsOne}), errors},
+    });
+}
+
+void expectReportedKey(const std::string& key, const Events& events, const ErrorKinds& errors)
+{
+    expectReported({
+        {"KEYVAL(" + key + ", " + one + ")" + end, document({pair(events, integer("1"))}), errors},
+        {"HEADER_TABLE(" + key + ")" + end, document({table(events)}), errors},
+        {"HEADER_ARRAY_TABLE(" + key + ")" + end, document({arrayTable(events)}), errors},
+        {"HEADER_TABLE(KEY_DOTTED(" + key + ", " + keyA + "))" + end,
+         document({table(dotted({events, bare("a")}))}), errors},
+    });
 }
 
 } // namespace test

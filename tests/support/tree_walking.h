@@ -30,7 +30,7 @@ struct TreeCase
 // Expects the calls and true, without an error.
 void expectWalked(const std::vector<TreeCase>& cases);
 
-// Expects the calls and false, without an error: a walk that breaks off reports nothing.
+// Expects the calls and false, without an error: what breaks off a walk is not reported.
 void expectBrokenOff(const std::vector<TreeCase>& cases);
 
 struct ReportedCase
@@ -43,5 +43,13 @@ struct ReportedCase
 
 // Expects the calls, the result and the errors, each displayed and counted once.
 void expectReported(const std::vector<ReportedCase>& cases);
+
+// Expects the calls, the errors and true for the tree as the value of a pair, with and
+// without a pair behind it.
+void expectReportedValue(const std::string& value, const Events& events, const ErrorKinds& errors);
+
+// The same for the tree as the key of a pair and of both kinds of headers, and as the
+// first part of a dotted key.
+void expectReportedKey(const std::string& key, const Events& events, const ErrorKinds& errors);
 
 } // namespace test
