@@ -9,15 +9,13 @@ namespace tool
 
 Status check(const std::string& name)
 {
-    const auto text = readInput(name);
-    if (!text)
-    {
-        return unreadable;
-    }
     IgnoringVisitor visitor;
-    const bool ok = vorn::parsers::toml::visitTomlTree(*text, visitor);
-    std::printf("%s: %s\n", name.c_str(), ok ? "accepted" : "rejected");
-    return ok ? accepted : rejected;
+    const Status status = visitInput(name, visitor);
+    if (status != unreadable)
+    {
+        std::printf("%s: %s\n", name.c_str(), status == accepted ? "accepted" : "rejected");
+    }
+    return status;
 }
 
 } // namespace tool

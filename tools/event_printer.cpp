@@ -1,5 +1,7 @@
 #include "event_printer.h"
 
+#include <string_view>
+
 namespace tool
 {
 namespace
@@ -33,21 +35,37 @@ void printEscaped(std::FILE* output, unsigned char byte)
     }
 }
 
+void printEscaped(std::FILE* output, std::string_view text)
+{
+    for (const char byte : text)
+    {
+        printEscaped(output, static_cast<unsigned char>(byte));
+    }
+}
+
 } // namespace
 
-void EventPrinter::print(const char* operation)
+void EventPrinter::event(const char* operation)
 {
     std::fprintf(output_, "%s\n", operation);
 }
 
-void EventPrinter::print(const char* operation, const char* text)
+void EventPrinter::event(const char* operation, const char* text)
 {
+    const std::optional<std::string> converted = value(operation, text);
     std::fprintf(output_, "%s ", operation);
-    for (; *text != '\0'; ++text)
+    printEscaped(output_, text);
+    if (converted)
     {
-        printEscaped(output_, static_cast<unsigned char>(*text));
+        std::fputs(" -> ", output_);
+        printEscaped(output_, *converted);
     }
     std::fputc('\n', output_);
+}
+
+std::optional<std::string> EventPrinter::value(const char*, const char*)
+{
+    return std::nullopt;
 }
 
 } // namespace tool

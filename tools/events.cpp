@@ -7,13 +7,8 @@ namespace tool
 
 Status printEvents(const std::string& name)
 {
-    const auto text = readInput(name);
-    if (!text)
-    {
-        return unreadable;
-    }
     EventPrinter printer(stdout);
-    return vorn::parsers::toml::visitTomlTree(*text, printer) ? accepted : rejected;
+    return visitInput(name, printer);
 }
 
 } // namespace tool

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <optional>
 
 namespace tool
 {
@@ -32,8 +33,7 @@ std::optional<std::string> fail(const std::string& name)
     return std::nullopt;
 }
 
-} // namespace
-
+// The whole content of a file, or of standard input for "-".
 std::optional<std::string> readInput(const std::string& name)
 {
     std::string content;
@@ -43,6 +43,18 @@ std::optional<std::string> readInput(const std::string& name)
     }
     const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(name.c_str(), "rb"));
     return file && readAll(file.get(), content) ? std::optional(std::move(content)) : fail(name);
+}
+
+} // namespace
+
+Status visitInput(const std::string& name, vorn::parsers::toml::ITomlTreeVisitor& visitor)
+{
+    const auto text = readInput(name);
+    if (!text)
+    {
+        return unreadable;
+    }
+    return vorn::parsers::toml::visitTomlTree(*text, visitor) ? accepted : rejected;
 }
 
 } // namespace tool

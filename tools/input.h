@@ -1,13 +1,16 @@
 #pragma once
 
-#include <optional>
+#include <vorn/parsers/toml.h>
+
 #include <string>
+
+#include "status.h"
 
 namespace tool
 {
 
-// The whole content of a file, or of standard input for "-".  If it cannot be read
-// the reason is printed on standard error.
-std::optional<std::string> readInput(const std::string& name);
+// Reads the document in a file, or in standard input for "-".  If there is nothing to
+// read the reason is printed on standard error.
+Status visitInput(const std::string& name, vorn::parsers::toml::ITomlTreeVisitor& visitor);
 
 } // namespace tool

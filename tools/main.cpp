@@ -72,6 +72,21 @@ int main(int argc, char** argv)
                "  visitInteger 1\n"
                "  endKeyValue\n"
                "  endDocument\n");
+    addCommand(app, status, tool::printValues, "values",
+               "Print the visitor calls of documents, with the values of the texts",
+               "  $ printf 'port = 0x1F\\nat = 1979-05-27T07:32:00\\n' |"
+               " TZ=UTC0 vorn-toml values - | grep visit\n"
+               "  visitBareKey port\n"
+               "  visitInteger 0x1F -> 31\n"
+               "  visitBareKey at\n"
+               "  visitLocalDateTime 1979-05-27T07:32:00 -> 1979-05-27T07:32:00+00:00 (296638320)\n"
+               "\n"
+               "Values are what the library's conversions give.  Strings and quoted keys lose\n"
+               "their quotes and keep their escapes; infinities and not-a-numbers give 0.\n"
+               "Date-times are read as local time, in the zone TZ, and shown with its offset\n"
+               "and the seconds since the epoch.  Bare keys, local dates and local times\n"
+               "have no conversion and no arrow.  What a conversion throws is shown behind\n"
+               "the arrow as \"error: ...\".\n");
     addCommand(app, status, tool::check, "check", "Tell whether documents are accepted",
                "  $ vorn-toml check network.toml\n"
                "  network.toml: accepted\n");

@@ -21,14 +21,20 @@ constexpr Choices keys[] = {
 
 constexpr Choices decimal = "0123456789";
 
-// Around and beyond the lengths that 7 bits and, now and then, 16 bits can tell.
+// Around and beyond the lengths that 7, 8 and, now and then, 16 bits can tell.
 std::size_t longLength(Random& random)
 {
-    if (random.oneIn(100))
+    switch (random.below(4))
     {
-        return random.oneIn(2) ? random.between(65520, 65540) : random.between(60000, 70000);
+    case 0:
+        return random.between(124, 130);
+    case 1:
+        return random.between(252, 258);
+    case 2:
+        return random.oneIn(100) ? random.between(65530, 65540) : random.between(60, 70);
+    default:
+        return random.oneIn(100) ? random.between(65000, 75000) : random.between(70, 700);
     }
-    return random.oneIn(2) ? random.between(118, 130) : random.between(100, 700);
 }
 
 } // namespace
@@ -68,7 +74,7 @@ std::string TokenGenerator::key()
     case 2:
         return quoted('\'');
     case 3:
-        return random_.oneIn(30) ? std::string(longLength(random_), random_.oneOf("a0-"))
+        return random_.oneIn(10) ? std::string(longLength(random_), random_.oneOf("a0-"))
                                  : std::string(random_.between(1, 20), random_.oneOf("zA_-"));
     default:
         return std::string(random_.oneOf(keys));
@@ -89,7 +95,7 @@ std::string TokenGenerator::multiLine(char quote)
 
 std::string TokenGenerator::content(char quote, bool lines)
 {
-    if (random_.oneIn(100))
+    if (random_.oneIn(50))
     {
         return longContent();
     }

@@ -18,7 +18,7 @@ from typing import NamedTuple
 
 FENCE = re.compile(r"^```([^\n`]*)\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 FENCE_LINE = re.compile(r"^\s*```", re.MULTILINE)
-TOOL = re.compile(r"(?<![\w./-])(?:\./)?scripts/vorn-toml(?![\w.-])")
+STAND_INS = re.compile(r"(?<![\w./-])(?:\./)?(scripts/vorn-toml|build/test)(?![\w.-])")
 TIME_LIMIT = 120  # seconds, for a command or a program
 
 
@@ -88,9 +88,9 @@ def differences(expected, actual):
 
 def run_command(command, options):
     """What is wrong with a command of a page, or nothing."""
-    tool = shlex.quote(str(options.tool))
+    places = {"scripts/vorn-toml": options.tool, "build/test": options.build}
     run = subprocess.run(
-        ["sh", "-c", TOOL.sub(lambda _: tool, command.text)],
+        ["sh", "-c", STAND_INS.sub(lambda name: shlex.quote(places[name[1]]), command.text)],
         cwd=options.directory,
         stdin=subprocess.DEVNULL,
         stdout=subprocess.PIPE,
@@ -155,6 +155,7 @@ def main():
     parser = argparse.ArgumentParser(description="Checks that pages are true.")
     parser.add_argument("pages", nargs="+", help="Markdown files")
     parser.add_argument("--tool", required=True, help="stands for scripts/vorn-toml")
+    parser.add_argument("--build", required=True, help="stands for build/test")
     parser.add_argument("--directory", required=True, help="where the commands run")
     parser.add_argument(
         "--compile",

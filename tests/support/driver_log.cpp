@@ -3,7 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
+
+#include "source_line.h"
 
 namespace test
 {
@@ -53,20 +54,6 @@ bool matches(const std::string& format, const std::string& message)
            message.compare(message.size() - tail.size(), tail.size(), tail) == 0;
 }
 
-std::string lineOfDriver(int number)
-{
-    std::ifstream source(DRIVER_SOURCE);
-    std::string line;
-    for (int index = 0; index < number; ++index)
-    {
-        if (!std::getline(source, line))
-        {
-            return "(no such line)";
-        }
-    }
-    return line;
-}
-
 void expectDriverLine(const LogLine& line)
 {
     SCOPED_TRACE(line.message);
@@ -81,8 +68,9 @@ void expectDriverLine(const LogLine& line)
     EXPECT_EQ(line.first, 0);
     EXPECT_EQ(line.second, 0);
     EXPECT_EQ(line.format, format->text);
-    EXPECT_NE(lineOfDriver(line.line).find('"' + format->text + '"'), std::string::npos)
-        << "line " << line.line << " of the driver: " << lineOfDriver(line.line);
+    const std::string source = sourceLine(DRIVER_SOURCE, line.line);
+    EXPECT_NE(source.find('"' + format->text + '"'), std::string::npos)
+        << "line " << line.line << " of the driver: " << source;
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // The help of vorn-toml: that it is there, and that its examples are true.
-#include "support/run_program.h"
+#include "tools/tool_run.h"
 
 #include <gtest/gtest.h>
 
@@ -21,12 +21,15 @@ std::vector<HelpCase> helpCases()
 {
     const std::string tool = "Usage: vorn-toml [OPTIONS] SUBCOMMAND\n";
     const std::string events = "Usage: vorn-toml events [OPTIONS] FILE...\n";
+    const std::string values = "Usage: vorn-toml values [OPTIONS] FILE...\n";
     const std::string check = "Usage: vorn-toml check [OPTIONS] FILE...\n";
     return {
         {{"--help"}, tool},
         {{"-h"}, tool},
         {{"events", "--help"}, events},
         {{"events", "-h"}, events},
+        {{"values", "--help"}, values},
+        {{"values", "-h"}, values},
         {{"check", "--help"}, check},
         {{"check", "-h"}, check},
     };
@@ -34,9 +37,7 @@ std::vector<HelpCase> helpCases()
 
 std::string helpOf(const HelpCase& c)
 {
-    std::vector<std::string> words = {VORN_TOML};
-    words.insert(words.end(), c.arguments.begin(), c.arguments.end());
-    const test::ProgramRun run = test::runProgram(words);
+    const test::ProgramRun run = test::runTool(c.arguments);
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.standardError, "");
     return run.standardOutput;
@@ -90,11 +91,18 @@ TEST(VornTomlHelp, SaysHowTheToolIsUsed)
 TEST(VornTomlHelp, NamesSubcommandsAndExitStatuses)
 {
     const std::string help = helpOf({{"--help"}, ""});
-    for (const std::string text : {"\n  events ", "\n  check ", "0 accepted", "1 rejected",
-                                   "2 wrong usage", "3 a file could not be read"})
+    for (const std::string text : {"\n  events ", "\n  values ", "\n  check ", "0 accepted",
+                                   "1 rejected", "2 wrong usage", "3 a file could not be read"})
     {
         EXPECT_NE(help.find(text), std::string::npos) << text << " is not in:\n" << help;
     }
+}
+
+TEST(VornTomlHelp, SaysWhichTextsHaveNoValue)
+{
+    const std::string help = helpOf({{"values", "--help"}, ""});
+    EXPECT_NE(help.find("Bare keys, local dates and"), std::string::npos) << help;
+    EXPECT_NE(help.find("have no conversion and no arrow"), std::string::npos) << help;
 }
 
 TEST(VornTomlHelp, ShowsTrueExamples)

@@ -1,8 +1,8 @@
 // vorn-toml as a program: what it prints for documents, and how it ends.
 #include "support/example_files.h"
 #include "support/file_content.h"
-#include "support/run_program.h"
 #include "support/temporary_directory.h"
+#include "tools/tool_run.h"
 
 #include <gtest/gtest.h>
 
@@ -13,30 +13,13 @@
 namespace
 {
 
-using Words = std::vector<std::string>;
-
-enum Status
-{
-    accepted = 0,
-    rejected = 1,
-    usage = 2,
-    unreadable = 3
-};
-
-test::ProgramRun runTool(const Words& arguments, const std::string& input = "")
-{
-    Words words = {VORN_TOML};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    return test::runProgram(words, input);
-}
-
-void expectRun(const test::ProgramRun& run, int status, const std::string& output,
-               const std::string& error)
-{
-    EXPECT_EQ(run.status, status);
-    EXPECT_EQ(run.standardOutput, output);
-    EXPECT_EQ(run.standardError, error);
-}
+using test::accepted;
+using test::expectRun;
+using test::rejected;
+using test::runTool;
+using test::unreadable;
+using test::usage;
+using test::Words;
 
 // The lines of a document that holds the one pair `key = 1`.
 std::string pairEvents(const std::string& key)
@@ -205,8 +188,10 @@ TEST(VornToml, SaysWhatCannotBeReadAndGoesOn)
     };
     const std::vector<Case> cases = {
         {{"events", missing}, "", noSuchFile},
+        {{"values", missing}, "", noSuchFile},
         {{"check", missing}, "", noSuchFile},
         {{"events", directory.path(".")}, "", isDirectory},
+        {{"values", directory.path(".")}, "", isDirectory},
         {{"check", directory.path(".")}, "", isDirectory},
         {{"events", missing, good}, pairEvents("a"), noSuchFile},
         {{"check", good, missing, good}, good + ": accepted\n" + good + ": accepted\n", noSuchFile},
@@ -236,7 +221,7 @@ TEST(VornToml, EndsWithTheWorstStatus)
         {{missing, bad}, unreadable},  {{bad, missing}, unreadable},
         {{good, missing}, unreadable}, {{bad, missing, good}, unreadable},
     };
-    for (const std::string command : {"events", "check"})
+    for (const std::string command : {"events", "values", "check"})
     {
         for (const Case& c : cases)
         {
@@ -257,10 +242,12 @@ TEST(VornToml, ReadsNothingWhenUsedWrongly)
         {"bogus", example},
         {example},
         {"events"},
+        {"values"},
         {"check"},
         {"events", "--bogus"},
         {"events", "--bogus", example},
         {"events", example, "--bogus"},
+        {"values", example, "--bogus"},
         {"check", example, "--bogus"},
         {"--bogus", "check", example},
     };

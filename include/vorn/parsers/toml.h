@@ -9,6 +9,8 @@
 #ifndef VORN_PARSERS_TOML_H
 #define VORN_PARSERS_TOML_H
 
+#include <sys/time.h>
+
 #include <string>
 #include <utility>
 
@@ -186,6 +188,143 @@ VORN_PARSERS_API bool visitTomlTree(const std::string& text, ITomlTreeVisitor& v
 // Throws and allocates like the other overload; the file's content is held in
 // memory until the call returns.
 VORN_PARSERS_API bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visitor);
+
+// ---------------------------------------------------------------------------------
+// Values of scalar texts
+//
+// Functions for visitors: each turns the text of a scalar into a value.  Nothing in
+// the library calls them.  They do not check their argument, since the texts of a
+// visitor have been checked; what they make of other texts is said all the same.
+//
+// All take the text as it stands in the document, delimiters, prefixes and
+// underscores included, allocate for their work and may throw std::bad_alloc.
+// ---------------------------------------------------------------------------------
+
+// Takes one quote off each end: the value of a basic or a literal string, and the name
+// behind a quoted key.
+//
+// Escapes stay as they are written: resolving them is left to the visitor.  A text
+// whose ends are not the same quote (' or ") is returned unchanged.
+//
+//   unquote("\"red\"")        // red
+//   unquote("'C:\\temp'")     // C:\temp
+//   unquote("\"a\\tb\"")      // a\tb, four characters: the escape stays
+//   unquote("\"it's'")        // "it's', unchanged: the ends differ
+//   unquote("\"")             // empty: the one quote is both ends
+VORN_PARSERS_API std::string unquote(std::string text);
+
+// Takes a delimiter off both ends, if it stands at both; otherwise the text is
+// returned unchanged.  Where the two overlap the end goes first, then what is left of
+// the start.
+//
+//   unquote("'''x'''", "'''")   // x
+//   unquote("--x-", "--")       // --x-, unchanged
+//   unquote("''''", "'''")      // empty
+VORN_PARSERS_API std::string unquote(std::string text, const std::string& delimiter);
+
+// Puts a delimiter on both ends.  Nothing inside the text is escaped.
+//
+//   enquote("x", "'")      // 'x'
+//   enquote("it's", "'")   // 'it's'
+VORN_PARSERS_API std::string enquote(const std::string& text, const std::string& delimiter);
+
+// The content of a multi-line basic string.
+//
+// Takes the delimiters off, then a line feed right behind the opening one, then every
+// line-ending backslash with its line feed and the blanks and line breaks that follow.
+// Other escapes stay as they are written.  Three things to know:
+//
+//   - Line ends are line feeds.  A carriage return right behind the delimiter stays,
+//     and a backslash before a carriage return is not a line-ending one.
+//   - An escaped backslash at the end of a line is taken for a line-ending one.
+//   - Of two line-ending backslashes with only blanks between them the second stays.
+//
+//   processMultilineString("\"\"\"\none\\\n   two\"\"\"")   // onetwo
+//   processMultilineString("\"\"\"a\\tb\"\"\"")             // a\tb, the escape stays
+//   processMultilineString("\"\"\"\r\nx\"\"\"")             // CR, LF, x
+VORN_PARSERS_API std::string processMultilineString(std::string text);
+
+// The content of a multi-line literal string: without the delimiters and without a line
+// feed right behind the opening one.
+//
+//   processMultilineLiteralString("'''\nC:\\temp\\\n'''")   // C:\temp\ and a line feed
+VORN_PARSERS_API std::string processMultilineLiteralString(std::string text);
+
+// The three functions below read through a string stream in the global C++ locale, the
+// classic one unless the program has set another.  Where the global locale has names for
+// true and false, a decimal comma or digit grouping of its own, they apply:
+//
+//   std::locale::global(std::locale("de_DE.UTF-8"));
+//   parseFloat("3.5")       // 35: the point is German digit grouping
+//
+// Blanks before a value are skipped, and what follows it is not looked at.  A text that
+// does not convert, an empty or a blank one among them, yields false, 0 or 0.0.
+
+// The value of a boolean.
+//
+//   parseBoolean("true")    // true
+//   parseBoolean("True")    // false: the names are in lower case
+VORN_PARSERS_API bool parseBoolean(const std::string& text);
+
+// The value of an integer, with its sign or prefix, and underscores anywhere.
+//
+// Decimal, hexadecimal and octal values beyond 64 bits yield the nearest long long.
+// Binary ones are limited to 32 bits, on every platform: of the digits behind "0b" the
+// first 64 are read; one that is neither 0 nor 1 throws std::invalid_argument
+// ("bitset::_M_copy_from_ptr"), a value above 4294967295 throws std::overflow_error
+// ("_Base_bitset::_M_do_to_ulong").  Nothing else is thrown.
+//
+//   parseInteger("-1_000")                // -1000
+//   parseInteger("0xDEAD_beef")           // 3735928559
+//   parseInteger("0o755")                 // 493
+//   parseInteger("0b1101_0101")           // 213
+//   parseInteger("9223372036854775808")   // 9223372036854775807
+//   parseInteger("0x8000000000000000")    // 9223372036854775807
+//   parseInteger("-0x1")                  // 0: a prefix stands at the start only
+//   parseInteger("")                      // 0
+VORN_PARSERS_API long long parseInteger(std::string text);
+
+// The value of a float, underscores anywhere.
+//
+// Infinities and not-a-numbers yield 0.0: tell them by their text.  A magnitude beyond
+// the range of double yields the largest finite one.
+//
+//   parseFloat("6.626e-34")   // 6.626e-34
+//   parseFloat("1_000.5")     // 1000.5
+//   parseFloat("-inf")        // 0.0
+//   parseFloat("1e400")       // 1.7976931348623157e308
+//   parseFloat("1e")          // 0.0: an exponent has digits
+VORN_PARSERS_API double parseFloat(std::string text);
+
+// The point in time of an offset or a local date-time: seconds since the epoch;
+// microseconds are always 0.
+//
+// The date and time are always read as local time, in the zone of the process (TZ):
+//
+//   - A zone letter or an offset is not applied.
+//   - The fraction of a second is not carried over.
+//   - Daylight saving time is taken into account where a zone letter follows the seconds;
+//     the other forms, a fraction with a letter too, are read as standard time.
+//
+// With TZ=UTC:
+//
+//   parseDateTime("1979-05-27T07:32:00Z")          // 296638320
+//   parseDateTime("1979-05-27T07:32:00-07:00")     // 296638320: the offset is ignored
+//   parseDateTime("1979-05-27 07:32:00.999999")    // 296638320: so is the fraction
+//   parseDateTime("1979-02-30T07:32:00Z")          // 289207920: March 2
+//   parseDateTime("1979-05-27T25:00:00Z")          // 296611200: the day's midnight
+//   parseDateTime("1979-13-01T07:32:00Z")          // -2209075200: 1899-12-31 00:00:00
+//
+// A text without a date and time, joined by 'T' or a blank, yields zero and the log line
+// "Failed to parse date-time: ...": so do local dates, local times and date-times with a
+// lower-case 't'.  Otherwise the text is read from its start, as far as it fits.
+//
+// A day up to 31 that the month has not is carried over, and so are the seconds 60 and 61.
+// With another field out of range a time is read as midnight, and a date with its time as
+// the midnight of 1899-12-31; but of a day from 40 on and of a second from 70 on the first
+// digit is taken (the time of such a day is midnight).  The result is what mktime()
+// answers, which is -1 also for a time that time_t cannot hold.
+VORN_PARSERS_API timeval parseDateTime(const std::string& text);
 
 } // namespace vorn::parsers::toml
 

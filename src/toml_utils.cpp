@@ -1,0 +1,255 @@
+#include <regex.h>
+#include <sys/time.h>
+
+#include <cstdint>
+#include <ctime>
+#include <functional>
+#include <ios>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <vorn/parsers/toml.h>
+#include <vorn/utils/format.h>
+
+#include "cleanup_guard.h"
+#include "log.h"
+
+namespace vorn::parsers::toml
+{
+namespace
+{
+
+// Replaces every occurrence of `from`; what has been inserted is not searched again.
+std::string replaceAll(std::string text, const std::string& from, const std::string& to)
+{
+    std::string result;
+    std::size_t rest = 0;
+    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, rest))
+    {
+        result.append(text, rest, at - rest).append(to);
+        rest = at + from.size();
+    }
+    return result.append(text, rest);
+}
+
+std::string withoutUnderscores(std::string text)
+{
+    return replaceAll(std::move(text), "_", "");
+}
+
+bool startsWith(const std::string& text, std::string_view prefix)
+{
+    return text.compare(0, prefix.size(), prefix) == 0;
+}
+
+// The value that a stream extracts from the start of a text: zero where there is none,
+// the nearest value of the type where the text's is out of range.
+template <typename Value>
+Value extract(const std::string& text, std::ios_base::fmtflags flags, std::ios_base::fmtflags mask)
+{
+    std::istringstream stream(text);
+    stream.setf(flags, mask);
+    Value value{};
+    stream >> value;
+    return value;
+}
+
+long long extractInteger(const std::string& text, std::ios_base::fmtflags base)
+{
+    return extract<long long>(text, base, std::ios_base::basefield);
+}
+
+// Binary digits, the most significant first.  At most 64 are read, and the value must
+// fit 32 bits, which is what the device's word holds; the same on every host.
+long long binaryInteger(std::string_view digits)
+{
+    std::uint64_t value = 0;
+    for (const char digit : digits.substr(0, 64))
+    {
+        if (digit != '0' && digit != '1')
+        {
+            throw std::invalid_argument("bitset::_M_copy_from_ptr");
+        }
+        value = value << 1 | static_cast<std::uint64_t>(digit - '0');
+    }
+    if (value > UINT32_MAX)
+    {
+        throw std::overflow_error("_Base_bitset::_M_do_to_ulong");
+    }
+    return static_cast<long long>(value);
+}
+
+// A line feed right after the opening delimiter is not part of a string's value.
+void dropFirstLineFeed(std::string& text)
+{
+    if (!text.empty() && text.front() == '\n')
+    {
+        text.erase(0, 1);
+    }
+}
+
+using Converter = std::function<bool(const std::string&, timeval&)>;
+
+// The character between date and time, whichever it is.
+char separator(const std::string& text)
+{
+    return text[10];
+}
+
+// Reads what the format covers, up to the first mismatch, as local time.
+bool convert(const std::string& text, const std::string& format, bool guessDaylightSaving,
+             timeval& result)
+{
+    std::tm time = {};
+    strptime(text.c_str(), format.c_str(), &time);
+    if (guessDaylightSaving)
+    {
+        time.tm_isdst = -1;
+    }
+    result.tv_sec = std::mktime(&time);
+    result.tv_usec = 0;
+    return true;
+}
+
+// The forms of a date-time, in the order in which they are tried: with a zone letter,
+// with an offset, with neither.  The patterns match anywhere in a text.
+const std::vector<std::pair<std::string, Converter>>& dateTimeForms()
+{
+    static const std::vector<std::pair<std::string, Converter>> forms = {
+        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}[A-IK-Z]",
+         [](const std::string& text, timeval& result)
+         { return convert(text, utils::format("%%F%c%%TZ", separator(text)), true, result); }},
+        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?"
+         "[+-][0-9]{2}:[0-9]{2}",
+         [](const std::string& text, timeval& result)
+         { return convert(text, utils::format("%%F%c%%T%%z", separator(text)), false, result); }},
+        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?",
+         [](const std::string& text, timeval& result)
+         { return convert(text, utils::format("%%F%c%%T", separator(text)), false, result); }},
+    };
+    return forms;
+}
+
+} // namespace
+
+std::string unquote(std::string text, const std::string& delimiter)
+{
+    const std::size_t first = text.find(delimiter);
+    const std::size_t last = text.rfind(delimiter);
+    if (first == 0 && last + delimiter.size() == text.size())
+    {
+        // The end goes first; what is left may be shorter than a delimiter.
+        text.erase(last);
+        text.erase(0, delimiter.size());
+    }
+    return text;
+}
+
+std::string unquote(std::string text)
+{
+    if (text.empty() || (text.front() != '\'' && text.front() != '"'))
+    {
+        return text;
+    }
+    const std::string delimiter(1, text.front());
+    return unquote(std::move(text), delimiter);
+}
+
+std::string enquote(const std::string& text, const std::string& delimiter)
+{
+    return delimiter + text + delimiter;
+}
+
+std::string processMultilineLiteralString(std::string text)
+{
+    text = unquote(std::move(text), "'''");
+    dropFirstLineFeed(text);
+    return text;
+}
+
+std::string processMultilineString(std::string text)
+{
+    text = unquote(std::move(text), "\"\"\"");
+    dropFirstLineFeed(text);
+
+    std::string value;
+    std::size_t rest = 0; // what has not been copied yet begins here
+    std::size_t from = 0; // where the next search begins
+    for (;;)
+    {
+        const std::size_t backslash = text.find("\\\n", from);
+        value.append(text, rest, backslash - rest);
+        if (backslash == std::string::npos)
+        {
+            return value;
+        }
+        rest = text.find_first_not_of(" \t\r\n", backslash + 2);
+        if (rest == std::string::npos)
+        {
+            return value;
+        }
+        // The character after the blanks is content, even where it is a backslash.
+        from = rest + 1;
+    }
+}
+
+bool parseBoolean(const std::string& text)
+{
+    return extract<bool>(text, std::ios_base::boolalpha, std::ios_base::boolalpha);
+}
+
+long long parseInteger(std::string text)
+{
+    text = withoutUnderscores(std::move(text));
+    if (startsWith(text, "0o"))
+    {
+        return extractInteger(text.substr(2), std::ios_base::oct);
+    }
+    if (startsWith(text, "0x"))
+    {
+        return extractInteger(text, std::ios_base::hex);
+    }
+    if (startsWith(text, "0b"))
+    {
+        return binaryInteger(std::string_view(text).substr(2));
+    }
+    return extractInteger(text, std::ios_base::dec);
+}
+
+double parseFloat(std::string text)
+{
+    return extract<double>(withoutUnderscores(std::move(text)), {}, {});
+}
+
+timeval parseDateTime(const std::string& text)
+{
+    timeval result = {};
+    for (const auto& [pattern, converter] : dateTimeForms())
+    {
+        regex_t regex = {};
+        if (regcomp(&regex, pattern.c_str(), REG_EXTENDED | REG_NOSUB) != 0)
+        {
+            VORN_LOG_ERROR("Failed to compile regex: '%s'", pattern.c_str());
+        }
+        const CleanupGuard guard([&regex] { regfree(&regex); });
+        // A pattern that failed to compile has left nothing to match with, which the C
+        // library does not test.
+        const bool usable = regex.buffer != nullptr;
+        if (usable && regexec(&regex, text.c_str(), 0, nullptr, 0) == 0)
+        {
+            if (!converter(text, result))
+            {
+                VORN_LOG_ERROR("Failed to process date-time: '%s'", text.c_str());
+            }
+            return result;
+        }
+    }
+    VORN_LOG_ERROR("Failed to parse date-time: %s", text.c_str());
+    return result;
+}
+
+} // namespace vorn::parsers::toml

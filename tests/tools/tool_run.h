@@ -1,0 +1,40 @@
+// Runs of vorn-toml, whose place comes from the build.
+#pragma once
+
+#include "support/run_program.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace test
+{
+
+using Words = std::vector<std::string>;
+
+// Exit statuses.
+enum Status
+{
+    accepted = 0,
+    rejected = 1,
+    usage = 2,
+    unreadable = 3
+};
+
+inline ProgramRun runTool(const Words& arguments, const std::string& input = "")
+{
+    Words words = {VORN_TOML};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    return runProgram(words, input);
+}
+
+inline void expectRun(const ProgramRun& run, int status, const std::string& output,
+                      const std::string& error)
+{
+    EXPECT_EQ(run.status, status);
+    EXPECT_EQ(run.standardOutput, output);
+    EXPECT_EQ(run.standardError, error);
+}
+
+} // namespace test
