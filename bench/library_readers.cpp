@@ -5,31 +5,9 @@
 #include <memory>
 #include <stdexcept>
 
-#include "direct_reader.h"
+#include "tests/support/direct_reading.h"
 #include "tests/support/temporary_directory.h"
 #include "tools/ignoring_visitor.h"
-
-namespace
-{
-
-// Whether documents reach the library's direct reader.
-bool directly = true;
-
-} // namespace
-
-// The library's call of its readDirectly() is linked to the first, and that function to
-// the second.
-extern "C" bool wrappedReadDirectly(
-    const std::string& text,
-    vorn::parsers::toml::ITomlTreeVisitor& visitor) asm("__wrap_" VORN_READ_DIRECTLY);
-extern "C" bool
-realReadDirectly(const std::string& text,
-                 vorn::parsers::toml::ITomlTreeVisitor& visitor) asm("__real_" VORN_READ_DIRECTLY);
-
-bool wrappedReadDirectly(const std::string& text, vorn::parsers::toml::ITomlTreeVisitor& visitor)
-{
-    return directly && realReadDirectly(text, visitor);
-}
 
 namespace bench
 {
@@ -72,33 +50,35 @@ void read(const Source& source)
     }
 }
 
+template <typename Visitor, typename Source>
+void readDirectly(const Source& source)
+{
+    const test::DirectReadingOn on;
+    read<Visitor>(source);
+}
+
 } // namespace
 
 Reading libraryReading(const std::string& text)
 {
-    return [&text] { read<tool::IgnoringVisitor>(text); };
+    return [&text] { readDirectly<tool::IgnoringVisitor>(text); };
 }
 
 Reading copyingReading(const std::string& text)
 {
-    return [&text] { read<CopyingVisitor>(text); };
+    return [&text] { readDirectly<CopyingVisitor>(text); };
 }
 
 Reading fileReading(const std::string& text)
 {
     const auto directory = std::make_shared<const test::TemporaryDirectory>();
     return [directory, path = FilePath(directory->write("document.toml", text))]
-    { read<tool::IgnoringVisitor>(path); };
+    { readDirectly<tool::IgnoringVisitor>(path); };
 }
 
 Reading pipelineReading(const std::string& text)
 {
-    return [&text]
-    {
-        directly = false;
-        read<tool::IgnoringVisitor>(text);
-        directly = true;
-    };
+    return [&text] { read<tool::IgnoringVisitor>(text); };
 }
 
 } // namespace bench

@@ -8,9 +8,13 @@
 namespace vorn::parsers::toml
 {
 
-// Whether the document is right in full.  If so, the visitor has received all of its
-// calls; if not, none.  A document that is right may be refused where it holds
-// something that the scanner leaves to the lexer.
-bool readDirectly(const std::string& text, ITomlTreeVisitor& visitor);
+enum class DirectReading
+{
+    accepted,    // the document is right in full, and the visitor has received all of its calls
+    refused,     // it is not, or holds something that the scanner leaves to the lexer: no calls
+    outOfMemory, // no calls
+};
+
+DirectReading readDirectly(const std::string& text, ITomlTreeVisitor& visitor);
 
 } // namespace vorn::parsers::toml

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <new>
 #include <string_view>
 
 #include "event.h"
@@ -25,6 +26,9 @@ public:
         : EventRecord(begin, std::min(static_cast<std::size_t>(end - begin), mostBytes) + longEntry)
     {
     }
+
+    // Whether it could be made; if not, it is of no use.
+    bool hasMemory() const noexcept { return entries_ != nullptr; }
 
     void event(Event event) noexcept
     {
@@ -122,7 +126,7 @@ private:
     static constexpr std::size_t mostBytes = 512 * 1024;
 
     EventRecord(const char* begin, std::size_t room)
-        : entries_(new Byte[room]), last_(entries_.get()), lastLine_(last_), end_(last_ + room),
+        : entries_(new (std::nothrow) Byte[room]), last_(entries_.get()), lastLine_(last_), end_(last_ + room),
           begin_(begin), textEnd_(begin), lineEnd_(begin)
     {
     }

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <new>
 
 namespace vorn::parsers::toml
 {
@@ -24,9 +25,13 @@ class NestingStack
 public:
     // With room for all levels that a document of this many bytes can open and close.
     explicit NestingStack(std::size_t size)
-        : room_(size / 2), words_(new Word[room_ / levelsPerWord + 1])
+        : words_(new (std::nothrow) Word[size / 2 / levelsPerWord + 1]),
+          room_(words_ != nullptr ? size / 2 : 0)
     {
     }
+
+    // Without memory it has no room either.
+    bool hasMemory() const noexcept { return words_ != nullptr; }
 
     Inside inside() const noexcept { return inside_; }
     // The innermost level is now this.
@@ -63,8 +68,8 @@ private:
         return static_cast<unsigned>(depth % levelsPerWord) * 2;
     }
 
-    const std::size_t room_; // in levels
     const std::unique_ptr<Word[]> words_;
+    const std::size_t room_; // in levels
     std::size_t depth_ = 0;
     Inside inside_ = Inside::pair;
 };

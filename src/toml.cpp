@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
-#include <fstream>
 #include <initializer_list>
 #include <limits>
 #include <optional>
@@ -16,6 +15,7 @@
 #include "direct_reader.h"
 #include "document_depth.h"
 #include "error_display.h"
+#include "file_content.h"
 #include "follow_stack.h"
 #include "log.h"
 #include "memory_need.h"
@@ -33,8 +33,6 @@ namespace
 // Usual sizes of the runtime's buffers; they grow as needed.
 constexpr ANTLR3_UINT32 tokenBufferHint = 1025;
 constexpr ANTLR3_UINT32 nodeBufferHint = 90000;
-
-constexpr std::size_t readBlock = 65536;
 
 // What the parser has on the thread's stack for an array or an inline table: some 290 bytes
 // on 32-bit ARM, 540 on x86-64, with a compiler that optimises for size, and more otherwise.
@@ -239,24 +237,6 @@ const char* charactersOf(const FilePath& path)
     return text;
 }
 
-// The whole content, or nothing if reading fails before the file's end.
-std::optional<std::string> readAll(std::ifstream& file)
-{
-    std::string content;
-    while (file)
-    {
-        const std::size_t length = content.size();
-        content.resize(length + readBlock);
-        file.read(content.data() + length, readBlock);
-        content.resize(length + static_cast<std::size_t>(file.gcount()));
-    }
-    if (file.bad())
-    {
-        return std::nullopt;
-    }
-    return content;
-}
-
 } // namespace
 
 ITomlTreeVisitor::~ITomlTreeVisitor() = default;
@@ -267,11 +247,12 @@ bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor)
     // from its start and say what is wrong with it, if they can.
     if (isStreamable(text))
     {
-        if (readDirectly(text, visitor))
+        const DirectReading reading = readDirectly(text, visitor);
+        if (reading == DirectReading::accepted)
         {
             return true;
         }
-        if (!isMemoryLeft(memoryForSurvey(text.size())))
+        if (reading == DirectReading::outOfMemory || !isMemoryLeft(memoryForSurvey(text.size())))
         {
             VORN_LOG_ERROR("Failed: input TOML is too large to diagnose (%zu bytes)", text.size());
             return false;
@@ -300,14 +281,12 @@ bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visitor)
         VORN_LOG_ERROR("No such file: %s", name);
         return false;
     }
-    std::ifstream file(name);
-    const std::optional<std::string> content = file ? readAll(file) : std::nullopt;
+    const std::optional<std::string> content = fileContent(name);
     if (!content)
     {
         VORN_LOG_ERROR("Failed to open file; %s", name);
         return false;
     }
-    file.close();
     return visitTomlTree(*content, visitor);
 }
 

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstring>
 #include <memory>
+#include <new>
 #include <string_view>
 
 #include "event.h"
@@ -21,9 +22,12 @@ class VisitorCalls
 public:
     // `end` is the document's end.
     VisitorCalls(ITomlTreeVisitor& visitor, const char* end, std::size_t longestText)
-        : visitor_(visitor), end_(end), text_(new char[std::max(longestText, block) + 1])
+        : visitor_(visitor), end_(end), text_(new (std::nothrow) char[std::max(longestText, block) + 1])
     {
     }
+
+    // Whether it could be made; if not, it is of no use.
+    bool hasMemory() const noexcept { return text_ != nullptr; }
 
     void event(Event event) { (visitor_.*operations[static_cast<std::size_t>(event)])(); }
 

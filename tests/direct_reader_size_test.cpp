@@ -11,6 +11,7 @@
 #include "support/event_recorder.h"
 
 using namespace test;
+using vorn::parsers::toml::DirectReading;
 using vorn::parsers::toml::readDirectly;
 
 namespace
@@ -65,7 +66,7 @@ void addLongLine(Document& document)
 void expectRead(const Document& expected)
 {
     EventRecorder visitor;
-    EXPECT_TRUE(readDirectly(expected.text, visitor));
+    EXPECT_EQ(readDirectly(expected.text, visitor), DirectReading::accepted);
     const Events events = document({expected.events});
     ASSERT_EQ(visitor.events().size(), events.size());
     for (std::size_t index = 0; index < events.size(); ++index)
@@ -195,19 +196,19 @@ TEST(DirectReaderVisitor, mayReadOtherDocumentsInEveryCall)
 {
     const std::string inner = "i = [1, '" + std::string(300, 'z') + "']\n";
     EventRecorder alone;
-    ASSERT_TRUE(readDirectly(inner, alone));
+    ASSERT_EQ(readDirectly(inner, alone), DirectReading::accepted);
     EventRecorder visitor;
     std::size_t readings = 0;
     visitor.onEvent(
         [&](const std::string&)
         {
             EventRecorder other;
-            EXPECT_TRUE(readDirectly(inner, other));
+            EXPECT_EQ(readDirectly(inner, other), DirectReading::accepted);
             EXPECT_EQ(other.events(), alone.events());
-            EXPECT_FALSE(readDirectly("a = [1\n", other));
+            EXPECT_EQ(readDirectly("a = [1\n", other), DirectReading::refused);
             ++readings;
         });
-    EXPECT_TRUE(readDirectly(mixedLines, visitor));
+    EXPECT_EQ(readDirectly(mixedLines, visitor), DirectReading::accepted);
     EXPECT_EQ(visitor.events(), document({mixedEvents}));
     EXPECT_EQ(readings, visitor.events().size());
 }

@@ -13,6 +13,7 @@
 
 using namespace std::string_literals;
 using namespace test;
+using vorn::parsers::toml::DirectReading;
 using vorn::parsers::toml::readDirectly;
 
 namespace
@@ -21,7 +22,7 @@ namespace
 void expectAccepted(const std::string& text, const Events& events)
 {
     EventRecorder visitor;
-    EXPECT_TRUE(readDirectly(text, visitor));
+    EXPECT_EQ(readDirectly(text, visitor), DirectReading::accepted);
     ASSERT_EQ(visitor.events().size(), events.size());
     const auto [actual, expected] =
         std::mismatch(visitor.events().begin(), visitor.events().end(), events.begin());
@@ -36,7 +37,7 @@ void expectRefused(const std::string& text)
 {
     SCOPED_TRACE(testing::PrintToString(text));
     EventRecorder visitor;
-    EXPECT_FALSE(readDirectly(text, visitor));
+    EXPECT_EQ(readDirectly(text, visitor), DirectReading::refused);
     EXPECT_EQ(visitor.events(), Events());
 }
 
@@ -81,7 +82,7 @@ TEST(DirectReader, makesNoCallForAMistakeFarFromTheBeginning)
     for (const std::string end : {"a = [1\n]\n", "a = {}\n", "a", "@", "[t]"})
     {
         EventRecorder visitor;
-        EXPECT_FALSE(readDirectly(lines + end, visitor)) << end;
+        EXPECT_EQ(readDirectly(lines + end, visitor), DirectReading::refused) << end;
         EXPECT_EQ(visitor.events().size(), 0u) << end;
     }
 }

@@ -14,6 +14,7 @@ namespace test
 namespace
 {
 
+using vorn::parsers::toml::DirectReading;
 using Visit = bool (*)(const std::string&, vorn::parsers::toml::ITomlTreeVisitor&);
 
 Reading readWith(Visit visit, const std::string& document, StderrCapture& standardError)
@@ -84,7 +85,8 @@ Comparison compare(const std::string& document)
     const DirectReadingOn on;
     comparison.library = readWith(vorn::parsers::toml::visitTomlTree, document, standardError);
     EventRecorder visitor;
-    comparison.direct = vorn::parsers::toml::readDirectly(document, visitor);
+    comparison.direct =
+        vorn::parsers::toml::readDirectly(document, visitor) == DirectReading::accepted;
     return comparison;
 }
 

@@ -8,12 +8,13 @@
 namespace test
 {
 
+using vorn::parsers::toml::DirectReading;
 using vorn::parsers::toml::ITomlTreeVisitor;
 
 // The linker gives these names: callers reach the one that wraps.
-bool realReadDirectly(const std::string& text, ITomlTreeVisitor& visitor) //
+DirectReading realReadDirectly(const std::string& text, ITomlTreeVisitor& visitor) //
     asm("__real_" READ_DIRECTLY);
-bool wrappedReadDirectly(const std::string& text, ITomlTreeVisitor& visitor) //
+DirectReading wrappedReadDirectly(const std::string& text, ITomlTreeVisitor& visitor) //
     asm("__wrap_" READ_DIRECTLY);
 
 namespace
@@ -23,19 +24,20 @@ std::atomic<bool> on{false};
 
 } // namespace
 
-bool wrappedReadDirectly(const std::string& text, ITomlTreeVisitor& visitor)
+DirectReading wrappedReadDirectly(const std::string& text, ITomlTreeVisitor& visitor)
 {
-    return on && realReadDirectly(text, visitor);
+    return on.load(std::memory_order_relaxed) ? realReadDirectly(text, visitor)
+                                              : DirectReading::refused;
 }
 
 DirectReadingOn::DirectReadingOn()
 {
-    on = true;
+    on.store(true, std::memory_order_relaxed);
 }
 
 DirectReadingOn::~DirectReadingOn()
 {
-    on = false;
+    on.store(false, std::memory_order_relaxed);
 }
 
 } // namespace test

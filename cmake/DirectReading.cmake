@@ -1,0 +1,13 @@
+# switched_direct_reader: for programs that link the library's objects.  Their calls of
+# readDirectly() reach tests/support/direct_reading.cpp, where it can be switched off.
+string(CONCAT VORN_READ_DIRECTLY
+    _ZN4vorn7parsers4toml12readDirectlyERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE
+    RNS1_16ITomlTreeVisitorE)
+
+add_library(switched_direct_reader STATIC ${PROJECT_SOURCE_DIR}/tests/support/direct_reading.cpp)
+target_include_directories(switched_direct_reader
+    PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src
+    PUBLIC ${PROJECT_SOURCE_DIR}/tests)
+target_compile_definitions(switched_direct_reader PRIVATE READ_DIRECTLY="${VORN_READ_DIRECTLY}")
+target_link_options(switched_direct_reader INTERFACE LINKER:--wrap=${VORN_READ_DIRECTLY})
+vorn_own_code(switched_direct_reader)
