@@ -17,6 +17,13 @@ constexpr std::size_t unknownRoom = 32 * 1024;
 // it; this much is free of them.
 constexpr std::size_t mostRoom = 64 * 1024 * 1024;
 
+// What the parser has on the stack for an array or an inline table: some 290 bytes on
+// 32-bit ARM, 540 on x86-64, with a compiler that optimises for size, and more otherwise.
+constexpr std::size_t leastStackOfLevel = 64 * sizeof(void*);
+
+// As deep as no stack is too small for.
+constexpr unsigned safeLevels = 10;
+
 } // namespace
 
 std::size_t stackRoom() noexcept
@@ -38,6 +45,11 @@ std::size_t stackRoom() noexcept
         return unknownRoom;
     }
     return std::min<std::size_t>(here - begin, mostRoom);
+}
+
+bool mayHaveRoomForLevels(unsigned levels) noexcept
+{
+    return levels <= safeLevels || levels <= stackRoom() / leastStackOfLevel;
 }
 
 } // namespace vorn::parsers::toml

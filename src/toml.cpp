@@ -17,6 +17,7 @@
 #include "error_display.h"
 #include "file_content.h"
 #include "follow_stack.h"
+#include "held_exception.h"
 #include "log.h"
 #include "memory_need.h"
 #include "node_texts.h"
@@ -34,16 +35,22 @@ namespace
 constexpr ANTLR3_UINT32 tokenBufferHint = 1025;
 constexpr ANTLR3_UINT32 nodeBufferHint = 90000;
 
-// What the parser has on the thread's stack for an array or an inline table: some 290 bytes
-// on 32-bit ARM, 540 on x86-64, with a compiler that optimises for size, and more otherwise.
-constexpr std::size_t leastStackOfLevel = 64 * sizeof(void*);
+// What the displays of a call's errors share.
+struct Report
+{
+    Text tokens;          // the text of the parser's tokens, the same for every error
+    HeldException thrown; // by the logger
+};
 
-// As deep as no stack is too small for.
-constexpr unsigned safeLevels = 10;
+Report& reportOf(pANTLR3_BASE_RECOGNIZER recogniser) noexcept
+{
+    return *static_cast<Report*>(recogniser->state->userp);
+}
 
-void installErrorDisplay(pTomlLexer lexer)
+void installErrorDisplay(pTomlLexer lexer, Report& report)
 {
     static const auto defaultDisplay = lexer->pLexer->rec->displayRecognitionError;
+    lexer->pLexer->rec->state->userp = &report;
     lexer->pLexer->rec->displayRecognitionError =
         [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
     {
@@ -52,16 +59,17 @@ void installErrorDisplay(pTomlLexer lexer)
             defaultDisplay(recogniser, tokenNames);
         }
         const Text text = matchedText(static_cast<pANTLR3_LEXER>(recogniser->super));
-        VORN_LOG_ERROR("Invalid TOML: lexer failure at: %s", orEmpty(text));
+        reportOf(recogniser)
+            .thrown.guard([&text]
+                          { VORN_LOG_ERROR("Invalid TOML: lexer failure at: %s", orEmpty(text)); });
         forgetEarlierErrors(recogniser);
     };
 }
 
-// `text` is for the text of the parser's tokens, which is the same for every error.
-void installErrorDisplay(pTomlParser parser, Text& text)
+void installErrorDisplay(pTomlParser parser, Report& report)
 {
     static const auto defaultDisplay = parser->pParser->rec->displayRecognitionError;
-    parser->pParser->rec->state->userp = &text;
+    parser->pParser->rec->state->userp = &report;
     parser->pParser->rec->displayRecognitionError =
         [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
     {
@@ -74,19 +82,21 @@ void installErrorDisplay(pTomlParser parser, Text& text)
             const TemporaryStrings temporary(prepareDisplay(failed));
             defaultDisplay(recogniser, tokenNames);
         }
-        auto& tokens = *static_cast<Text*>(recogniser->state->userp);
+        auto& [tokens, thrown] = reportOf(recogniser);
         if (tokens == nullptr)
         {
             tokens = textOf(failed->getTokenStream(failed));
         }
-        VORN_LOG_ERROR("Invalid TOML: parser failure at: %s", orEmpty(tokens));
+        thrown.guard([text = orEmpty(tokens)]
+                     { VORN_LOG_ERROR("Invalid TOML: parser failure at: %s", text); });
         forgetEarlierErrors(recogniser);
     };
 }
 
-void installErrorDisplay(pTomlTree tree)
+void installErrorDisplay(pTomlTree tree, Report& report)
 {
     static const auto defaultDisplay = tree->pTreeParser->rec->displayRecognitionError;
+    tree->pTreeParser->rec->state->userp = &report;
     tree->pTreeParser->rec->displayRecognitionError =
         [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
     {
@@ -95,7 +105,8 @@ void installErrorDisplay(pTomlTree tree)
                 prepareDisplay(static_cast<pANTLR3_TREE_PARSER>(recogniser->super)));
             defaultDisplay(recogniser, tokenNames);
         }
-        VORN_LOG_ERROR("Invalid TOML: tree parser failure");
+        reportOf(recogniser)
+            .thrown.guard([] { VORN_LOG_ERROR("Invalid TOML: tree parser failure"); });
         forgetEarlierErrors(recogniser);
     };
 }
@@ -126,7 +137,8 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, ITomlTreeVisitor& visitor)
         return false;
     }
     const CleanupGuard lexerGuard([lexer] { lexer->free(lexer); });
-    installErrorDisplay(lexer);
+    Report report;
+    installErrorDisplay(lexer, report);
     const std::size_t size = textOf(input).size();
     if (!isMemoryLeft(memoryForReading(size, survey(lexer->pLexer))))
     {
@@ -150,12 +162,12 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, ITomlTreeVisitor& visitor)
         return false;
     }
     const CleanupGuard parserGuard([parser] { parser->free(parser); });
-    Text tokensText;
-    installErrorDisplay(parser, tokensText);
+    installErrorDisplay(parser, report);
     const FollowStack parserFollows(parser->pParser);
 
     // Errors do not stop the walk: the visitor gets what the parser could make out.
     const pANTLR3_BASE_TREE document = parser->document(parser).tree;
+    report.thrown.pass();
     if (const unsigned levels = parserFollows.levelsWithoutRoom(); levels > 0)
     {
         const unsigned most = std::max(levels, documentDepth(textOf(input)));
@@ -179,10 +191,12 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, ITomlTreeVisitor& visitor)
         return false;
     }
     const CleanupGuard treeGuard([tree] { tree->free(tree); });
-    installErrorDisplay(tree);
+    installErrorDisplay(tree, report);
     const FollowStack treeFollows(tree->pTreeParser->rec);
 
-    if (!tree->document(tree, visitor))
+    const bool isVisited = tree->document(tree, visitor);
+    report.thrown.pass();
+    if (!isVisited)
     {
         VORN_LOG_ERROR("Failed to visit toml tree");
         return false;
@@ -220,13 +234,6 @@ pANTLR3_INPUT_STREAM openStream(const std::string& text)
                                  static_cast<ANTLR3_UINT32>(text.size()), runtimeBytes("toml"));
 }
 
-// Whether the parser may get as deep as this, on the stack that the thread has left.  It
-// stops by itself where it cannot; this is for what cannot be right by far.
-bool hasRoomForLevels(unsigned levels)
-{
-    return levels <= safeLevels || levels <= stackRoom() / leastStackOfLevel;
-}
-
 // The path's characters.  Clients may come with a path type of their own making that
 // begins, like ours, with a pointer to NUL-terminated characters.
 const char* charactersOf(const FilePath& path)
@@ -257,7 +264,7 @@ bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor)
             VORN_LOG_ERROR("Failed: input TOML is too large to diagnose (%zu bytes)", text.size());
             return false;
         }
-        if (const unsigned levels = documentDepth(text); !hasRoomForLevels(levels))
+        if (const unsigned levels = documentDepth(text); !mayHaveRoomForLevels(levels))
         {
             VORN_LOG_ERROR("Failed: input TOML is nested too deeply (%u levels)", levels);
             return false;
