@@ -14,6 +14,10 @@ pANTLR3_STRING toStringTree(pANTLR3_BASE_TREE tree)
     const pANTLR3_STRING_FACTORY factory = tree->getToken(tree)->strFactory;
     const pANTLR3_STRING string = factory->newRaw(factory);
     Text text = textOf(tree);
+    if (text == nullptr)
+    {
+        return string;
+    }
     string->len = static_cast<ANTLR3_UINT32>(std::strlen(text.get()));
     string->size = string->len + 1;
     string->chars = reinterpret_cast<pANTLR3_UINT8>(text.release());

@@ -34,7 +34,9 @@ FollowStack::FollowStack(pANTLR3_PARSER parser) noexcept
 
 FollowStack::FollowStack(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_INT_STREAM tokens) noexcept
     : ANTLR3_STACK(*recogniser->state->following), recogniser_(recogniser),
-      runtime_(recogniser->state->following), tokens_(tokens)
+      runtime_(recogniser->state->following),
+      runtimeRecoverySet_(recogniser->computeErrorRecoverySet),
+      runtimeRuleFollow_(recogniser->computeCSRuleFollow), tokens_(tokens)
 {
     push = pushSet;
     pop = popSet;
@@ -46,6 +48,8 @@ FollowStack::FollowStack(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_INT_STREAM 
 FollowStack::~FollowStack()
 {
     recogniser_->state->following = runtime_;
+    recogniser_->computeErrorRecoverySet = runtimeRecoverySet_;
+    recogniser_->computeCSRuleFollow = runtimeRuleFollow_;
 }
 
 const FollowStack& FollowStack::of(pANTLR3_BASE_RECOGNIZER recogniser) noexcept

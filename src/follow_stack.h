@@ -50,6 +50,8 @@ private:
 
     pANTLR3_BASE_RECOGNIZER recogniser_;
     pANTLR3_STACK runtime_;
+    decltype(ANTLR3_BASE_RECOGNIZER::computeErrorRecoverySet) runtimeRecoverySet_;
+    decltype(ANTLR3_BASE_RECOGNIZER::computeCSRuleFollow) runtimeRuleFollow_;
 
     // The union of the sets changes at few levels: where one has a type that none below it
     // has.  The levels are counted from 1; at level 0 there is no type.

@@ -173,9 +173,15 @@ private:
 //   visitTomlTree("a = 1", visitor);     // false, after the calls for the pair
 //   visitTomlTree("", visitor);          // true: beginDocument, endDocument
 //
-// Throws nothing of its own; what the visitor throws and std::bad_alloc pass
-// through.  Allocates while it runs and keeps nothing.  Calls on different threads
-// do not disturb each other.
+// Arrays and inline tables of a right document may nest without limit.  A document that is
+// not right gets a line that says so, and no calls, where it nests too deeply for the
+// thread's stack, or where the memory to diagnose it is not there: some hundred times its
+// size, two thousand times in the worst case.
+//
+// Throws nothing of its own; what the visitor or the logger throws passes through, and
+// std::bad_alloc where memory ends all the same.  A right document takes three
+// allocations: at most 512 KB, an eighth of its size and its longest scalar once more.
+// Nothing is kept.  Calls on different threads do not disturb each other.
 VORN_PARSERS_API bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor);
 
 // Reads a document from a file: the whole file first, then as above.
@@ -186,7 +192,8 @@ VORN_PARSERS_API bool visitTomlTree(const std::string& text, ITomlTreeVisitor& v
 //   visitTomlTree(FilePath("/etc/app.toml"), visitor);
 //
 // Throws and allocates like the other overload; the file's content is held in
-// memory until the call returns.
+// memory until the call returns.  Where there is no memory for it, std::bad_alloc is
+// thrown.
 VORN_PARSERS_API bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visitor);
 
 // ---------------------------------------------------------------------------------
