@@ -15,6 +15,27 @@ set_target_properties(antlr3c PROPERTIES
     IMPORTED_LOCATION ${ANTLR3C_LIBRARY}
     INTERFACE_INCLUDE_DIRECTORIES ${ANTLR3C_INCLUDE_DIR})
 
+# Debian's headers differ between processors: those for another word size would give the
+# runtime's objects another layout, and nothing else would tell.
+include(CheckCXXSourceCompiles)
+set(CMAKE_REQUIRED_INCLUDES ${ANTLR3C_INCLUDE_DIR})
+set(CMAKE_REQUIRED_LIBRARIES ${ANTLR3C_LIBRARY})
+check_cxx_source_compiles("
+    #include <antlr3.h>
+    static_assert(sizeof(ANTLR3_MARKER) == sizeof(void*), \"the word size of the headers\");
+    int main() { return antlr3VectorNew(0) == nullptr; }
+    " ANTLR3C_IS_FOR_THIS_PROCESSOR)
+unset(CMAKE_REQUIRED_INCLUDES)
+unset(CMAKE_REQUIRED_LIBRARIES)
+if(NOT ANTLR3C_IS_FOR_THIS_PROCESSOR)
+    # The next run looks again.
+    unset(ANTLR3C_IS_FOR_THIS_PROCESSOR CACHE)
+    message(FATAL_ERROR
+        "libantlr3c is for another processor: ${ANTLR3C_INCLUDE_DIR}/antlr3config.h and "
+        "${ANTLR3C_LIBRARY} do not fit ${CMAKE_CXX_COMPILER}, whose pointers have "
+        "${CMAKE_SIZEOF_VOID_P} bytes. The package libantlr3c-dev of that processor has both.")
+endif()
+
 # antlr_recognisers(GRAMMAR OUTPUTS...): makes the recognisers of src/grammar/GRAMMAR in
 # the same place below the build directory.
 function(antlr_recognisers grammar)

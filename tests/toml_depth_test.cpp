@@ -163,7 +163,7 @@ TEST(TomlDepth, behindErrorsEndsTheReadingToo)
 {
     for (const std::string line : {"[1\n],", "[},", "[[1\n],", "{a=[1\n],", "[}, [},"})
     {
-        const std::string text = test::enclosed("a = ", line, 20000, "");
+        const std::string text = test::enclosed("a = ", line, 40000, "");
         for (const Stack& stack : stacks)
         {
             SCOPED_TRACE(describe(stack, text));

@@ -112,7 +112,8 @@ TEST(TomlFile, ofAnySizeIsReadWhole)
 {
     const TemporaryDirectory directory;
     constexpr std::size_t block = 64 * 1024;
-    for (const std::size_t size : {block - 1, block, block + 1, 2 * block, 3'000'000ul})
+    constexpr std::size_t large = 3'000'000;
+    for (const std::size_t size : {block - 1, block, block + 1, 2 * block, large})
     {
         SCOPED_TRACE(size);
         std::string content = "a = '";

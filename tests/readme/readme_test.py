@@ -121,7 +121,7 @@ def run_program(program, options):
         if compilation.returncode != 0:
             return "does not compile:\n" + compilation.stdout.decode(errors="replace")
         run = subprocess.run(
-            [executable],
+            [*filter(None, options.emulator.split(";")), executable],
             cwd=directory,
             stdin=subprocess.DEVNULL,
             stdout=subprocess.PIPE,
@@ -157,6 +157,7 @@ def main():
     parser.add_argument("--tool", required=True, help="stands for scripts/vorn-toml")
     parser.add_argument("--build", required=True, help="stands for build/test")
     parser.add_argument("--directory", required=True, help="where the commands run")
+    parser.add_argument("--emulator", default="", help="runs a page's programs: words with ';'")
     parser.add_argument(
         "--compile",
         required=True,

@@ -11,12 +11,12 @@
 #include <array>
 #include <cstring>
 #include <ctime>
-#include <fstream>
 #include <functional>
 #include <optional>
 
 #include "support/counting_visitor.h"
 #include "support/log_recorder.h"
+#include "support/memory_limit.h"
 
 namespace test
 {
@@ -45,25 +45,6 @@ struct Task
 {
     perror(what);
     _exit(2);
-}
-
-// Sets a limit that can be taken back.
-void limit(decltype(RLIMIT_AS) resource, rlim_t most)
-{
-    rlimit limits = {};
-    getrlimit(resource, &limits);
-    limits.rlim_cur = most;
-    if (setrlimit(resource, &limits) != 0)
-    {
-        fail("setrlimit");
-    }
-}
-
-std::size_t addressSpaceInUse()
-{
-    std::size_t pages = 0;
-    std::ifstream("/proc/self/statm") >> pages;
-    return pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
 }
 
 double processorSeconds()
@@ -98,18 +79,16 @@ void* read(void* argument)
         log.emplace();
     }
     CountingVisitor visitor;
+    std::optional<MemoryLimit> memory;
     if (task.limits.memory != 0)
     {
-        limit(RLIMIT_AS, addressSpaceInUse() + task.limits.memory);
+        memory.emplace(task.limits.memory);
     }
     const double start = processorSeconds();
     task.report.accepted = vorn::parsers::toml::visitTomlTree(task.text, visitor);
     task.report.seconds = processorSeconds() - start;
     task.report.calls = visitor.calls;
-    if (task.limits.memory != 0)
-    {
-        limit(RLIMIT_AS, RLIM_INFINITY);
-    }
+    memory.reset();
     summarise(log ? log->messages() : std::vector<std::string>(), task.report);
     return nullptr;
 }
@@ -135,7 +114,8 @@ void readOnThread(Task& task)
     {
         fail("/dev/null");
     }
-    limit(RLIMIT_CORE, 0);
+    const rlimit noCore = {0, 0};
+    setrlimit(RLIMIT_CORE, &noCore);
     Task task = {text, limits, {}};
     if (limits.stack != 0)
     {

@@ -27,7 +27,7 @@ DateTimeMessage failedToParse(const std::string& text);
 void expectDateTimeLog(const std::vector<LogLine>& lines,
                        const std::vector<DateTimeMessage>& messages);
 
-// Expects the seconds, no microseconds and no log line.
+// Expects the seconds, or -1 where time_t is too small for them, no microseconds and no log line.
 void expectSeconds(const std::string& text, long long seconds);
 
 // Expects zero and one log line, in which the text is `logged`.

@@ -14,7 +14,7 @@ namespace test
 class TextGenerator
 {
 public:
-    std::size_t below(std::size_t bound) { return engine_() % bound; }
+    std::size_t below(std::size_t bound) { return static_cast<std::size_t>(engine_() % bound); }
     bool chance() { return below(2) == 0; }
     std::uint64_t bits() { return engine_(); }
 
