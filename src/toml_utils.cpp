@@ -1,10 +1,12 @@
 #include <regex.h>
 #include <sys/time.h>
 
+#include <cerrno>
 #include <cstdint>
 #include <ctime>
 #include <functional>
 #include <ios>
+#include <new>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -47,12 +49,14 @@ bool startsWith(const std::string& text, std::string_view prefix)
 }
 
 // The value that a stream extracts from the start of a text: zero where there is none,
-// the nearest value of the type where the text's is out of range.
+// the nearest value of the type where the text's is out of range.  Streams keep quiet about
+// memory that is missing unless they are told.
 template <typename Value>
 Value extract(const std::string& text, std::ios_base::fmtflags flags, std::ios_base::fmtflags mask)
 {
     std::istringstream stream(text);
     stream.setf(flags, mask);
+    stream.exceptions(std::ios_base::badbit);
     Value value{};
     stream >> value;
     return value;
@@ -113,6 +117,19 @@ bool convert(const std::string& text, const std::string& format, bool guessDayli
     result.tv_sec = std::mktime(&time);
     result.tv_usec = 0;
     return true;
+}
+
+bool matches(const regex_t& regex, const std::string& text)
+{
+    errno = 0;
+    const bool matched = regexec(&regex, text.c_str(), 0, nullptr, 0) == 0;
+    // glibc answers the same where nothing matches and where memory is gone; the form that is
+    // tried next might read the text as another time.
+    if (!matched && errno == ENOMEM)
+    {
+        throw std::bad_alloc();
+    }
+    return matched;
 }
 
 // The forms of a date-time, in the order in which they are tried: with a zone letter,
@@ -239,7 +256,7 @@ timeval parseDateTime(const std::string& text)
         // A pattern that failed to compile has left nothing to match with, which the C
         // library does not test.
         const bool usable = regex.buffer != nullptr;
-        if (usable && regexec(&regex, text.c_str(), 0, nullptr, 0) == 0)
+        if (usable && matches(regex, text))
         {
             if (!converter(text, result))
             {

@@ -1,0 +1,37 @@
+// Memory that fails as told.  Linking this replaces malloc() and its like.
+#pragma once
+
+namespace test
+{
+
+enum class Failing
+{
+    once,      // one request
+    fromThere, // that request and all behind it
+};
+
+// Requests for memory are counted while this lives, and the one with this number fails; with
+// number 0 none does.  Those that the runtime makes itself are left out, since the runtime does
+// not live through a failure.
+class FailingMemory
+{
+public:
+    explicit FailingMemory(long number, Failing failing = Failing::once);
+    FailingMemory(const FailingMemory&) = delete;
+    FailingMemory& operator=(const FailingMemory&) = delete;
+    ~FailingMemory();
+
+    long requests() const;
+    bool hasFailed() const;
+    // The blocks that have been had since then and are not given back, the runtime's too.
+    long blocks() const;
+
+private:
+    long number_;
+    long blocksBefore_;
+};
+
+// Whether the program has the runtime as a shared library, by which its requests are known.
+bool isRuntimeKnown();
+
+} // namespace test
