@@ -1,5 +1,6 @@
 #include "document_survey.h"
 
+#include "grammar/input_position.h"
 #include "grammar/token_type.h"
 
 namespace vorn::parsers::toml
@@ -40,9 +41,8 @@ bool opens(ANTLR3_UINT32 type)
 DocumentSurvey survey(pANTLR3_LEXER lexer)
 {
     const ANTLR3_RECOGNIZER_SHARED_STATE& state = *lexer->rec->state;
-    const pANTLR3_INT_STREAM input = lexer->input->istream;
     const UnreportedErrors unreported(lexer->rec);
-    const ANTLR3_MARKER start = input->mark(input);
+    const InputPosition start(lexer->input);
     DocumentSurvey seen;
     for (;;)
     {
@@ -56,7 +56,7 @@ DocumentSurvey survey(pANTLR3_LEXER lexer)
         // The next token takes the same place.
         state.tokFactory->reset(state.tokFactory);
     }
-    input->rewind(input, start);
+    start.goBack();
     lexer->rec->reset(lexer->rec);
     return seen;
 }

@@ -12,7 +12,9 @@ namespace
 std::string_view inputText(ANTLR3_MARKER start, ANTLR3_MARKER stop) noexcept
 {
     const char* const text = reinterpret_cast<const char*>(start);
-    return {text, strnlen(text, static_cast<std::size_t>(stop - start + 1))};
+    // Addresses in the upper half of 32 bits are negative markers.
+    const std::size_t size = static_cast<std::size_t>(stop) - static_cast<std::size_t>(start) + 1;
+    return {text, strnlen(text, size)};
 }
 
 std::string_view nodeText(pANTLR3_BASE_TREE node) noexcept

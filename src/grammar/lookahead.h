@@ -1,6 +1,7 @@
 // What the choice of a token's rule looks at.
 #pragma once
 
+#include "input_position.h"
 #include "lexer_matching.h"
 #include "lexer_rules.h"
 
@@ -12,13 +13,10 @@ namespace vorn::parsers::toml
 class Lookahead
 {
 public:
-    explicit Lookahead(pANTLR3_LEXER lexer)
-        : lexer_(lexer), stream_(lexer->input->istream), start_(stream_->mark(stream_))
-    {
-    }
+    explicit Lookahead(pANTLR3_LEXER lexer) : lexer_(lexer), start_(lexer->input) {}
     Lookahead(const Lookahead&) = delete;
     Lookahead& operator=(const Lookahead&) = delete;
-    ~Lookahead() { stream_->rewind(stream_, start_); }
+    ~Lookahead() { start_.goBack(); }
 
     ANTLR3_UCHAR next() const { return peek(lexer_); }
     void advance() { consume(lexer_); }
@@ -53,8 +51,7 @@ private:
     }
 
     pANTLR3_LEXER lexer_;
-    pANTLR3_INT_STREAM stream_;
-    ANTLR3_MARKER start_;
+    InputPosition start_;
 };
 
 } // namespace vorn::parsers::toml

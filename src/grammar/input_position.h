@@ -1,0 +1,36 @@
+#pragma once
+
+#include <antlr3.h>
+
+namespace vorn::parsers::toml
+{
+
+// Where an input is, to go back there.  The stream's own rewind() compares addresses as
+// signed numbers: where a text lies in the middle of a 32-bit address space, it takes
+// four thousand million steps.
+class InputPosition
+{
+public:
+    explicit InputPosition(pANTLR3_INPUT_STREAM input) noexcept
+        : input_(input), next_(input->nextChar), line_(input->line),
+          currentLine_(input->currentLine), column_(input->charPositionInLine)
+    {
+    }
+
+    void goBack() const noexcept
+    {
+        input_->nextChar = next_;
+        input_->line = line_;
+        input_->currentLine = currentLine_;
+        input_->charPositionInLine = column_;
+    }
+
+private:
+    pANTLR3_INPUT_STREAM input_;
+    decltype(ANTLR3_INPUT_STREAM::nextChar) next_;
+    decltype(ANTLR3_INPUT_STREAM::line) line_;
+    decltype(ANTLR3_INPUT_STREAM::currentLine) currentLine_;
+    decltype(ANTLR3_INPUT_STREAM::charPositionInLine) column_;
+};
+
+} // namespace vorn::parsers::toml
