@@ -120,6 +120,7 @@ private:
 
 } // namespace
 
+// NOLINTNEXTLINE(bugprone-exception-escape): what is not caught is a lack of memory.
 int main(int argc, char** argv)
 {
     if (argc != 2)

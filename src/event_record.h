@@ -82,14 +82,14 @@ public:
     template <typename Sink>
     void repeat(Sink& sink) const
     {
-        const char* text = begin_;
+        const char* at = begin_;
         for (const Byte* entry = entries_.get(); entry != lastLine_;)
         {
-            const auto event = static_cast<Event>(entry[0]);
-            if (event < Event::visitBareKey)
+            const auto recorded = static_cast<Event>(entry[0]);
+            if (recorded < Event::visitBareKey)
             {
                 ++entry;
-                sink.event(event);
+                sink.event(recorded);
                 continue;
             }
             std::size_t gap = entry[1];
@@ -97,15 +97,15 @@ public:
             entry += shortEntry;
             if (gap == longGap)
             {
-                Numbers numbers;
+                Numbers numbers = {};
                 std::memcpy(&numbers, entry, sizeof(numbers));
                 gap = numbers.gap;
                 length = numbers.length;
                 entry += sizeof(numbers);
             }
-            text += gap;
-            sink.text(event, {text, length});
-            text += length;
+            at += gap;
+            sink.text(recorded, {at, length});
+            at += length;
         }
     }
 
@@ -123,11 +123,12 @@ private:
     static constexpr std::size_t mostLength = 255;
     static constexpr std::size_t shortEntry = 3;
     static constexpr std::size_t longEntry = shortEntry + sizeof(Numbers);
-    static constexpr std::size_t mostBytes = 512 * 1024;
+    static constexpr std::size_t mostBytes = std::size_t{512} * 1024;
 
     EventRecord(const char* begin, std::size_t room)
-        : entries_(new (std::nothrow) Byte[room]), last_(entries_.get()), lastLine_(last_), end_(last_ + room),
-          begin_(begin), textEnd_(begin), lineEnd_(begin)
+        : entries_(new (std::nothrow) Byte[room]), last_(entries_.get()), lastLine_(last_),
+          end_(last_ != nullptr ? last_ + room : nullptr), begin_(begin), textEnd_(begin),
+          lineEnd_(begin)
     {
     }
 

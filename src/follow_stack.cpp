@@ -18,7 +18,7 @@ constexpr unsigned mostRulesOfLevel = 3;
 // What is to be left of the stack for what the innermost rules call: above all the displays
 // of errors, with the logger, which use half of it.  The walk over the tree is less deep
 // than the parsing and leaves more, for the visitor.
-constexpr std::size_t neededRoom = 20 * 1024;
+constexpr std::size_t neededRoom = std::size_t{20} * 1024;
 
 } // namespace
 

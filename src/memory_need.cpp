@@ -10,12 +10,14 @@ namespace vorn::parsers::toml
 namespace
 {
 
+constexpr std::size_t mebibyte = std::size_t{1024} * 1024;
+
 // The runtime's objects before any token: the node stream's buffer and the first pools of
 // tokens, trees and vectors, of which it makes more than one each.
 constexpr std::size_t fixedNeed =
     90000 * sizeof(ANTLR3_VECTOR_ELEMENT) +
     ANTLR3_FACTORY_POOL_SIZE * (5 * sizeof(ANTLR3_COMMON_TOKEN) + 3 * sizeof(ANTLR3_COMMON_TREE)) +
-    ANTLR3_FACTORY_VPOOL_SIZE * 4 * sizeof(ANTLR3_VECTOR) + 1024 * 1024;
+    ANTLR3_FACTORY_VPOOL_SIZE * 4 * sizeof(ANTLR3_VECTOR) + mebibyte;
 
 // What a token leads to, at most: itself, a few nodes with their lists of children, the
 // token of an imaginary node, and the places of all these in the runtime's vectors.  The
@@ -33,7 +35,7 @@ constexpr std::size_t copies = 8;
 
 // In a small address space what is free need not be in one piece.
 constexpr std::size_t mostInOnePiece = sizeof(void*) > 4 ? std::numeric_limits<std::size_t>::max()
-                                                         : 32 * 1024 * 1024;
+                                                         : 32 * mebibyte;
 
 // A mapping that is never touched.
 class Reservation
@@ -89,6 +91,7 @@ std::size_t memoryForReading(std::size_t documentSize, const DocumentSurvey& see
                sum(product(seen.tokens, needOfToken), product(seen.brackets, stackOfBracket)));
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): a piece is a large part of the address space.
 bool isMemoryLeft(std::size_t size) noexcept
 {
     if (size > mostInOnePiece)

@@ -1,6 +1,7 @@
 #include "node_texts.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace vorn::parsers::toml
 {
@@ -28,7 +29,7 @@ bool NodeTexts::set(std::string_view text) noexcept
 {
     if (text.size() >= string_.size)
     {
-        const std::size_t size = std::max<std::size_t>(text.size() + 1, 2 * string_.size);
+        const std::size_t size = std::max(text.size() + 1, std::size_t{2} * string_.size);
         characters_.reset(static_cast<char*>(std::malloc(size)));
         string_.size = characters_ != nullptr ? static_cast<ANTLR3_UINT32>(size) : 0;
         string_.chars = reinterpret_cast<pANTLR3_UINT8>(characters_.get());

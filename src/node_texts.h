@@ -16,6 +16,7 @@ public:
     explicit NodeTexts(pANTLR3_COMMON_TREE_NODE_STREAM nodes) noexcept;
     NodeTexts(const NodeTexts&) = delete;
     NodeTexts& operator=(const NodeTexts&) = delete;
+    ~NodeTexts() = default;
 
 private:
     using ToString = decltype(ANTLR3_TREE_NODE_STREAM::toStringSS);

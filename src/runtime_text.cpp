@@ -11,6 +11,7 @@ namespace
 // The bytes of the input from one address to another, both included, up to a NUL byte.
 std::string_view inputText(ANTLR3_MARKER start, ANTLR3_MARKER stop) noexcept
 {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the runtime's positions are addresses.
     const char* const text = reinterpret_cast<const char*>(start);
     // Addresses in the upper half of 32 bits are negative markers.
     const std::size_t size = static_cast<std::size_t>(stop) - static_cast<std::size_t>(start) + 1;
@@ -37,6 +38,7 @@ std::string_view nodeText(pANTLR3_BASE_TREE node) noexcept
 
 // Hands the parts of a tree's text to `take`, one behind the other.
 template <typename Take>
+// NOLINTNEXTLINE(misc-no-recursion): not as deep as the parser's rules, which made the tree.
 void forEachPart(pANTLR3_BASE_TREE tree, Take& take)
 {
     const ANTLR3_UINT32 count = tree->getChildCount(tree);

@@ -11,11 +11,11 @@ namespace
 {
 
 // What any stack has left, as far as this can be assumed.
-constexpr std::size_t unknownRoom = 32 * 1024;
+constexpr std::size_t unknownRoom = std::size_t{32} * 1024;
 
 // A main thread's stack grows as it is used.  Where it has no limit, other mappings end
 // it; this much is free of them.
-constexpr std::size_t mostRoom = 64 * 1024 * 1024;
+constexpr std::size_t mostRoom = std::size_t{64} * 1024 * 1024;
 
 // What the parser has on the stack for an array or an inline table: some 290 bytes on
 // 32-bit ARM, 540 on x86-64, with a compiler that optimises for size, and more otherwise.

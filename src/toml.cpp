@@ -128,6 +128,7 @@ int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers
 
 // The pipeline: lexer, token stream, parser, node stream, tree parser.  Each object
 // is freed by the guard that follows it, the last one first.
+// NOLINTNEXTLINE(readability-function-size): it has a stage behind the other.
 bool visitTomlTree(ANTLR3_INPUT_STREAM* input, ITomlTreeVisitor& visitor)
 {
     const pTomlLexer lexer = TomlLexerNew(input);

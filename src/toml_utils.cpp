@@ -1,6 +1,7 @@
 #include <regex.h>
 #include <sys/time.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <ctime>
@@ -25,22 +26,10 @@ namespace vorn::parsers::toml
 namespace
 {
 
-// Replaces every occurrence of `from`; what has been inserted is not searched again.
-std::string replaceAll(std::string text, const std::string& from, const std::string& to)
-{
-    std::string result;
-    std::size_t rest = 0;
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, rest))
-    {
-        result.append(text, rest, at - rest).append(to);
-        rest = at + from.size();
-    }
-    return result.append(text, rest);
-}
-
 std::string withoutUnderscores(std::string text)
 {
-    return replaceAll(std::move(text), "_", "");
+    text.erase(std::remove(text.begin(), text.end(), '_'), text.end());
+    return text;
 }
 
 bool startsWith(const std::string& text, std::string_view prefix)
@@ -132,21 +121,32 @@ bool matches(const regex_t& regex, const std::string& text)
     return matched;
 }
 
+bool convertWithLetter(const std::string& text, timeval& result)
+{
+    return convert(text, utils::format("%%F%c%%TZ", separator(text)), true, result);
+}
+
+bool convertWithOffset(const std::string& text, timeval& result)
+{
+    return convert(text, utils::format("%%F%c%%T%%z", separator(text)), false, result);
+}
+
+bool convertWithNeither(const std::string& text, timeval& result)
+{
+    return convert(text, utils::format("%%F%c%%T", separator(text)), false, result);
+}
+
 // The forms of a date-time, in the order in which they are tried: with a zone letter,
 // with an offset, with neither.  The patterns match anywhere in a text.
 const std::vector<std::pair<std::string, Converter>>& dateTimeForms()
 {
     static const std::vector<std::pair<std::string, Converter>> forms = {
-        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}[A-IK-Z]",
-         [](const std::string& text, timeval& result)
-         { return convert(text, utils::format("%%F%c%%TZ", separator(text)), true, result); }},
+        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}[A-IK-Z]", convertWithLetter},
         {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?"
          "[+-][0-9]{2}:[0-9]{2}",
-         [](const std::string& text, timeval& result)
-         { return convert(text, utils::format("%%F%c%%T%%z", separator(text)), false, result); }},
+         convertWithOffset},
         {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?",
-         [](const std::string& text, timeval& result)
-         { return convert(text, utils::format("%%F%c%%T", separator(text)), false, result); }},
+         convertWithNeither},
     };
     return forms;
 }
@@ -260,7 +260,9 @@ timeval parseDateTime(const std::string& text)
         {
             if (!converter(text, result))
             {
+                // No form's converter says that it has failed.  GCOVR_EXCL_START
                 VORN_LOG_ERROR("Failed to process date-time: '%s'", text.c_str());
+                // GCOVR_EXCL_STOP
             }
             return result;
         }

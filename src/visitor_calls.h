@@ -22,7 +22,8 @@ class VisitorCalls
 public:
     // `end` is the document's end.
     VisitorCalls(ITomlTreeVisitor& visitor, const char* end, std::size_t longestText)
-        : visitor_(visitor), end_(end), text_(new (std::nothrow) char[std::max(longestText, block) + 1])
+        : visitor_(visitor), end_(end),
+          text_(new (std::nothrow) char[std::max(longestText, block) + 1])
     {
     }
 

@@ -29,6 +29,7 @@ bool readAll(std::FILE* file, std::string& content)
 
 std::optional<std::string> fail(const std::string& name)
 {
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): the tool has one thread.
     std::fprintf(stderr, "vorn-toml: %s: %s\n", name.c_str(), std::strerror(errno));
     return std::nullopt;
 }

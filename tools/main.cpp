@@ -41,12 +41,14 @@ tool::Status flushOutput()
     {
         return tool::accepted;
     }
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): the tool has one thread.
     std::fprintf(stderr, "vorn-toml: standard output: %s\n", std::strerror(errno));
     return tool::unreadable;
 }
 
 } // namespace
 
+// NOLINTNEXTLINE(bugprone-exception-escape): what is not caught is a lack of memory.
 int main(int argc, char** argv)
 {
     // Events and the log lines on standard error come out in the order they are made.

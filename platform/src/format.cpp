@@ -11,6 +11,7 @@ std::string formatList(const char* format, va_list arguments)
 {
     va_list measured;
     va_copy(measured, arguments);
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): va_copy() has initialised it.
     const int length = std::vsnprintf(nullptr, 0, format, measured);
     va_end(measured);
     if (length < 0)

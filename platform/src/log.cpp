@@ -1,6 +1,8 @@
 #include "vorn/utils/log.h"
 
+#include <array>
 #include <cstdarg>
+#include <cstddef>
 #include <cstdio>
 #include <string>
 
@@ -11,9 +13,10 @@ namespace
 
 const char* levelName(int level)
 {
-    static const char* const names[] = {"emergency", "alert",  "critical", "error",
-                                        "warning",   "notice", "info",     "debug"};
-    return level >= 0 && level <= 7 ? names[level] : "unknown";
+    constexpr std::array names = {"emergency", "alert",  "critical", "error",
+                                  "warning",   "notice", "info",     "debug"};
+    const auto index = static_cast<std::size_t>(level);
+    return index < names.size() ? names[index] : "unknown";
 }
 
 // A message can hold a whole document; escaped line breaks keep it one line.

@@ -18,16 +18,21 @@ enum CharacterClass : std::uint8_t
     blank = 64,
 };
 
+constexpr bool isFrom(unsigned c, char first, char last)
+{
+    return c >= static_cast<unsigned>(first) && c <= static_cast<unsigned>(last);
+}
+
 constexpr std::array<std::uint8_t, 256> makeCharacterClasses()
 {
     std::array<std::uint8_t, 256> classes = {};
     for (unsigned c = 0; c < classes.size(); ++c)
     {
-        const bool isDigit = c >= '0' && c <= '9';
-        const bool isLetter = (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-        const bool isHexLetter = (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+        const bool isDigit = isFrom(c, '0', '9');
+        const bool isLetter = isFrom(c, 'A', 'Z') || isFrom(c, 'a', 'z');
+        const bool isHexLetter = isFrom(c, 'A', 'F') || isFrom(c, 'a', 'f');
         classes[c] = static_cast<std::uint8_t>(
-            (c == '0' || c == '1' ? binaryDigit : 0) | (c >= '0' && c <= '7' ? octalDigit : 0) |
+            (c == '0' || c == '1' ? binaryDigit : 0) | (isFrom(c, '0', '7') ? octalDigit : 0) |
             (isDigit ? digit : 0) | (isDigit || isHexLetter ? hexDigit : 0) |
             (isLetter ? letter : 0) |
             (isDigit || isLetter || c == '_' || c == '-' ? keyCharacter : 0) |

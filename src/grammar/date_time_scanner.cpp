@@ -1,5 +1,6 @@
 #include "date_time_scanner.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -28,13 +29,13 @@ std::uint64_t load(const char* at) noexcept
 // makes a difference beyond that reach the upper half of its byte.
 bool haveShape(const char* at, const char (&shape)[9]) noexcept
 {
-    char reach[8] = {};
+    std::array<char, 8> reach = {};
     for (unsigned index = 0; index < 8; ++index)
     {
         reach[index] = shape[index] == '0' ? 0x06 : 0x0F;
     }
     const std::uint64_t difference = load(at) ^ load(shape);
-    return ((difference | (difference + load(reach))) & 0xF0F0F0F0F0F0F0F0U) == 0;
+    return ((difference | (difference + load(reach.data()))) & 0xF0F0F0F0F0F0F0F0U) == 0;
 }
 
 bool areHourAndColon(const char* at, const char* end) noexcept

@@ -50,7 +50,7 @@ bool match(pANTLR3_LEXER lexer, const char* text)
     std::size_t length = 0;
     for (; text[length] != '\0'; ++length)
     {
-        characters[length] = static_cast<ANTLR3_UCHAR>(text[length]);
+        characters[length] = static_cast<unsigned char>(text[length]);
     }
     characters[length] = ANTLR3_STRING_TERMINATOR;
     lexer->matchs(lexer, characters);

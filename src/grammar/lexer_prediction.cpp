@@ -1,5 +1,8 @@
 #include "lexer_prediction.h"
 
+#include <array>
+#include <string_view>
+
 #include "lookahead.h"
 
 namespace vorn::parsers::toml
@@ -87,7 +90,7 @@ Rule chooseInteger(Lookahead& ahead)
     return chooseBehindInteger(ahead);
 }
 
-Rule chooseBehindTime(Lookahead& ahead)
+Rule chooseBehindTime(const Lookahead& ahead)
 {
     const ANTLR3_UCHAR c = ahead.next();
     return isSign(c) || c == 'Z' ? rules::offsetDateTime : rules::localDateTime;
@@ -96,9 +99,9 @@ Rule chooseBehindTime(Lookahead& ahead)
 // The time of a date-time, from one of its characters on.
 Rule chooseDateTime(Lookahead& ahead, unsigned index)
 {
-    constexpr char shape[] = "00:00:00";
-    constexpr unsigned char states[] = {93, 95, 97, 98, 99, 100, 101, 102};
-    for (; shape[index] != '\0'; ++index)
+    constexpr std::string_view shape = "00:00:00";
+    constexpr std::array<unsigned char, shape.size()> states = {93, 95, 97, 98, 99, 100, 101, 102};
+    for (; index < shape.size(); ++index)
     {
         if (!(shape[index] == ':' ? ahead.take(':') : ahead.take(digit)))
         {

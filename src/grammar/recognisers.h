@@ -10,6 +10,7 @@
 #include "tree_actions.h"
 
 #include "toml_lexer.h"
+
 #include "TomlParser.h"
 #include "TomlTree.h"
 
@@ -17,8 +18,10 @@ extern "C"
 {
     // The names of the token and node types, indexed by type, for the runtime's
     // messages.  Both tables hold the same names.
+    // NOLINTBEGIN(*-avoid-non-const-global-variables): the tool makes them like that.
     extern pANTLR3_UINT8 TomlParserTokenNames[76];
     extern pANTLR3_UINT8 TomlTreeTokenNames[76];
+    // NOLINTEND(*-avoid-non-const-global-variables)
 }
 
 // The constructors, with those that take a recogniser state to share (SSD), are

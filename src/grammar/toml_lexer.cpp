@@ -113,7 +113,7 @@ void installFragments(TomlLexer& context)
 
 pTomlLexer makeLexer(pANTLR3_INPUT_STREAM input, pANTLR3_RECOGNIZER_SHARED_STATE state)
 {
-    const auto context = static_cast<pTomlLexer>(ANTLR3_CALLOC(1, sizeof(TomlLexer)));
+    auto* const context = static_cast<pTomlLexer>(ANTLR3_CALLOC(1, sizeof(TomlLexer)));
     if (context == nullptr)
     {
         return nullptr;

@@ -9,8 +9,9 @@
 extern "C"
 {
     struct TomlLexer_Ctx_struct;
-    typedef TomlLexer_Ctx_struct TomlLexer, *pTomlLexer;
-    typedef void (*TomlLexerRule)(pTomlLexer);
+    using TomlLexer = TomlLexer_Ctx_struct;
+    using pTomlLexer = TomlLexer*;
+    using TomlLexerRule = void (*)(pTomlLexer);
 
     // The order of the members is part of the binary interface.
     struct TomlLexer_Ctx_struct
@@ -18,6 +19,7 @@ extern "C"
         pANTLR3_LEXER pLexer;
 
         // Each matches its rule at the input's position.
+        // NOLINTBEGIN(*-reserved-identifier,cert-dcl*): the tool's names.
         TomlLexerRule mT__69;
         TomlLexerRule mT__70;
         TomlLexerRule mT__71;
@@ -25,6 +27,7 @@ extern "C"
         TomlLexerRule mT__73;
         TomlLexerRule mT__74;
         TomlLexerRule mT__75;
+        // NOLINTEND(*-reserved-identifier,cert-dcl*)
         TomlLexerRule mWS;
         TomlLexerRule mNL;
         TomlLexerRule mCOMMENT;

@@ -33,11 +33,6 @@ bool sameLine(const LogLine& a, const LogLine& b)
            a.first == b.first && a.second == b.second;
 }
 
-bool sameLines(const std::vector<LogLine>& a, const std::vector<LogLine>& b)
-{
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), sameLine);
-}
-
 // All read the same bytes, so that even addresses in the runtime's displays are the same.
 bool sameReading(const Reading& a, const Reading& b)
 {
@@ -69,6 +64,11 @@ void describeReading(std::ostream& out, const Reading& reading)
 }
 
 } // namespace
+
+bool sameLines(const std::vector<LogLine>& a, const std::vector<LogLine>& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), sameLine);
+}
 
 bool Comparison::same() const
 {
@@ -104,6 +104,13 @@ std::string describe(const Comparison& comparison)
     describeReading(out, comparison.pipeline);
     out << "reference\n";
     describeReading(out, comparison.reference);
+    return out.str();
+}
+
+std::string describe(const Reading& reading)
+{
+    std::ostringstream out;
+    describeReading(out, reading);
     return out.str();
 }
 

@@ -3,6 +3,7 @@
 #include "support/reading.h"
 
 #include <string>
+#include <vector>
 
 namespace test
 {
@@ -29,5 +30,11 @@ Comparison compare(const std::string& document);
 
 // The differences, and all that the ways that differ show.
 std::string describe(const Comparison& comparison);
+
+// All that a reading shows.
+std::string describe(const Reading& reading);
+
+// Whether two readings log the same lines; the numbers of their source lines aside.
+bool sameLines(const std::vector<LogLine>& a, const std::vector<LogLine>& b);
 
 } // namespace test

@@ -59,6 +59,7 @@ namespace vorn::parsers::toml
 // Threads.  All calls are made on the thread that called visitTomlTree().
 //
 // The order of the operations is part of the binary interface.
+// NOLINTNEXTLINE(cppcoreguidelines-special-member-functions): whether one is copied is its own.
 class VORN_PARSERS_API ITomlTreeVisitor
 {
 public:
