@@ -4,11 +4,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <memory>
-#include <new>
 #include <string_view>
 
 #include "event.h"
+#include "scratch.h"
 
 namespace vorn::parsers::toml
 {
@@ -28,7 +27,7 @@ public:
     }
 
     // Whether it could be made; if not, it is of no use.
-    bool hasMemory() const noexcept { return entries_ != nullptr; }
+    bool hasMemory() const noexcept { return entries_.begin() != nullptr; }
 
     void event(Event event) noexcept
     {
@@ -83,7 +82,7 @@ public:
     void repeat(Sink& sink) const
     {
         const char* at = begin_;
-        for (const Byte* entry = entries_.get(); entry != lastLine_;)
+        for (const Byte* entry = entries_.begin(); entry != lastLine_;)
         {
             const auto recorded = static_cast<Event>(entry[0]);
             if (recorded < Event::visitBareKey)
@@ -126,7 +125,7 @@ private:
     static constexpr std::size_t mostBytes = std::size_t{512} * 1024;
 
     EventRecord(const char* begin, std::size_t room)
-        : entries_(new (std::nothrow) Byte[room]), last_(entries_.get()), lastLine_(last_),
+        : entries_(room), last_(entries_.begin()), lastLine_(last_),
           end_(last_ != nullptr ? last_ + room : nullptr), begin_(begin), textEnd_(begin),
           lineEnd_(begin)
     {
@@ -136,7 +135,7 @@ private:
     // ones either.
     bool hasRoom() const noexcept { return static_cast<std::size_t>(end_ - last_) >= longEntry; }
 
-    const std::unique_ptr<Byte[]> entries_;
+    const Scratch<Byte, 2048> entries_;
     Byte* last_;
     const Byte* lastLine_; // the same, when the last line ended
     const Byte* const end_;

@@ -2,8 +2,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
-#include <new>
+
+#include "scratch.h"
 
 namespace vorn::parsers::toml
 {
@@ -25,13 +25,12 @@ class NestingStack
 public:
     // With room for all levels that a document of this many bytes can open and close.
     explicit NestingStack(std::size_t size)
-        : words_(new (std::nothrow) Word[size / 2 / levelsPerWord + 1]),
-          room_(words_ != nullptr ? size / 2 : 0)
+        : words_(size / 2 / levelsPerWord + 1), room_(words_.begin() != nullptr ? size / 2 : 0)
     {
     }
 
     // Without memory it has no room either.
-    bool hasMemory() const noexcept { return words_ != nullptr; }
+    bool hasMemory() const noexcept { return words_.begin() != nullptr; }
 
     Inside inside() const noexcept { return inside_; }
     // The innermost level is now this.
@@ -45,7 +44,7 @@ public:
             return false;
         }
         const unsigned shift = shiftOf(depth_);
-        Word& word = words_[depth_ / levelsPerWord];
+        Word& word = words_.begin()[depth_ / levelsPerWord];
         const Word below = shift == 0 ? 0 : word & ((Word{1} << shift) - 1);
         word = below | (Word{static_cast<std::uint8_t>(inside_)} << shift);
         ++depth_;
@@ -56,7 +55,8 @@ public:
     void leave() noexcept
     {
         --depth_;
-        inside_ = static_cast<Inside>(words_[depth_ / levelsPerWord] >> shiftOf(depth_) & 3);
+        inside_ =
+            static_cast<Inside>(words_.begin()[depth_ / levelsPerWord] >> shiftOf(depth_) & 3);
     }
 
 private:
@@ -68,7 +68,7 @@ private:
         return static_cast<unsigned>(depth % levelsPerWord) * 2;
     }
 
-    const std::unique_ptr<Word[]> words_;
+    const Scratch<Word, 64> words_;
     const std::size_t room_; // in levels
     std::size_t depth_ = 0;
     Inside inside_ = Inside::pair;

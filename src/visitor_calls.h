@@ -6,11 +6,10 @@
 #include <array>
 #include <cstddef>
 #include <cstring>
-#include <memory>
-#include <new>
 #include <string_view>
 
 #include "event.h"
+#include "scratch.h"
 
 namespace vorn::parsers::toml
 {
@@ -22,13 +21,12 @@ class VisitorCalls
 public:
     // `end` is the document's end.
     VisitorCalls(ITomlTreeVisitor& visitor, const char* end, std::size_t longestText)
-        : visitor_(visitor), end_(end),
-          text_(new (std::nothrow) char[std::max(longestText, block) + 1])
+        : visitor_(visitor), end_(end), text_(std::max(longestText, block) + 1)
     {
     }
 
     // Whether it could be made; if not, it is of no use.
-    bool hasMemory() const noexcept { return text_ != nullptr; }
+    bool hasMemory() const noexcept { return text_.begin() != nullptr; }
 
     void event(Event event) { (visitor_.*operations[static_cast<std::size_t>(event)])(); }
 
@@ -69,19 +67,19 @@ private:
         const auto left = static_cast<std::size_t>(end_ - text.data());
         if (text.size() <= block && left >= block)
         {
-            std::memcpy(text_.get(), text.data(), block);
+            std::memcpy(text_.begin(), text.data(), block);
         }
         else
         {
-            std::memcpy(text_.get(), text.data(), text.size());
+            std::memcpy(text_.begin(), text.data(), text.size());
         }
-        text_[text.size()] = '\0';
-        return text_.get();
+        text_.begin()[text.size()] = '\0';
+        return text_.begin();
     }
 
     ITomlTreeVisitor& visitor_;
     const char* end_; // of the document
-    const std::unique_ptr<char[]> text_;
+    const Scratch<char, 256> text_;
 };
 
 } // namespace vorn::parsers::toml

@@ -32,7 +32,8 @@ public:
 
 constexpr int allocations = 3;
 
-const std::string document = "a = [1, {b = 'c'}]\n";
+// Too large for what the reader has on the stack.
+const std::string document = "a = [1, {b = '" + std::string(5000, 'c') + "'}]\n";
 
 } // namespace
 
@@ -82,6 +83,13 @@ TEST(DirectReaderMemory, isAskedForThreeTimes)
     EXPECT_EQ(readDirectly(document, visitor), DirectReading::accepted);
 }
 
+TEST(DirectReaderMemory, isNotNeededForASmallDocument)
+{
+    EventRecorder visitor;
+    const FailingAllocation failing(1);
+    EXPECT_EQ(readDirectly("a = [1, {b = 'c'}]\n", visitor), DirectReading::accepted);
+}
+
 // The recognisers, which would need far more, are not asked then.
 TEST(DirectReaderMemory, thatIsMissingIsLogged)
 {
@@ -92,6 +100,7 @@ TEST(DirectReaderMemory, thatIsMissingIsLogged)
         const Reading reading = read(document);
         EXPECT_FALSE(reading.accepted);
         EXPECT_EQ(reading.events, Events());
-        expectDriverLog(reading.lines, {"Failed: input TOML is too large to diagnose (19 bytes)"});
+        expectDriverLog(reading.lines,
+                        {"Failed: input TOML is too large to diagnose (5018 bytes)"});
     }
 }

@@ -181,8 +181,9 @@ private:
 //
 // Throws nothing of its own; what the visitor or the logger throws passes through, and
 // std::bad_alloc where memory ends all the same.  A right document takes three
-// allocations: at most 512 KB, an eighth of its size and its longest scalar once more.
-// Nothing is kept.  Calls on different threads do not disturb each other.
+// allocations at most, and a small one none: up to 512 KB, an eighth of its size, and
+// its longest scalar once more.  Nothing is kept.  Calls on different threads do not
+// disturb each other.
 VORN_PARSERS_API bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor);
 
 // Reads a document from a file: the whole file first, then as above.
