@@ -2,35 +2,60 @@
 
 #include "event_record.h"
 #include "reader.h"
+#include "scratch.h"
 #include "visitor_calls.h"
 
 namespace vorn::parsers::toml
 {
-
-DirectReading readDirectly(const std::string& text, ITomlTreeVisitor& visitor)
+namespace
 {
-    const char* const end = text.data() + text.size();
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+// Reads lines that are known to be right and calls the visitor: the way of documents that
+// are too long to be recorded whole, not worth its size inlined.
+[[gnu::noinline]] void visitLines(const char* begin, const char* end, NestingStack nesting,
+                                  VisitorCalls calls)
+{
+    Reader(begin, end, nesting, calls).lines();
+}
+
+} // namespace
+
+// With everything inlined, the places in the text and in the record are kept in registers.
+[[gnu::flatten]] DirectReading readDirectly(const std::string& text, ITomlTreeVisitor& visitor)
+{
+    const std::size_t size = text.size();
+    const char* const end = text.data() + size;
     // A byte order mark at the very beginning is no part of the document.
-    const char* const begin = text.data() + (text.compare(0, 3, "\xEF\xBB\xBF") == 0 ? 3 : 0);
-    NestingStack nesting(text.size());
-    EventRecord record(begin, end);
-    if (!nesting.hasMemory() || !record.hasMemory())
+    const bool isMarked = text[0] == byteOrderMark[0] && text.rfind(byteOrderMark, 0) == 0;
+    const char* const begin = text.data() + (isMarked ? byteOrderMark.size() : 0);
+
+    const Scratch<NestingStack::Word, 64> words(NestingStack::wordsFor(size));
+    const Scratch<EventRecord::Byte, 2048> bytes(EventRecord::bytesFor(size));
+    if (words.begin() == nullptr || bytes.begin() == nullptr)
     {
         return DirectReading::outOfMemory;
     }
+    NestingStack nesting(words.begin(), size);
+    EventRecord record(bytes.begin(), EventRecord::bytesFor(size), begin);
     if (!Reader(begin, end, nesting, record).lines())
     {
         return DirectReading::refused;
     }
 
-    VisitorCalls calls(visitor, end, record.longestText());
-    if (!calls.hasMemory())
+    const Scratch<char, 256> buffer(VisitorCalls::bytesFor(record.longestText()));
+    if (buffer.begin() == nullptr)
     {
         return DirectReading::outOfMemory;
     }
+    VisitorCalls calls(visitor, buffer.begin(), end);
     visitor.beginDocument();
     record.repeat(calls);
-    Reader(record.position(), end, nesting, calls).lines();
+    if (record.position() != end)
+    {
+        visitLines(record.position(), end, NestingStack(words.begin(), size), calls);
+    }
     visitor.endDocument();
     return DirectReading::accepted;
 }

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "plain_sink.h"
 #include "reader.h"
+#include "scratch.h"
 
 namespace vorn::parsers::toml
 {
@@ -12,7 +14,7 @@ namespace
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 // A sink that counts the levels of nesting.
-class Levels
+class Levels : public PlainSink<Levels>
 {
 public:
     void event(Event event) noexcept
@@ -51,7 +53,9 @@ unsigned documentDepth(std::string_view text)
         text.remove_prefix(byteOrderMark.size());
     }
     // Levels that are never closed count as well.
-    NestingStack nesting(2 * text.size());
+    const std::size_t size = 2 * text.size();
+    const Scratch<NestingStack::Word, 64> words(NestingStack::wordsFor(size));
+    NestingStack nesting(words.begin(), words.begin() != nullptr ? size : 0);
     Levels levels;
     Reader(text.data(), text.data() + text.size(), nesting, levels).lines();
     return levels.most();

@@ -7,7 +7,6 @@
 #include <string_view>
 
 #include "event.h"
-#include "scratch.h"
 
 namespace vorn::parsers::toml
 {
@@ -16,18 +15,26 @@ namespace vorn::parsers::toml
 // can be repeated without reading those lines again.  It is bounded, whatever the size
 // of the document: a sink that takes all events and keeps what it has room for.
 //
-// An event takes a byte: what it is.  A text takes two more, the gap between it and the
+// An event takes a byte: what it is, and with a text whether it begins or ends a pair, too,
+// which saves time rather than room.  A text takes two more, the gap between it and the
 // text before and its length.  Where those are large, eight more bytes follow.
 class EventRecord
 {
 public:
-    EventRecord(const char* begin, const char* end)
-        : EventRecord(begin, std::min(static_cast<std::size_t>(end - begin), mostBytes) + longEntry)
+    using Byte = std::uint8_t;
+
+    // The bytes that it takes for a document of this many bytes.
+    static constexpr std::size_t bytesFor(std::size_t size)
     {
+        return std::min(size, mostBytes) + longEntry;
     }
 
-    // Whether it could be made; if not, it is of no use.
-    bool hasMemory() const noexcept { return entries_.begin() != nullptr; }
+    // Writes into as many bytes; the document begins at `begin`.
+    EventRecord(Byte* bytes, std::size_t size, const char* begin) noexcept
+        : begin_(bytes), last_(bytes), lastLine_(bytes), full_(bytes + size - longEntry),
+          text_(begin), textEnd_(begin), lineEnd_(begin)
+    {
+    }
 
     void event(Event event) noexcept
     {
@@ -39,27 +46,17 @@ public:
 
     void text(Event event, std::string_view text) noexcept
     {
-        longestText_ = std::max(longestText_, text.size());
-        if (!hasRoom())
-        {
-            return;
-        }
-        const auto gap = static_cast<std::size_t>(text.data() - textEnd_);
-        textEnd_ = text.data() + text.size();
-        Byte* const entry = last_;
-        entry[0] = static_cast<Byte>(event);
-        if (gap < longGap && text.size() <= mostLength)
-        {
-            entry[1] = static_cast<Byte>(gap);
-            entry[2] = static_cast<Byte>(text.size());
-            last_ = entry + shortEntry;
-            return;
-        }
-        entry[1] = longGap;
-        const Numbers numbers = {static_cast<std::uint32_t>(gap),
-                                 static_cast<std::uint32_t>(text.size())};
-        std::memcpy(entry + shortEntry, &numbers, sizeof(numbers));
-        last_ = entry + longEntry;
+        record(static_cast<Byte>(event), text);
+    }
+
+    void keyOfPair(Event event, std::string_view text) noexcept
+    {
+        record(static_cast<Byte>(event) | beginsPair, text);
+    }
+
+    void valueOfPair(Event event, std::string_view text) noexcept
+    {
+        record(static_cast<Byte>(event) | endsPair, text);
     }
 
     // All events of a line, with the pair or the header that it holds, have come.
@@ -81,14 +78,14 @@ public:
     template <typename Sink>
     void repeat(Sink& sink) const
     {
-        const char* at = begin_;
-        for (const Byte* entry = entries_.begin(); entry != lastLine_;)
+        const char* at = text_;
+        for (const Byte* entry = begin_; entry != lastLine_;)
         {
-            const auto recorded = static_cast<Event>(entry[0]);
-            if (recorded < Event::visitBareKey)
+            const Byte kind = entry[0];
+            if (kind < static_cast<Byte>(Event::visitBareKey))
             {
                 ++entry;
-                sink.event(recorded);
+                sink.event(static_cast<Event>(kind));
                 continue;
             }
             std::size_t gap = entry[1];
@@ -103,14 +100,20 @@ public:
                 entry += sizeof(numbers);
             }
             at += gap;
-            sink.text(recorded, {at, length});
+            if ((kind & beginsPair) != 0)
+            {
+                sink.event(Event::beginKeyValue);
+            }
+            sink.text(static_cast<Event>(kind & events), {at, length});
             at += length;
+            if ((kind & endsPair) != 0)
+            {
+                sink.event(Event::endKeyValue);
+            }
         }
     }
 
 private:
-    using Byte = std::uint8_t;
-
     // The runtime, too, counts a text's bytes in 32 bits.
     struct Numbers
     {
@@ -118,28 +121,54 @@ private:
         std::uint32_t length;
     };
 
+    static constexpr Byte events = 0x3F;
+    static constexpr Byte beginsPair = 0x40;
+    static constexpr Byte endsPair = 0x80;
     static constexpr Byte longGap = 255;
     static constexpr std::size_t mostLength = 255;
     static constexpr std::size_t shortEntry = 3;
     static constexpr std::size_t longEntry = shortEntry + sizeof(Numbers);
     static constexpr std::size_t mostBytes = std::size_t{512} * 1024;
 
-    EventRecord(const char* begin, std::size_t room)
-        : entries_(room), last_(entries_.begin()), lastLine_(last_),
-          end_(last_ != nullptr ? last_ + room : nullptr), begin_(begin), textEnd_(begin),
-          lineEnd_(begin)
+    void record(Byte kind, std::string_view text) noexcept
     {
+        longestText_ = std::max(longestText_, text.size());
+        if (!hasRoom())
+        {
+            return;
+        }
+        const auto gap = static_cast<std::size_t>(text.data() - textEnd_);
+        textEnd_ = text.data() + text.size();
+        Byte* const entry = last_;
+        entry[0] = kind;
+        if (gap < longGap && text.size() <= mostLength)
+        {
+            entry[1] = static_cast<Byte>(gap);
+            entry[2] = static_cast<Byte>(text.size());
+            last_ = entry + shortEntry;
+            return;
+        }
+        last_ = writeLong(entry, gap, text.size());
+    }
+
+    [[gnu::noinline]] static Byte* writeLong(Byte* entry, std::size_t gap, std::size_t length)
+    {
+        entry[1] = longGap;
+        const Numbers numbers = {static_cast<std::uint32_t>(gap),
+                                 static_cast<std::uint32_t>(length)};
+        std::memcpy(entry + shortEntry, &numbers, sizeof(numbers));
+        return entry + longEntry;
     }
 
     // For the longest of entries, so that once there is no room there is none for shorter
     // ones either.
-    bool hasRoom() const noexcept { return static_cast<std::size_t>(end_ - last_) >= longEntry; }
+    bool hasRoom() const noexcept { return last_ <= full_; }
 
-    const Scratch<Byte, 2048> entries_;
+    const Byte* const begin_;
     Byte* last_;
     const Byte* lastLine_; // the same, when the last line ended
-    const Byte* const end_;
-    const char* begin_;
+    const Byte* const full_;
+    const char* const text_;
     const char* textEnd_;
     const char* lineEnd_;
     std::size_t longestText_ = 0;

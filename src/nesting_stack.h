@@ -3,8 +3,6 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "scratch.h"
-
 namespace vorn::parsers::toml
 {
 
@@ -23,14 +21,13 @@ enum class Inside : std::uint8_t
 class NestingStack
 {
 public:
-    // With room for all levels that a document of this many bytes can open and close.
-    explicit NestingStack(std::size_t size)
-        : words_(size / 2 / levelsPerWord + 1), room_(words_.begin() != nullptr ? size / 2 : 0)
-    {
-    }
+    using Word = std::uint32_t;
 
-    // Without memory it has no room either.
-    bool hasMemory() const noexcept { return words_.begin() != nullptr; }
+    // The words that all levels take that a document of this many bytes can open and close.
+    static constexpr std::size_t wordsFor(std::size_t size) { return size / 2 / levelsPerWord + 1; }
+
+    // Takes the levels of a document of this many bytes, in words for as many.
+    NestingStack(Word* words, std::size_t size) noexcept : words_(words), room_(size / 2) {}
 
     Inside inside() const noexcept { return inside_; }
     // The innermost level is now this.
@@ -44,7 +41,7 @@ public:
             return false;
         }
         const unsigned shift = shiftOf(depth_);
-        Word& word = words_.begin()[depth_ / levelsPerWord];
+        Word& word = words_[depth_ / levelsPerWord];
         const Word below = shift == 0 ? 0 : word & ((Word{1} << shift) - 1);
         word = below | (Word{static_cast<std::uint8_t>(inside_)} << shift);
         ++depth_;
@@ -55,12 +52,10 @@ public:
     void leave() noexcept
     {
         --depth_;
-        inside_ =
-            static_cast<Inside>(words_.begin()[depth_ / levelsPerWord] >> shiftOf(depth_) & 3);
+        inside_ = static_cast<Inside>(words_[depth_ / levelsPerWord] >> shiftOf(depth_) & 3);
     }
 
 private:
-    using Word = std::uint32_t;
     static constexpr std::size_t levelsPerWord = 16;
 
     static unsigned shiftOf(std::size_t depth) noexcept
@@ -68,7 +63,7 @@ private:
         return static_cast<unsigned>(depth % levelsPerWord) * 2;
     }
 
-    const Scratch<Word, 64> words_;
+    Word* const words_;
     const std::size_t room_; // in levels
     std::size_t depth_ = 0;
     Inside inside_ = Inside::pair;

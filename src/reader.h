@@ -68,6 +68,7 @@ template <typename Sink>
 class Reader
 {
 public:
+    // The text ends with a NUL at `end`.
     Reader(const char* begin, const char* end, NestingStack& nesting, Sink& sink)
         : tokens_(begin, end), nesting_(nesting), sink_(sink)
     {
@@ -96,49 +97,30 @@ public:
 private:
     bool header()
     {
-        if (!tokens_.take('['))
-        {
-            sink_.event(Event::beginTable);
-            if (!key() || !tokens_.take(']'))
-            {
-                return false;
-            }
-            sink_.event(Event::endTable);
-            return true;
-        }
-        sink_.event(Event::beginArrayTable);
-        if (!key() || !tokens_.take(']') || !tokens_.take(']'))
+        const bool isOfArray = tokens_.take('[');
+        sink_.event(isOfArray ? Event::beginArrayTable : Event::beginTable);
+        const Lexeme first = tokens_.take();
+        const bool hasKey = tokens_.isNext('.') ? dottedKey(first) : keyPart(first);
+        if (!hasKey || !tokens_.take(']') || (isOfArray && !tokens_.take(']')))
         {
             return false;
         }
-        sink_.event(Event::endArrayTable);
+        sink_.event(isOfArray ? Event::endArrayTable : Event::endTable);
         return true;
     }
 
-    bool key()
+    bool dottedKey(const Lexeme& first)
     {
-        const Lexeme first = tokens_.take();
-        const bool dotted = tokens_.isNext('.');
-        if (dotted)
+        sink_.event(Event::beginDottedKey);
+        for (Lexeme part = first; keyPart(part); part = tokens_.take())
         {
-            sink_.event(Event::beginDottedKey);
-        }
-        if (!keyPart(first))
-        {
-            return false;
-        }
-        while (tokens_.take('.'))
-        {
-            if (!keyPart(tokens_.take()))
+            if (!tokens_.take('.'))
             {
-                return false;
+                sink_.event(Event::endDottedKey);
+                return true;
             }
         }
-        if (dotted)
-        {
-            sink_.event(Event::endDottedKey);
-        }
-        return true;
+        return false;
     }
 
     bool keyPart(const Lexeme& part)
@@ -154,78 +136,107 @@ private:
 
     bool keyAndEquals()
     {
-        sink_.event(Event::beginKeyValue);
-        return key() && tokens_.take('=');
+        const Lexeme first = tokens_.take();
+        if (tokens_.isNext('.'))
+        {
+            sink_.event(Event::beginKeyValue);
+            return dottedKey(first) && tokens_.take('=');
+        }
+        const Event event = keyEvent(first.type);
+        if (event == Event::none || !tokens_.take('='))
+        {
+            return false;
+        }
+        sink_.keyOfPair(event, first.text);
+        return true;
     }
 
     // A pair of the top level, with all that nests in it.
     bool pair()
     {
-        if (!keyAndEquals())
+        After after = After::pair;
+        while (after == After::pair || after == After::value)
         {
-            return false;
-        }
-        for (;;)
-        {
-            // A value begins here, or what it encloses.
-            if (tokens_.take('['))
+            if (after == After::pair && !keyAndEquals())
             {
-                sink_.event(Event::beginArray);
-                if (!nesting_.enter(Inside::firstElement))
-                {
-                    return false;
-                }
-                tokens_.takeNewline();
-                continue;
-            }
-            if (tokens_.take('{'))
-            {
-                sink_.event(Event::beginInlineTable);
-                if (!nesting_.enter(Inside::inlineTable) || !keyAndEquals())
-                {
-                    return false;
-                }
-                continue;
+                return false;
             }
             const Lexeme value = tokens_.take();
             const Event scalar = scalarEvent(value.type);
-            if (scalar == Event::none)
-            {
-                return false;
-            }
-            sink_.text(scalar, value.text);
-
-            // The value ends, and maybe what encloses it.
-            After after = After::end;
+            after = scalar != Event::none ? afterScalar(scalar, value.text) : enter(value.type);
+            // What encloses the value may end with it.
             while (after == After::end)
             {
-                if (nesting_.inside() == Inside::pair)
-                {
-                    sink_.event(Event::endKeyValue);
-                    return true;
-                }
-                after = nesting_.inside() == Inside::inlineTable ? afterPair() : afterElement();
-            }
-            if (after == After::refusal)
-            {
-                return false;
+                after = afterEnd();
             }
         }
+        return after == After::nothing;
     }
 
+    // What comes next.
     enum class After
     {
-        value, // another value follows
-        end,   // the array or inline table has ended
+        pair,    // of an inline table
+        value,   // an element, if not the value of a pair
+        end,     // the array or inline table has ended
+        nothing, // the pair of the top level has ended
         refusal,
     };
 
+    // Begins the array or inline table whose bracket has been taken.
+    After enter(TokenType bracket)
+    {
+        if (bracket == TokenType::openBracket)
+        {
+            sink_.event(Event::beginArray);
+            tokens_.takeNewline();
+            return nesting_.enter(Inside::firstElement) ? After::value : After::refusal;
+        }
+        if (bracket == TokenType::openBrace)
+        {
+            sink_.event(Event::beginInlineTable);
+            return nesting_.enter(Inside::inlineTable) ? After::pair : After::refusal;
+        }
+        return After::refusal;
+    }
+
+    After afterScalar(Event scalar, std::string_view text)
+    {
+        if (isInArray())
+        {
+            sink_.text(scalar, text);
+            return afterElement();
+        }
+        sink_.valueOfPair(scalar, text);
+        return afterPair();
+    }
+
+    // Behind an array or inline table.
+    After afterEnd()
+    {
+        if (isInArray())
+        {
+            return afterElement();
+        }
+        sink_.event(Event::endKeyValue);
+        return afterPair();
+    }
+
+    bool isInArray() const
+    {
+        return nesting_.inside() == Inside::firstElement ||
+               nesting_.inside() == Inside::laterElement;
+    }
+
     After afterPair()
     {
-        sink_.event(Event::endKeyValue);
+        if (nesting_.inside() == Inside::pair)
+        {
+            return After::nothing;
+        }
         if (tokens_.take(','))
         {
-            return keyAndEquals() ? After::value : After::refusal;
+            return After::pair;
         }
         if (!tokens_.take('}'))
         {

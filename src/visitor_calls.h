@@ -9,24 +9,26 @@
 #include <string_view>
 
 #include "event.h"
-#include "scratch.h"
+#include "plain_sink.h"
 
 namespace vorn::parsers::toml
 {
 
-// A sink that calls the visitor.  Texts are handed over NUL-terminated, from one buffer
-// that has room for the longest.
-class VisitorCalls
+// A sink that calls the visitor.  Texts are handed over NUL-terminated, from one buffer.
+class VisitorCalls : public PlainSink<VisitorCalls>
 {
 public:
-    // `end` is the document's end.
-    VisitorCalls(ITomlTreeVisitor& visitor, const char* end, std::size_t longestText)
-        : visitor_(visitor), end_(end), text_(std::max(longestText, block) + 1)
+    // The bytes that texts up to a length take.
+    static constexpr std::size_t bytesFor(std::size_t longestText)
     {
+        return std::max(longestText, block) + 1;
     }
 
-    // Whether it could be made; if not, it is of no use.
-    bool hasMemory() const noexcept { return text_.begin() != nullptr; }
+    // Copies texts into as many bytes at `buffer`; `end` is the document's end.
+    VisitorCalls(ITomlTreeVisitor& visitor, char* buffer, const char* end) noexcept
+        : visitor_(visitor), buffer_(buffer), end_(end)
+    {
+    }
 
     void event(Event event) { (visitor_.*operations[static_cast<std::size_t>(event)])(); }
 
@@ -67,19 +69,19 @@ private:
         const auto left = static_cast<std::size_t>(end_ - text.data());
         if (text.size() <= block && left >= block)
         {
-            std::memcpy(text_.begin(), text.data(), block);
+            std::memcpy(buffer_, text.data(), block);
         }
         else
         {
-            std::memcpy(text_.begin(), text.data(), text.size());
+            std::memcpy(buffer_, text.data(), text.size());
         }
-        text_.begin()[text.size()] = '\0';
-        return text_.begin();
+        buffer_[text.size()] = '\0';
+        return buffer_;
     }
 
     ITomlTreeVisitor& visitor_;
+    char* buffer_;
     const char* end_; // of the document
-    const Scratch<char, 256> text_;
 };
 
 } // namespace vorn::parsers::toml

@@ -20,7 +20,7 @@ namespace
 unsigned depthOf(const std::string& text)
 {
     test::GuardedMemory memory(text.size() + 1);
-    return vorn::parsers::toml::documentDepth({memory.hold(text), text.size()});
+    return vorn::parsers::toml::documentDepth({memory.holdTerminated(text), text.size()});
 }
 
 struct Case

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "support/event_names.h"
 
@@ -15,19 +16,22 @@ using vorn::parsers::toml::EventRecord;
 namespace
 {
 
-const char* endOf(const std::string& text)
+// A record with bytes of its own.
+class Record : std::vector<EventRecord::Byte>, public EventRecord
 {
-    return text.data() + text.size();
-}
+public:
+    explicit Record(const std::string& document)
+        : vector(bytesFor(document.size())),
+          EventRecord(vector::data(), vector::size(), document.data())
+    {
+    }
+};
 
 // Hands the same events to a record and to a list of what is expected of it.
 class Recording
 {
 public:
-    explicit Recording(const std::string& document)
-        : record(document.data(), endOf(document)), next_(document.data())
-    {
-    }
+    explicit Recording(const std::string& document) : record(document), next_(document.data()) {}
 
     void event(Event event)
     {
@@ -36,19 +40,37 @@ public:
     }
     void text(Event event, std::size_t gap, std::size_t length)
     {
-        const std::string_view text(next_ + gap, length);
-        next_ = text.data() + length;
+        const std::string_view text = next(gap, length);
         record.text(event, text);
         expected.text(event, text);
+    }
+    void keyOfPair(Event event, std::size_t gap, std::size_t length)
+    {
+        const std::string_view text = next(gap, length);
+        record.keyOfPair(event, text);
+        expected.keyOfPair(event, text);
+    }
+    void valueOfPair(Event event, std::size_t gap, std::size_t length)
+    {
+        const std::string_view text = next(gap, length);
+        record.valueOfPair(event, text);
+        expected.valueOfPair(event, text);
     }
     void lineEnd() { record.lineEnd(next_); }
 
     const char* position() const { return next_; }
 
-    EventRecord record;
+    Record record;
     test::EventSink expected;
 
 private:
+    std::string_view next(std::size_t gap, std::size_t length)
+    {
+        const std::string_view text(next_ + gap, length);
+        next_ = text.data() + length;
+        return text;
+    }
+
     const char* next_;
 };
 
@@ -71,7 +93,7 @@ TEST(EventRecord, ofNothingIsEmpty)
 {
     for (const std::string& document : {std::string(), std::string("a = 1\n")})
     {
-        const EventRecord record(document.data(), endOf(document));
+        const Record record(document);
         expectRepeated(record, {});
         EXPECT_EQ(record.position(), document.data());
         EXPECT_EQ(record.longestText(), 0u);
@@ -80,7 +102,7 @@ TEST(EventRecord, ofNothingIsEmpty)
 
 TEST(EventRecord, repeatsEveryEvent)
 {
-    const std::string document(1000, 'x');
+    const std::string document(20000, 'x');
     Recording recording(document);
     for (std::size_t number = 0; number < test::firstEventWithText; ++number)
     {
@@ -89,11 +111,13 @@ TEST(EventRecord, repeatsEveryEvent)
     for (std::size_t number = test::firstEventWithText; number < test::eventNames.size(); ++number)
     {
         recording.text(static_cast<Event>(number), 1, number);
+        recording.keyOfPair(static_cast<Event>(number), 0, 300 + number);
+        recording.valueOfPair(static_cast<Event>(number), 300, number);
     }
     recording.lineEnd();
     expectRepeated(recording.record, recording.expected);
     EXPECT_EQ(recording.record.position(), recording.position());
-    EXPECT_EQ(recording.record.longestText(), test::eventNames.size() - 1);
+    EXPECT_EQ(recording.record.longestText(), 300 + test::eventNames.size() - 1);
 }
 
 TEST(EventRecord, repeatsTextsOfAnyLengthBehindAnyGap)
@@ -143,7 +167,7 @@ TEST(EventRecord, isCutOffAtTheEndOfALine)
     {
         SCOPED_TRACE(size);
         const std::string document(size, 'x');
-        EventRecord record(document.data(), endOf(document));
+        Record record(document);
         // More events than a document of this size can have.
         test::EventSink whole;
         std::set<std::size_t> lineEnds = {0};
@@ -173,7 +197,7 @@ TEST(EventRecord, isBounded)
     constexpr std::size_t lines = 200000;
     constexpr std::size_t most = 256 * 1024;
     const std::string document(lines * 6, 'x');
-    EventRecord record(document.data(), endOf(document));
+    Record record(document);
     const char* at = document.data();
     for (std::size_t line = 0; line < lines; ++line, at += 6)
     {

@@ -15,18 +15,28 @@ namespace
 const Inside kinds[] = {Inside::pair, Inside::inlineTable, Inside::firstElement,
                         Inside::laterElement};
 
+// A stack with room for the levels of a document of some size.
+class Stack : std::vector<NestingStack::Word>, public NestingStack
+{
+public:
+    explicit Stack(std::size_t size)
+        : vector(NestingStack::wordsFor(size)), NestingStack(vector::data(), size)
+    {
+    }
+};
+
 } // namespace
 
 TEST(NestingStack, beginsInAPair)
 {
-    const NestingStack stack(0);
+    const Stack stack(0);
     EXPECT_EQ(stack.inside(), Inside::pair);
 }
 
 TEST(NestingStack, remembersEveryLevel)
 {
     constexpr std::size_t depth = 5000;
-    NestingStack stack(2 * depth);
+    Stack stack(2 * depth);
     for (std::size_t level = 0; level < depth; ++level)
     {
         ASSERT_TRUE(stack.enter(kinds[level * level % 4])) << level;
@@ -43,7 +53,7 @@ TEST(NestingStack, remembersEveryLevel)
 TEST(NestingStack, isRightAfterAnyChanges)
 {
     constexpr std::size_t room = 200;
-    NestingStack stack(2 * room);
+    Stack stack(2 * room);
     std::vector<Inside> expected = {Inside::pair};
     std::mt19937 random(1);
     std::size_t deepest = 0;
@@ -78,7 +88,7 @@ TEST(NestingStack, hasRoomForALevelInEveryTwoBytes)
     for (std::size_t size = 0; size < 100; ++size)
     {
         SCOPED_TRACE(size);
-        NestingStack stack(size);
+        Stack stack(size);
         for (std::size_t level = 0; level < size / 2; ++level)
         {
             ASSERT_TRUE(stack.enter(Inside::inlineTable)) << level;

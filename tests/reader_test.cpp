@@ -26,7 +26,8 @@ struct Outcome
 Outcome readLines(const std::string& text)
 {
     Outcome outcome = {};
-    NestingStack nesting(text.size());
+    std::vector<NestingStack::Word> words(NestingStack::wordsFor(text.size()));
+    NestingStack nesting(words.data(), text.size());
     outcome.read = Reader(text.data(), text.data() + text.size(), nesting, outcome.sink).lines();
     return outcome;
 }

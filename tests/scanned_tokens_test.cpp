@@ -25,7 +25,7 @@ const std::pair<TokenType, std::string> nothing = {TokenType::none, ""};
 Tokens tokensOf(const std::string& text)
 {
     test::GuardedMemory memory(text.size() + 1);
-    ScannedTokens scanned(memory.hold(text), memory.end());
+    ScannedTokens scanned(memory.holdTerminated(text), memory.terminator());
     Tokens tokens;
     while (!scanned.atEnd())
     {
@@ -40,7 +40,7 @@ Tokens tokensOf(const std::string& text)
         EXPECT_EQ(lexeme.text.data(), position);
     }
     EXPECT_EQ(scanned.take().type, TokenType::none) << "at the end";
-    EXPECT_EQ(scanned.position(), memory.end());
+    EXPECT_EQ(scanned.position(), memory.terminator());
     return tokens;
 }
 
@@ -176,8 +176,8 @@ TEST(ScannedTokens, ofLineBreaksAreTakenIfTheyAreNext)
     {
         SCOPED_TRACE(testing::PrintToString(text));
         test::GuardedMemory memory(text.size() + 1);
-        const char* const begin = memory.hold(text);
-        ScannedTokens scanned(begin, memory.end());
+        const char* const begin = memory.holdTerminated(text);
+        ScannedTokens scanned(begin, memory.terminator());
         EXPECT_EQ(scanned.takeNewline(), taken);
         EXPECT_EQ(scanned.position(), begin + position);
     }

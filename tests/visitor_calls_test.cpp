@@ -5,6 +5,7 @@
 
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "support/event_names.h"
 #include "support/event_recorder.h"
@@ -25,7 +26,8 @@ const char* endOf(const std::string& text)
 std::string handedOver(const char* begin, std::size_t length, const char* end)
 {
     test::EventRecorder visitor;
-    VisitorCalls calls(visitor, end, length);
+    std::vector<char> buffer(VisitorCalls::bytesFor(length));
+    VisitorCalls calls(visitor, buffer.data(), end);
     calls.text(Event::visitInteger, {begin, length});
     return visitor.events().at(0).substr(std::strlen("visitInteger "));
 }
@@ -38,7 +40,8 @@ TEST(VisitorCalls, callTheOperationOfEachEvent)
     for (std::size_t number = 0; number < test::eventNames.size(); ++number)
     {
         test::EventRecorder visitor;
-        VisitorCalls calls(visitor, endOf(document), 4);
+        std::vector<char> buffer(VisitorCalls::bytesFor(4));
+        VisitorCalls calls(visitor, buffer.data(), endOf(document));
         const auto event = static_cast<Event>(number);
         if (number < test::firstEventWithText)
         {
@@ -58,7 +61,7 @@ TEST(VisitorCalls, areNotMadeForTheEndOfALine)
 {
     test::EventRecorder visitor;
     const std::string document = "a";
-    VisitorCalls(visitor, endOf(document), 1).lineEnd(endOf(document));
+    VisitorCalls(visitor, nullptr, endOf(document)).lineEnd(endOf(document));
     EXPECT_EQ(visitor.events(), test::Events());
 }
 
@@ -87,7 +90,8 @@ TEST(VisitorCalls, endEachTextWhereItEndsWhateverCameBefore)
 {
     const std::string document(1000, 'x');
     test::EventRecorder visitor;
-    VisitorCalls calls(visitor, endOf(document), 500);
+    std::vector<char> buffer(VisitorCalls::bytesFor(500));
+    VisitorCalls calls(visitor, buffer.data(), endOf(document));
     test::Events expected;
     for (const std::size_t length : {500u, 1u, 0u, 127u, 128u, 31u, 32u, 33u, 499u, 126u, 2u, 500u})
     {

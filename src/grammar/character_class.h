@@ -16,6 +16,7 @@ enum CharacterClass : std::uint8_t
     letter = 16,
     keyCharacter = 32, // what bare keys are made of
     blank = 64,
+    skipped = 128, // blanks, and what comments begin with
 };
 
 constexpr bool isFrom(unsigned c, char first, char last)
@@ -36,7 +37,7 @@ constexpr std::array<std::uint8_t, 256> makeCharacterClasses()
             (isDigit ? digit : 0) | (isDigit || isHexLetter ? hexDigit : 0) |
             (isLetter ? letter : 0) |
             (isDigit || isLetter || c == '_' || c == '-' ? keyCharacter : 0) |
-            (c == ' ' || c == '\t' ? blank : 0));
+            (c == ' ' || c == '\t' ? blank | skipped : 0) | (c == '#' ? skipped : 0));
     }
     return classes;
 }

@@ -1,7 +1,7 @@
 // Dates and times: their shapes, and what may follow them.
 #pragma once
 
-#include "scanner.h"
+#include "token.h"
 
 namespace vorn::parsers::toml
 {

@@ -36,12 +36,8 @@ Token scanNewlines(const char* begin, const char* end) noexcept
 
 } // namespace
 
-Token scanToken(const char* begin, const char* end) noexcept
+Token scanMark(const char* begin, const char* end) noexcept
 {
-    if (is(*begin, keyCharacter))
-    {
-        return is(*begin, digit) ? scanDigit(begin, end) : scanWord(begin, end);
-    }
     switch (*begin)
     {
     case ',':

@@ -6,19 +6,26 @@
 // as an error, and a few rarities besides, it does not recognise.
 #pragma once
 
-#include "token_type.h"
+#include "character_class.h"
+#include "token.h"
+#include "word_scanner.h"
 
 namespace vorn::parsers::toml
 {
 
-struct Token
-{
-    TokenType type; // none: not recognised
-    const char* end;
-};
+// A token that begins with a mark: not with what words and numbers without a plus sign
+// begin with.
+Token scanMark(const char* begin, const char* end) noexcept;
 
 // The token that begins at `begin`, which is before `end`.  Reads nothing at or behind
 // `end`.
-Token scanToken(const char* begin, const char* end) noexcept;
+inline Token scanToken(const char* begin, const char* end) noexcept
+{
+    if (is(*begin, digit))
+    {
+        return scanDigit(begin, end);
+    }
+    return is(*begin, keyCharacter) ? scanWord(begin, end) : scanMark(begin, end);
+}
 
 } // namespace vorn::parsers::toml

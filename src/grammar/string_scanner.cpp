@@ -1,9 +1,9 @@
 #include "string_scanner.h"
 
 #include "character_class.h"
+#include "packed_bytes.h"
 
-#include <cstdint>
-#include <cstring>
+#include <cstddef>
 
 namespace vorn::parsers::toml
 {
@@ -12,26 +12,6 @@ namespace
 
 constexpr Token notRecognised = {TokenType::none, nullptr};
 
-using Word = std::uintptr_t;
-constexpr Word ones = ~Word{0} / 0xFF; // 0x01 in every byte
-constexpr Word highBits = ones * 0x80;
-
-// Has the high bit of at least the first byte that equals `c` set, and of none before.
-constexpr Word bytesEqual(Word word, char c)
-{
-    const Word difference = word ^ (ones * static_cast<unsigned char>(c));
-    return (difference - ones) & ~difference;
-}
-
-constexpr bool littleEndian = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__;
-
-// The number of the lowest byte with its high bit set.
-std::ptrdiff_t lowestByte(Word marked) noexcept
-{
-    static_assert(sizeof(Word) <= sizeof(unsigned long));
-    return __builtin_ctzl(marked) / 8;
-}
-
 // The first position from `at` on that holds one of the three characters or a byte
 // that is not ASCII.
 template <char first, char second, char third>
@@ -39,8 +19,7 @@ const char* plainEnd(const char* at, const char* end) noexcept
 {
     for (; end - at >= static_cast<std::ptrdiff_t>(sizeof(Word)); at += sizeof(Word))
     {
-        Word word = 0;
-        std::memcpy(&word, at, sizeof(word));
+        const Word word = loadWord(at);
         const Word found =
             (bytesEqual(word, first) | bytesEqual(word, second) | bytesEqual(word, third) | word) &
             highBits;

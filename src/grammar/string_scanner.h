@@ -1,7 +1,7 @@
 // Tokens that hold free text: strings and comments.
 #pragma once
 
-#include "scanner.h"
+#include "token.h"
 
 namespace vorn::parsers::toml
 {

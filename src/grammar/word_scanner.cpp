@@ -1,6 +1,7 @@
 #include "word_scanner.h"
 
 #include "character_class.h"
+#include "character_run.h"
 #include "date_time_scanner.h"
 
 #include <cstddef>
@@ -137,7 +138,7 @@ TokenType classifyKeyword(std::string_view word) noexcept
 // first.  Where a float has begun it must be whole: there is no way back to the word.
 Token scanNumber(const char* begin, const char* end) noexcept
 {
-    const char* const stop = skip(begin, end, keyCharacter);
+    const char* const stop = skipKeyCharacters(begin, end);
     if (stop != end && (*stop == '.' || *stop == '+'))
     {
         const char* const at = integerEnd(*begin == '-' ? begin + 1 : begin, stop);
@@ -157,7 +158,7 @@ Token scanNumber(const char* begin, const char* end) noexcept
 
 Token scanDigit(const char* begin, const char* end) noexcept
 {
-    const char* const stop = skip(begin, end, digit);
+    const char* const stop = skipDigits(begin, end);
     const char behind = stop != end ? *stop : '\0';
     if (behind == '-' && beginsWithDate(begin, end))
     {
@@ -181,7 +182,7 @@ Token scanWord(const char* begin, const char* end) noexcept
     {
         return scanNumber(begin, end);
     }
-    const char* const stop = skip(begin, end, keyCharacter);
+    const char* const stop = skipKeyCharacters(begin, end);
     return {classifyKeyword({begin, static_cast<std::size_t>(stop - begin)}), stop};
 }
 

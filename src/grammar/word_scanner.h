@@ -1,7 +1,7 @@
 // Tokens made of key characters: bare keys, booleans, numbers, dates and times.
 #pragma once
 
-#include "scanner.h"
+#include "token.h"
 
 namespace vorn::parsers::toml
 {

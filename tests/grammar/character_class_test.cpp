@@ -28,6 +28,7 @@ const ClassOfBytes classes[] = {
     {"letters", letter, letters},
     {"key characters", keyCharacter, digits + letters + "_-"},
     {"blanks", blank, " \t"},
+    {"what is skipped", skipped, " \t#"},
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "event.h"
+#include "plain_sink.h"
 
 #include "support/event_recorder.h"
 
@@ -33,7 +34,7 @@ constexpr std::size_t firstEventWithText =
     static_cast<std::size_t>(vorn::parsers::toml::Event::visitBareKey);
 
 // A sink that keeps events as the recorder of visitor calls does.
-class EventSink
+class EventSink : public vorn::parsers::toml::PlainSink<EventSink>
 {
 public:
     using Event = vorn::parsers::toml::Event;

@@ -47,6 +47,17 @@ public:
     }
     const char* end() const { return end_; }
 
+    // The same for a text that a NUL ends; it ends at terminator().
+    const char* holdTerminated(std::string_view text)
+    {
+        end_[-1] = '\0';
+        --end_;
+        const char* const begin = hold(text);
+        ++end_;
+        return begin;
+    }
+    const char* terminator() const { return end_ - 1; }
+
 private:
     std::size_t mapped_ = 0;
     void* memory_ = nullptr;
