@@ -13,13 +13,28 @@ if(VORN_SANITIZERS)
     add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
 
-# vorn_not_sanitized(NAME [TESTS...]): leaves these tests, patterns of GoogleTest, or all of
-# the test program NAME out where it is built with sanitizers.
-function(vorn_not_sanitized name)
-    if(VORN_SANITIZERS AND ARGN)
+# vorn_leave_out(NAME [TESTS...]): does not run these tests, patterns of GoogleTest, or all of
+# the test program NAME.
+function(vorn_leave_out name)
+    if(ARGN)
         list(JOIN ARGN ":" left_out)
         set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT "GTEST_FILTER=-${left_out}")
-    elseif(VORN_SANITIZERS)
+    else()
         set_property(TEST ${name} PROPERTY DISABLED ON)
+    endif()
+endfunction()
+
+# vorn_not_sanitized(NAME [TESTS...]): leaves them out where sanitizers are built in.
+function(vorn_not_sanitized name)
+    if(VORN_SANITIZERS)
+        vorn_leave_out(${name} ${ARGN})
+    endif()
+endfunction()
+
+# vorn_not_thread_sanitized(NAME [TESTS...]): leaves them out where that of threads is: they
+# have one, and would take very long or all memory.
+function(vorn_not_thread_sanitized name)
+    if(VORN_SANITIZERS STREQUAL "thread")
+        vorn_leave_out(${name} ${ARGN})
     endif()
 endfunction()

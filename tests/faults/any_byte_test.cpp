@@ -58,7 +58,8 @@ TEST_P(AnyByte, inAnyPlaceIsReadAsByTheReference)
     Figures figures;
     for (std::size_t place = 0; place <= GetParam().size(); ++place)
     {
-        for (int byte = 0; byte < 256; ++byte)
+        for (int byte = static_cast<int>(place % VORN_TEST_STEP); byte < 256;
+             byte += VORN_TEST_STEP)
         {
             document = GetParam();
             document.insert(place, 1, static_cast<char>(byte));

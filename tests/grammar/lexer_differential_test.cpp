@@ -28,11 +28,13 @@ bool agree(const std::string& text, StreamKind kind = StreamKind::utf8)
     return shown == expected;
 }
 
+// Compares them on every VORN_TEST_STEPth text of that length.
 bool agreeOnAll(std::string_view alphabet, std::size_t length, const std::string& begin = "")
 {
+    static unsigned cases = 0;
     if (begin.size() == length)
     {
-        return agree(begin);
+        return cases++ % VORN_TEST_STEP != 0 || agree(begin);
     }
     for (const char c : alphabet)
     {
@@ -58,7 +60,7 @@ std::string allBytes()
 void expectAgreement(MakeText make, unsigned seed, int count, StreamKind kind = StreamKind::utf8)
 {
     Texts texts(seed);
-    for (; count > 0; --count)
+    for (; count > 0; count -= VORN_TEST_STEP)
     {
         ASSERT_TRUE(agree((texts.*make)(), kind));
     }
@@ -111,7 +113,7 @@ TEST(LexerDifferential, inStreamsOfOtherKinds)
 TEST(LexerDifferential, ofEveryRuleOnItsOwn)
 {
     Texts texts(7);
-    for (int count = 0; count < 2000; ++count)
+    for (int count = 0; count < 2000 / VORN_TEST_STEP; ++count)
     {
         const std::string text = count % 2 == 0 ? texts.damaged() : texts.nearlyANumber();
         for (std::size_t rule = firstRule; rule <= lastRule; ++rule)
