@@ -14,6 +14,7 @@ class Scratch
 {
 public:
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): not initialised, as meant
+    // cppcheck-suppress uninitMemberVar
     explicit Scratch(std::size_t count)
         : many_(count > few ? new (std::nothrow) Element[count] : nullptr),
           begin_(count > few ? many_.get() : few_)
@@ -21,6 +22,7 @@ public:
     }
     Scratch(const Scratch&) = delete;
     Scratch& operator=(const Scratch&) = delete;
+    ~Scratch() = default;
 
     // The first element; null if there is no memory for so many.
     Element* begin() const noexcept { return begin_; }

@@ -151,6 +151,14 @@ const std::vector<std::pair<std::string, Converter>>& dateTimeForms()
     return forms;
 }
 
+// glibc's regcomp() frees pointers that it has never set where memory ends within it.  So
+// what it takes for a form, at most some 24 KB, is made sure of first.
+void reserveFormMemory()
+{
+    constexpr std::size_t enough = std::size_t{64} * 1024;
+    std::string().reserve(enough);
+}
+
 } // namespace
 
 std::string unquote(std::string text, const std::string& delimiter)
@@ -247,6 +255,7 @@ timeval parseDateTime(const std::string& text)
     timeval result = {};
     for (const auto& [pattern, converter] : dateTimeForms())
     {
+        reserveFormMemory();
         regex_t regex = {};
         if (regcomp(&regex, pattern.c_str(), REG_EXTENDED | REG_NOSUB) != 0)
         {

@@ -52,7 +52,7 @@ TEST(TomlSmallStack, readsSomeLevelsAndRefusesMore)
 {
     constexpr std::size_t stackSize = std::size_t{160} * 1024;
     constexpr unsigned step = 10;
-    constexpr unsigned most = 400;
+    constexpr unsigned most = 800;
     unsigned diagnosed = 0; // the most levels of a document whose error was found
     for (unsigned levels = step; levels <= most; levels += step)
     {

@@ -56,12 +56,7 @@ Range runtime;
 bool fails(const void* caller)
 {
     const auto address = reinterpret_cast<std::uintptr_t>(caller);
-    if (!isCounting || (address >= runtime.begin && address < runtime.end))
-    {
-        return false;
-    }
-    ++requestCount;
-    return requestCount >= firstFailure && requestCount <= lastFailure;
+    return (address < runtime.begin || address >= runtime.end) && test::hasToFail();
 }
 
 // Counts a block that has been had.
@@ -154,6 +149,26 @@ bool FailingMemory::hasFailed() const
 long FailingMemory::blocks() const
 {
     return blockCount - blocksBefore_;
+}
+
+bool hasToFail()
+{
+    if (!isCounting)
+    {
+        return false;
+    }
+    ++requestCount;
+    return requestCount >= firstFailure && requestCount <= lastFailure;
+}
+
+SparedMemory::SparedMemory() : wasCounting_(isCounting)
+{
+    isCounting = false;
+}
+
+SparedMemory::~SparedMemory()
+{
+    isCounting = wasCounting_;
 }
 
 bool isRuntimeKnown()

@@ -31,6 +31,22 @@ private:
     long blocksBefore_;
 };
 
+// Counts a request that is not made by malloc() or its like; true where it has to fail.
+bool hasToFail();
+
+// While this lives, requests neither count nor fail.
+class SparedMemory
+{
+public:
+    SparedMemory();
+    SparedMemory(const SparedMemory&) = delete;
+    SparedMemory& operator=(const SparedMemory&) = delete;
+    ~SparedMemory();
+
+private:
+    bool wasCounting_;
+};
+
 // Whether the program has the runtime as a shared library, by which its requests are known.
 bool isRuntimeKnown();
 
