@@ -25,7 +25,7 @@ Words unclosed(const Place& place, const DocumentToken& found, const TokenizedTe
     const std::size_t line = lineOf(document.tokens[place.opening].begin, document);
     return {"the array that begins in line " + std::to_string(line) + " is not closed before " +
                 described(found, document.textOf(found)),
-            "It ends with ']', behind its last element."};
+            "It ends with ']', after its last element."};
 }
 
 Words forClosing(const Place& place)
@@ -38,11 +38,11 @@ Words forClosing(const Place& place)
     if (place.due == Due::element)
     {
         return {"']' stands on another line than the comma before it",
-                "Behind a trailing comma ']' follows on the same line. Or leave the comma out: "
+                "After a trailing comma ']' follows on the same line. Or leave the comma out: "
                 "after two or more elements ']' may have a line of its own."};
     }
-    return {"']' stands on a line of its own behind a single element",
-            "Only after two or more elements ']' may have a line of its own. Put it behind the "
+    return {"']' stands on a line of its own after a single element",
+            "Only after two or more elements ']' may have a line of its own. Put it after the "
             "element."};
 }
 
@@ -64,7 +64,7 @@ Words forArray(const Place& place, const DocumentToken& found, const TokenizedTe
     }
     if (place.due == Due::arrayEnd)
     {
-        return {"',' or ']' is due behind the element, not " +
+        return {"expected ',' or ']' after the element, found " +
                     described(found, document.textOf(found)),
                 std::string(commaHint)};
     }
@@ -85,7 +85,7 @@ Finding lineWithoutElement(const Place& place, const TokenizedText& document)
     return {Severity::error, isComment ? first : begin, lineEnd,
             isComment ? "a line in an array holds only a comment"
                       : "a line in an array holds only blanks",
-            isComment ? "In an array a comment stands behind an element, a comma or the '['."
+            isComment ? "In an array a comment stands after an element, a comma or the '['."
                       : "In an array a line without an element is empty: without blanks."};
 }
 

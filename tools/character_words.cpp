@@ -57,9 +57,9 @@ Finding highCharacter(std::size_t at, const Character& character)
     std::snprintf(escape, sizeof(escape), "\\U%08X", static_cast<unsigned>(character.code));
     return {Severity::error, at, at + character.length,
             "the character " + codeName(character.code) + " is above U+FFFF",
-            "Emoji and others above U+FFFF stand nowhere, not even in comments. In a string with "
-            "double quotes " +
-                std::string(escape) + " stands for this one."};
+            "Emoji and other characters above U+FFFF can stand nowhere, not even in comments. In a "
+            "string with double quotes write " +
+                std::string(escape) + " instead."};
 }
 
 Finding malformedBytes(std::string_view text, std::size_t at, Severity severity)
@@ -74,7 +74,7 @@ Finding malformedBytes(std::string_view text, std::size_t at, Severity severity)
 
 Finding loneCarriageReturn(std::size_t at)
 {
-    return {Severity::error, at, at + 1, "a carriage return without a line feed behind it",
+    return {Severity::error, at, at + 1, "a carriage return without a line feed after it",
             "Lines end with a line feed (LF), or with a carriage return and a line feed (CR LF)."};
 }
 

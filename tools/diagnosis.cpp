@@ -74,7 +74,7 @@ private:
         const std::size_t before = index > 0 ? found_.tokens[index - 1].end - 1 : 0;
         // The line break that a token is behind belongs to the line before.
         const std::size_t firstLine = lines_.lineOf(before);
-        const std::size_t statement = statements_.beginOf(index);
+        const std::size_t statement = document_.beginOf(error);
         const bool isDamaged = insideOut_ || (hasDamage_ && firstLine <= damagedTo_);
         const bool isNew = statement != brokenStatement_ || isEmptyBrackets(index);
         if (isDamaged || !isNew || isLastLine(lines_.lineOf(token.begin)))
@@ -82,7 +82,8 @@ private:
             return;
         }
         const bool isRepaired =
-            error.kind == ErrorKind::unwantedToken || error.kind == ErrorKind::missingToken;
+            (error.kind == ErrorKind::unwantedToken || error.kind == ErrorKind::missingToken) &&
+            token.type != TokenType::newline;
         brokenStatement_ = isRepaired || isEmptyBrackets(index) ? brokenStatement_ : statement;
         addFinding(token.begin, [&] { return findingOf(error, document_); });
     }

@@ -83,8 +83,9 @@ Finding wrongEscape(std::size_t backslash, std::string_view text)
     const char c = byteAt(text, next);
     if (character.length == 0 || c == '\n')
     {
-        return errorAt(backslash, next, "there is nothing to escape behind the backslash",
-                       std::string(escapesHint));
+        return errorAt(backslash, next, "nothing to escape follows the backslash",
+                       "A backslash joins lines only in strings with \"\"\" around them. A "
+                       "backslash itself is written \\\\.");
     }
     const std::string name =
         "the escape " + printable(text.substr(backslash, end - backslash)) + " does not exist";
@@ -117,7 +118,7 @@ Finding shortEscape(const LexicalError& error, std::string_view text)
                           : "Four hexadecimal digits follow \\u, as in \\u00E9.");
 }
 
-Finding inString(const LexicalError& error, std::string_view text)
+Finding inStringAlone(const LexicalError& error, std::string_view text)
 {
     if (error.kind == ErrorKind::noAlternative && error.decision == escapeOfString)
     {
@@ -139,7 +140,25 @@ Finding inString(const LexicalError& error, std::string_view text)
     return unclosedString(error, text);
 }
 
-// What stands in the place of a date or a time.
+Finding inString(const LexicalError& error, std::string_view text)
+{
+    Finding finding = inStringAlone(error, text);
+    if (isInLongString(error, text) && !isAtEnd(error, text))
+    {
+        finding.hint += " What follows is not checked before this string is right.";
+    }
+    return finding;
+}
+
+// Whether an equals sign stands on the same line behind the place, and none before it.
+bool isInKey(std::size_t begin, std::string_view text)
+{
+    const std::size_t before = text.find_last_of("\n=", begin);
+    const std::size_t behind = text.find_first_of("\n=", begin);
+    return (before == std::string_view::npos || text[before] == '\n') &&
+           behind != std::string_view::npos && text[behind] == '=';
+}
+
 constexpr std::string_view timeHint = "A time is written 07:32:00 or 07:32:00.25, with seconds.";
 
 Finding inDateTime(const LexicalError& error, std::string_view text)
@@ -151,8 +170,8 @@ Finding inDateTime(const LexicalError& error, std::string_view text)
     {
         return errorAt(behindDate, behindDate + 1,
                        "a time is missing: the date goes on with a blank",
-                       "A blank behind a date begins the time of a date-time. Put nothing or a tab "
-                       "behind the date.");
+                       "A blank after a date begins the time of a date-time. Put nothing or a tab "
+                       "after the date.");
     }
     const std::size_t time = hasDate ? behindDate + 1 : error.begin;
     if (error.at > time + 8 && byteAt(text, time + 8) != '.')
@@ -165,28 +184,28 @@ Finding inDateTime(const LexicalError& error, std::string_view text)
     {
         return errorAt(error.begin, error.at, "the time is not complete", std::string(timeHint));
     }
-    return errorAt(error.begin, error.at, "digits are missing behind the dot of the time",
+    return errorAt(error.begin, error.at, "digits are missing after the dot of the time",
                    std::string(timeHint));
 }
 
 Finding inNumber(const LexicalError& error, std::string_view text)
 {
     const std::string hint = "A float is written 1.5, 1e6 or 1.5e-6: digits stand on both sides of "
-                             "the dot and behind the exponent's e.";
+                             "the dot and after the exponent's e.";
     if (byteAt(text, error.begin) == '+' && error.at <= error.begin + 1)
     {
-        return errorAt(error.begin, error.begin + 1, "a number is missing behind '+'",
+        return errorAt(error.begin, error.begin + 1, "a number is missing after '+'",
                        "A plus sign begins numbers only, as +1, +1.5 and +inf.");
     }
     const char c = byteAt(text, error.begin + 1);
     if (byteAt(text, error.begin) == '+' && (c == 'i' || c == 'n'))
     {
-        return errorAt(error.begin, error.at, "a number is missing behind '+'",
+        return errorAt(error.begin, error.at, "a number is missing after '+'",
                        "The words that may follow are +inf and +nan.");
     }
     if (error.at > error.begin && text[error.at - 1] == '_')
     {
-        return errorAt(error.at - 1, error.at, "a digit is missing behind '_'",
+        return errorAt(error.at - 1, error.at, "a digit is missing after '_'",
                        "Underscores stand between two digits.");
     }
     return errorAt(error.begin, error.at, "a digit is missing in the number", hint);
@@ -229,7 +248,13 @@ Finding findingOf(const LexicalError& error, std::string_view text)
         return strayCharacter(text, error.at);
     }
     const bool isDate = hasShape(text, error.begin, "0000-") || hasShape(text, error.begin, "00:");
-    return isDate ? inDateTime(error, text) : inNumber(error, text);
+    Finding finding = isDate ? inDateTime(error, text) : inNumber(error, text);
+    if (isInKey(error.begin, text))
+    {
+        finding.hint = "What begins like a number or a date reads as a value. Quoted it is a key, "
+                       "or a part of one.";
+    }
+    return finding;
 }
 
 } // namespace tool

@@ -100,16 +100,32 @@ void addLexicalError(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8*)
     toml::forgetEarlierErrors(recogniser);
 }
 
+// Marks an exception that has been told.
+constexpr ANTLR3_MARKER told = -1;
+
+// Where the runtime cannot repair a mismatch it makes an exception only if it has none yet:
+// one that has been told stands for that, and the parser is where the mismatch is.
+SyntaxError syntaxErrorOf(const ANTLR3_EXCEPTION& error, pANTLR3_INT_STREAM tokens)
+{
+    if (error.index == told)
+    {
+        return {ErrorKind::recognition, static_cast<std::size_t>(tokens->index(tokens)), 0};
+    }
+    const ErrorKind kind = kindOf(error.type);
+    // Of choices that look two tokens ahead, those with a state fail at the second.
+    const bool isBehind = kind == ErrorKind::noAlternative && error.state != 0;
+    return {kind, static_cast<std::size_t>(error.index) + (isBehind ? 1 : 0), 0};
+}
+
 void addSyntaxError(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8*)
 {
     Collection& collection = collectionOf(recogniser);
-    collection.thrown.guard(
-        [&]
-        {
-            const ANTLR3_EXCEPTION& error = *recogniser->state->exception;
-            collection.found.syntaxErrors.push_back(
-                {kindOf(error.type), static_cast<std::size_t>(error.index)});
-        });
+    const pANTLR3_EXCEPTION exception = recogniser->state->exception;
+    const auto* const failed = static_cast<pANTLR3_PARSER>(recogniser->super);
+    SyntaxError error = syntaxErrorOf(*exception, failed->tstream->istream);
+    error.rules = recogniser->state->following->vector->count;
+    exception->index = told;
+    collection.thrown.guard([&] { collection.found.syntaxErrors.push_back(error); });
     toml::forgetEarlierErrors(recogniser);
 }
 

@@ -37,6 +37,7 @@ struct SyntaxError
 {
     ErrorKind kind;
     std::size_t token; // the index of the one that does not fit; the number of tokens: the end
+    std::size_t rules; // how many enclose the one that failed
 };
 
 // Why a document is not looked at, or not to its end.

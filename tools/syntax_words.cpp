@@ -22,13 +22,12 @@ bool isLineEnd(TokenType type)
 Words valueForKey(const DocumentToken& found, const TokenizedText& document)
 {
     const std::string text(document.textOf(found));
-    return {"a key is due, and " + described(found, text) + " is a value",
-            "What reads as a value is no key as it stands. Quote it: \"" + quotedContent(text) +
-                "\"."};
+    return {"expected a key, found " + described(found, text),
+            "It reads as a value. Quoted it is a key: \"" + quotedContent(text) + "\"."};
 }
 
-// A key is due.
-Words forKey(const std::string& due, const DocumentToken& found, const TokenizedText& document,
+// A key is expected.
+Words forKey(const std::string& expected, const DocumentToken& found, const TokenizedText& document,
              const std::string& hint)
 {
     if (isValueLikeKey(found.type))
@@ -37,10 +36,10 @@ Words forKey(const std::string& due, const DocumentToken& found, const Tokenized
     }
     if (found.type == TokenType::mlBasicString || found.type == TokenType::mlLiteralString)
     {
-        return {due + ", not " + described(found, document.textOf(found)),
+        return {expected + ", found " + described(found, document.textOf(found)),
                 "A key in quotes stands on one line, in \" or '."};
     }
-    return {due + ", not " + described(found, document.textOf(found)), hint};
+    return {expected + ", found " + described(found, document.textOf(found)), hint};
 }
 
 Words forStatement(const DocumentToken& found, const TokenizedText& document)
@@ -53,7 +52,7 @@ Words forStatement(const DocumentToken& found, const TokenizedText& document)
     {
         return {std::string(kindName(found.type)) + " closes nothing here", std::string(pairHint)};
     }
-    return forKey("a key or a header is due", found, document, std::string(pairHint));
+    return forKey("expected a key or a header", found, document, std::string(pairHint));
 }
 
 Words forEquals(const Place& place, const DocumentToken& found, const TokenizedText& document)
@@ -63,7 +62,7 @@ Words forEquals(const Place& place, const DocumentToken& found, const TokenizedT
                              : found.type == TokenType::bareKey || isValueLikeKey(found.type)
                                  ? "A key of several words has quotes: \"my key\" = 1."
                                  : std::string(pairHint);
-    return {"'=' is due behind the key, not " + described(found, document.textOf(found)), hint};
+    return {"expected '=' after the key, found " + described(found, document.textOf(found)), hint};
 }
 
 Words forHeader(const Place& place, const DocumentToken& found, const TokenizedText& document)
@@ -75,7 +74,7 @@ Words forHeader(const Place& place, const DocumentToken& found, const TokenizedT
     {
         return {"the key of the header is missing", hint};
     }
-    return forKey("the key of a header is due", found, document, hint);
+    return forKey("expected the key of a header", found, document, hint);
 }
 
 Words forHeaderEnd(const Place& place, const DocumentToken& found, const TokenizedText& document)
@@ -83,20 +82,47 @@ Words forHeaderEnd(const Place& place, const DocumentToken& found, const Tokeniz
     const std::string hint = place.isOfArray
                                  ? "A header of an array of tables is written [[key]], on one line."
                                  : "A header is written [key], on one line.";
-    return {"']' is due behind the key of the header, not " +
+    return {"expected ']' after the key of the header, found " +
                 described(found, document.textOf(found)),
             hint};
 }
 
-Words forLineEnd(const DocumentToken& found, const TokenizedText& document)
+bool isString(TokenType type)
 {
+    return type == TokenType::basicString || type == TokenType::literalString ||
+           type == TokenType::mlBasicString || type == TokenType::mlLiteralString;
+}
+
+Words forLineEnd(std::size_t index, const TokenizedText& document)
+{
+    const DocumentToken found = document.at(index);
+    const DocumentToken before = document.at(index > 0 ? index - 1 : 0);
+    if (isString(before.type) && before.end == found.begin)
+    {
+        const bool isBasic = document.text[before.begin] == '"';
+        return {"expected the end of the line after the string, found " +
+                    described(found, document.textOf(found)),
+                isBasic ? "A quote in a string is written \\\"."
+                        : "A string with an apostrophe in it has double quotes around it."};
+    }
     if (found.type == TokenType::closeBracket || found.type == TokenType::closeBrace)
     {
         return {std::string(kindName(found.type)) + " closes nothing here",
                 "Every ']' and '}' belongs to one that opens."};
     }
-    return {"the end of the line is due, not " + described(found, document.textOf(found)),
-            "Each pair and each header has a line of its own. Texts of several words have quotes."};
+    const bool isNumber = isValueLikeKey(before.type);
+    if (isNumber && found.type == TokenType::comma)
+    {
+        return {"expected the end of the line, found ','",
+                "A float is written 1.5, an array [1, 5]."};
+    }
+    if (isNumber && found.type == TokenType::dot)
+    {
+        return {"expected the end of the line, found '.'",
+                "A float has one dot. Versions and addresses are strings, with quotes."};
+    }
+    return {"expected the end of the line, found " + described(found, document.textOf(found)),
+            "Each pair and each header has a line of its own. Strings have quotes."};
 }
 
 // What an inline table that is not closed is told, whatever stands in the place.
@@ -114,21 +140,22 @@ Words forTable(const Place& place, const DocumentToken& found, const TokenizedTe
                    ? Words{"the inline table is empty",
                            "An inline table holds one pair or more. Leave the key out, or use a "
                            "header, [key], with nothing below it."}
-                   : Words{"a pair is due behind the comma, not '}'",
+                   : Words{"expected a pair after the comma, found '}'",
                            "No comma stands before the '}' of an inline table."};
     }
     if (place.due == Due::tableEnd)
     {
-        return {"',' or '}' is due behind the pair, not " +
+        return {"expected ',' or '}' after the pair, found " +
                     described(found, document.textOf(found)),
                 "In an inline table pairs are written {a = 1, b = 2}."};
     }
-    return forKey("a key is due in the inline table", found, document,
+    return forKey("expected a key in the inline table", found, document,
                   "In an inline table pairs are written {a = 1, b = 2}.");
 }
 
-Words wordsFor(const Place& place, const DocumentToken& found, const TokenizedText& document)
+Words wordsFor(const Place& place, std::size_t index, const TokenizedText& document)
 {
+    const DocumentToken found = document.at(index);
     switch (place.due)
     {
     case Due::statement:
@@ -137,7 +164,7 @@ Words wordsFor(const Place& place, const DocumentToken& found, const TokenizedTe
         return place.isInTable && isLineEnd(found.type) ? forTable(place, found, document)
                                                         : forEquals(place, found, document);
     case Due::keyPart:
-        return forKey("a key is due behind the dot", found, document,
+        return forKey("expected a key after the dot", found, document,
                       "A dotted key is written a.b.c.");
     case Due::header:
         return forHeader(place, found, document);
@@ -154,7 +181,7 @@ Words wordsFor(const Place& place, const DocumentToken& found, const TokenizedTe
     case Due::tableEnd:
         return forTable(place, found, document);
     default:
-        return forLineEnd(found, document);
+        return forLineEnd(index, document);
     }
 }
 
@@ -184,7 +211,7 @@ Finding findingOf(const SyntaxError& error, const TokenizedText& document)
 {
     const std::size_t index = std::min(error.token, document.tokens.size());
     const DocumentToken found = document.at(index);
-    const Place place = placeOf(document.tokens, document.statements.beginOf(index), index);
+    const Place place = placeOf(document.tokens, document.beginOf(error), index);
     Finding finding = placed(index, document);
     const bool isInArray =
         place.due == Due::firstElement || place.due == Due::element || place.due == Due::arrayEnd;
@@ -194,7 +221,7 @@ Finding findingOf(const SyntaxError& error, const TokenizedText& document)
     {
         return lineWithoutElement(place, document);
     }
-    Words words = wordsFor(place, found, document);
+    Words words = wordsFor(place, index, document);
     finding.message = std::move(words.message);
     finding.hint = std::move(words.hint);
     return finding;

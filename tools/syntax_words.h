@@ -25,6 +25,16 @@ struct TokenizedText
         return index < tokens.size() ? tokens[index]
                                      : DocumentToken{TokenType::endOfInput, end, end};
     }
+    // The first token of the statement that the parser was in.
+    std::size_t beginOf(const SyntaxError& error) const
+    {
+        // What looks like another statement is found in an array that is not closed.
+        constexpr std::size_t rulesOfKey = 3;
+        const std::size_t begin = statements.beginOf(error.token);
+        return error.token == begin && begin > 0 && error.rules > rulesOfKey
+                   ? statements.beginOf(begin - 1)
+                   : begin;
+    }
     std::string_view textOf(const DocumentToken& token) const
     {
         return text.substr(token.begin, token.end - token.begin);

@@ -47,9 +47,10 @@ std::string numberHint(std::string_view text)
                    ? "An integer does not begin with 0. An octal one is written 0o755."
                    : "In a number underscores stand between two digits.";
     }
-    if (digits.find_first_not_of("0123456789-") == std::string_view::npos)
+    if (digits.find_first_not_of("0123456789-:.TtZ") == std::string_view::npos)
     {
-        return "A date is written 2024-01-31. Strings have quotes.";
+        return "A date is written 2024-01-31, a date-time 2024-01-31T07:32:00, with seconds. "
+               "Strings have quotes.";
     }
     return "Integers are written 42, 0xFF, 0o755 or 0b101, floats 1.5 or 1e6. What has a unit or "
            "is "
@@ -90,16 +91,16 @@ Words forValue(const DocumentToken& found, const TokenizedText& document)
     {
     case TokenType::newline:
     case TokenType::endOfInput:
-        return {"a value is due, not " + described(found, text),
+        return {"expected a value, found " + described(found, text),
                 "The value begins on the line of its key."};
     case TokenType::bareKey:
-        return {quoted(text) + " is no value", wordHint(text)};
+        return {quoted(text) + " is not a value", wordHint(text)};
     case TokenType::dot:
-        return {"a value is due, not '.'", "A number begins with a digit: 0.5."};
+        return {"expected a value, found '.'", "A number begins with a digit: 0.5."};
     case TokenType::equals:
-        return {"a value is due, not a second '='", "A pair is written key = value."};
+        return {"expected a value, found a second '='", "A pair is written key = value."};
     default:
-        return {"a value is due, not " + described(found, text),
+        return {"expected a value, found " + described(found, text),
                 "Strings have quotes. Arrays are written [1, 2], inline tables {a = 1}."};
     }
 }
