@@ -70,7 +70,7 @@ constexpr const char* tokensExample = "  $ printf 'a = true # yes\\n' | vorn-tom
                                       "  1:3      '='                        =\n"
                                       "  1:5      boolean                    true\n"
                                       "  1:15     end of the line            \\n\n"
-                                      "  2:1      end of the file            \n"
+                                      "  2:1      end of the file\n"
                                       "\n"
                                       "Blanks and comments are no tokens.\n";
 

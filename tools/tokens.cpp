@@ -16,8 +16,13 @@ namespace
 void printLine(const SourcePlace& place, std::string_view kind, std::string_view text)
 {
     const std::string position = std::to_string(place.line) + ':' + std::to_string(place.column);
-    std::printf("%-8s %-26s ", position.c_str(), std::string(kind).c_str());
-    printEscaped(stdout, text);
+    const int width = text.empty() ? 0 : 26;
+    std::printf("%-8s %-*s", position.c_str(), width, std::string(kind).c_str());
+    if (!text.empty())
+    {
+        std::fputc(' ', stdout);
+        printEscaped(stdout, text);
+    }
     std::fputc('\n', stdout);
 }
 

@@ -71,7 +71,8 @@ bool isUnseen(char32_t code)
 {
     return (code >= 0x200B && code <= 0x200F) || (code >= 0x202A && code <= 0x202E) ||
            (code >= 0x2060 && code <= 0x206F) || code == 0x2028 || code == 0x2029 ||
-           code == 0xFEFF || code == 0x00AD || code == 0x061C;
+           code == 0xFEFF || code == 0x00AD || code == 0x061C ||
+           (code >= 0xE0000 && code <= 0xE0FFF);
 }
 
 std::string escape(const char* format, unsigned value)
@@ -139,15 +140,12 @@ std::size_t countCharacters(std::string_view text)
 
 std::size_t characterBegin(std::string_view text, std::size_t at)
 {
-    for (std::size_t begin = at; at - begin < 4; --begin)
+    for (std::size_t behind = 0; behind < 4 && behind <= at; ++behind)
     {
-        if (begin < text.size() && begin + characterAt(text, begin).length > at)
+        const Character character = characterAt(text, at - behind);
+        if (character.isWellFormed)
         {
-            return begin;
-        }
-        if (begin == 0)
-        {
-            break;
+            return character.length > behind ? at - behind : at;
         }
     }
     return at;

@@ -9,8 +9,7 @@ namespace
 {
 
 // Hints that are given more than once.
-const std::string emptyArray =
-    "An array holds one element or more. Leave the key out instead.";
+const std::string emptyArray = "An array holds one element or more. Leave the key out instead.";
 const std::string anInlineTableHoldsOne = "An inline table holds one pair or more. Leave the key "
                                           "out, or use a header, [key], with nothing below it.";
 const std::string inAnArrayAComment =

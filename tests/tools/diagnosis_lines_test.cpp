@@ -27,10 +27,9 @@ const std::string aPairIsWrittenKey = "A pair is written key = value.";
 const std::string aKeyOfSeveralWords = "A key of several words has quotes: \"my key\" = 1.";
 const std::string stringsHaveQuotesArraysAre =
     "Strings have quotes. Arrays are written [1, 2], inline tables {a = 1}.";
-const std::string emptyArray =
-    "An array holds one element or more. Leave the key out instead.";
+const std::string emptyArray = "An array holds one element or more. Leave the key out instead.";
 const std::string unclosed = "A string ends on its line with \". One that goes over "
-                                     "several lines begins and ends with \"\"\".";
+                             "several lines begins and ends with \"\"\".";
 const std::string everyPairAndEveryHeader =
     "Every pair and every header ends with a line break, the last one too.";
 const std::string linesEndWithALine =

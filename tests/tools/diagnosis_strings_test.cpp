@@ -16,14 +16,12 @@ const std::string highCharacter =
 const std::string escapes =
     "The escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX. In 'literal strings' a "
     "backslash is only a backslash.";
-const std::string emptyArray =
-    "An array holds one element or more. Leave the key out instead.";
-const std::string fourDigits =
-    "Four hexadecimal digits follow \\u, as in \\u00E9.";
+const std::string emptyArray = "An array holds one element or more. Leave the key out instead.";
+const std::string fourDigits = "Four hexadecimal digits follow \\u, as in \\u00E9.";
 const std::string unclosed = "A string ends on its line with \". One that goes over "
-                                     "several lines begins and ends with \"\"\".";
+                             "several lines begins and ends with \"\"\".";
 const std::string unclosedLiteral = "A literal string ends on its line with '. One with an "
-                                         "apostrophe in it has double quotes around it.";
+                                    "apostrophe in it has double quotes around it.";
 const std::string quoteInString = "A quote in a string is written \\\".";
 const std::string commentOrString = "A comment begins with '#'. Strings have quotes.";
 const std::string bareKeys =
@@ -78,12 +76,8 @@ TEST(DiagnosisOfStrings, escapes)
          false,
          {{"1:6 error: the escape \\q does not exist", escapes},
           {"2:6 error: the array is empty", emptyArray}}},
-        {"a = \"C:\\dir\"\n",
-         false,
-         {{"1:8 error: the escape \\d does not exist", escapes}}},
-        {"a = \"\\u12\"\n",
-         false,
-         {{"1:6 error: the escape \\u has too few digits", fourDigits}}},
+        {"a = \"C:\\dir\"\n", false, {{"1:8 error: the escape \\d does not exist", escapes}}},
+        {"a = \"\\u12\"\n", false, {{"1:6 error: the escape \\u has too few digits", fourDigits}}},
         {"a = \"\\U0001F60\"\n",
          false,
          {{"1:6 error: the escape \\U has too few digits",
@@ -132,12 +126,8 @@ TEST(DiagnosisOfStrings, stringsThatAreNotClosed)
         {"a = 'abc\nb = 2\n",
          false,
          {{"1:5 error: the string is not closed on its line", unclosedLiteral}}},
-        {"a = \"\n",
-         false,
-         {{"1:5 error: the string is not closed on its line", unclosed}}},
-        {"a = '",
-         false,
-         {{"1:5 error: the string is not closed on its line", unclosedLiteral}}},
+        {"a = \"\n", false, {{"1:5 error: the string is not closed on its line", unclosed}}},
+        {"a = '", false, {{"1:5 error: the string is not closed on its line", unclosedLiteral}}},
         {"a = \"\"\"abc\nb = 1\n",
          false,
          {{"1:5 error: the string that begins here is never closed",
@@ -172,18 +162,10 @@ TEST(DiagnosisOfStrings, characters)
          false,
          {{"1:2 error: the character ':' cannot stand here",
            "Between a key and its value stands '='."}}},
-        {"a = 1;\n",
-         false,
-         {{"1:6 error: the character ';' cannot stand here", commentOrString}}},
-        {"a = @b\n",
-         false,
-         {{"1:5 error: the character '@' cannot stand here", bareKeys}}},
-        {"// c\n",
-         false,
-         {{"1:1 error: the character '/' cannot stand here", commentOrString}}},
-        {"a = $b\n",
-         false,
-         {{"1:5 error: the character '$' cannot stand here", bareKeys}}},
+        {"a = 1;\n", false, {{"1:6 error: the character ';' cannot stand here", commentOrString}}},
+        {"a = @b\n", false, {{"1:5 error: the character '@' cannot stand here", bareKeys}}},
+        {"// c\n", false, {{"1:1 error: the character '/' cannot stand here", commentOrString}}},
+        {"a = $b\n", false, {{"1:5 error: the character '$' cannot stand here", bareKeys}}},
         {"\xc3\xa9 = 1\n",
          false,
          {{"1:1 error: the character '\xc3\xa9' (U+00E9) cannot stand here", bareKeys}}},
@@ -260,8 +242,6 @@ TEST(DiagnosisOfStrings, bytesThatAreNotUtf8)
          true,
          {{"1:6 warning: the file is not read beyond these bytes, which are not UTF-8",
            readsAsEnd}}},
-        {"a = \"\xed\xa0\x80\"\n",
-         true,
-         {{"1:6 warning: the byte ED is not UTF-8", malformed}}},
+        {"a = \"\xed\xa0\x80\"\n", true, {{"1:6 warning: the byte ED is not UTF-8", malformed}}},
     });
 }
