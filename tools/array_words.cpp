@@ -14,9 +14,8 @@ constexpr std::string_view commaHint = "Elements are separated by commas: [1, 2]
 
 std::size_t lineOf(std::size_t offset, const TokenizedText& document)
 {
-    const auto begin = document.text.begin();
-    return 1 + static_cast<std::size_t>(
-                   std::count(begin, begin + static_cast<std::ptrdiff_t>(offset), '\n'));
+    const std::string_view before = document.text.substr(0, offset);
+    return 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
 }
 
 // The array that is open, which may have been left open by mistake lines before.

@@ -1,6 +1,5 @@
 #include "input.h"
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -21,11 +20,17 @@ struct CloseFile
 
 bool readAll(std::FILE* file, std::string& content, Progress& progress)
 {
-    std::array<char, 65536> block = {};
-    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file))
+    constexpr std::size_t block = 65536;
+    for (std::size_t size = 0;; progress.read(size))
     {
-        content.append(block.data(), count);
-        progress.read(content.size());
+        content.resize(size + block);
+        const std::size_t count = std::fread(content.data() + size, 1, block, file);
+        size += count;
+        if (count == 0)
+        {
+            content.resize(size);
+            break;
+        }
     }
     return std::ferror(file) == 0;
 }

@@ -10,6 +10,8 @@
 #include "differential/document_generator.h"
 #include "differential/escaped.h"
 #include "support/reading.h"
+#include "support/temporary_directory.h"
+#include "tools/tool_run.h"
 
 #include <gtest/gtest.h>
 
@@ -131,4 +133,24 @@ TEST(DiagnosisOfGeneratedDocuments, findsErrorsInThoseThatAreRejected)
     EXPECT_EQ(tally.syntaxKinds,
               (std::set<ErrorKind>{ErrorKind::recognition, ErrorKind::noAlternative,
                                    ErrorKind::unwantedToken, ErrorKind::missingToken}));
+}
+
+TEST(DiagnosisOfGeneratedDocuments, isThatOfTheProgram)
+{
+    const test::TemporaryDirectory directory;
+    test::DocumentGenerator generator(1);
+    std::vector<std::string> words = {"check"};
+    std::string verdicts;
+    int worst = test::accepted;
+    for (std::size_t number = 0; number < count / 10; ++number)
+    {
+        const std::string document = generator.next().substr(0, longest);
+        words.push_back(directory.write(std::to_string(number), document));
+        const bool accepted = test::read(document).accepted;
+        verdicts += words.back() + (accepted ? ": accepted\n" : ": rejected\n");
+        worst = std::max<int>(worst, accepted ? test::accepted : test::rejected);
+    }
+    const test::ProgramRun run = test::runTool(words);
+    EXPECT_EQ(run.status, worst);
+    EXPECT_EQ(run.standardOutput, verdicts);
 }
