@@ -18,6 +18,8 @@ std::string hintFor(char32_t code)
     case ':':
         return "Between a key and its value stands '='.";
     case ';':
+        return "Each pair has a line of its own, with nothing at its end. A comment begins with "
+               "'#'.";
     case '/':
     case '!':
     case '%':

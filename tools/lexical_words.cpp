@@ -1,7 +1,7 @@
 #include "lexical_words.h"
 
 #include <algorithm>
-#include <cctype>
+#include <string>
 
 #include "character_words.h"
 #include "token_words.h"
@@ -114,8 +114,9 @@ Finding shortEscape(const LexicalError& error, std::string_view text)
     const bool isLong = byteAt(text, backslash + 1) == 'U';
     return errorAt(backslash, error.at,
                    std::string("the escape \\") + (isLong ? "U" : "u") + " has too few digits",
-                   isLong ? "Eight hexadecimal digits follow \\U, as in \\U000000E9."
-                          : "Four hexadecimal digits follow \\u, as in \\u00E9.");
+                   std::string(isLong ? "Eight hexadecimal digits follow \\U, as in \\U000000E9. "
+                                      : "Four hexadecimal digits follow \\u, as in \\u00E9. ") +
+                       "In 'literal strings' a backslash is only a backslash.");
 }
 
 Finding inStringAlone(const LexicalError& error, std::string_view text)

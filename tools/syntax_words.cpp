@@ -111,6 +111,11 @@ Words forLineEnd(std::size_t index, const TokenizedText& document)
                 "Every ']' and '}' belongs to one that opens."};
     }
     const bool isNumber = isValueLikeKey(before.type);
+    if (found.type == TokenType::comma && isLineEnd(document.at(index + 1).type))
+    {
+        return {"expected the end of the line, found ','",
+                "No comma stands at the end of a pair or a header."};
+    }
     if (isNumber && found.type == TokenType::comma)
     {
         return {"expected the end of the line, found ','",

@@ -110,22 +110,6 @@ bool isValueLikeKey(TokenType type)
     }
 }
 
-bool beginsValue(TokenType type)
-{
-    switch (type)
-    {
-    case TokenType::basicString:
-    case TokenType::literalString:
-    case TokenType::mlBasicString:
-    case TokenType::mlLiteralString:
-    case TokenType::openBracket:
-    case TokenType::openBrace:
-        return true;
-    default:
-        return isValueLikeKey(type);
-    }
-}
-
 std::string described(const DocumentToken& token, std::string_view text)
 {
     const std::string name(kindName(token.type));

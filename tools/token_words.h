@@ -16,9 +16,6 @@ std::string_view kindName(TokenType type);
 // Whether a token is a value that one could take for a key: true, 123, 2024-01-01.
 bool isValueLikeKey(TokenType type);
 
-// Whether a value begins with a token.
-bool beginsValue(TokenType type);
-
 // "the integer 123", "'='", "the end of the line".
 std::string described(const DocumentToken& token, std::string_view text);
 

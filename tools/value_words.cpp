@@ -1,6 +1,6 @@
 #include "value_words.h"
 
-#include <cctype>
+#include <initializer_list>
 #include <string>
 
 #include "token_words.h"

@@ -9,32 +9,30 @@ namespace
 {
 
 // Hints that are given more than once.
-const std::string itReadsAsAValue = "It reads as a value. Quoted it is a key: \"true\".";
-const std::string itReadsAsAValueToo = "It reads as a value. Quoted it is a key: \"1\".";
-const std::string whatBeginsLikeANumber =
+const std::string readsAsValue = "It reads as a value. Quoted it is a key: \"true\".";
+const std::string readsAsValue1 = "It reads as a value. Quoted it is a key: \"1\".";
+const std::string likeNumber =
     "What begins like a number or a date reads as a value. Quoted it is a key, or a part of one.";
-const std::string aHeaderIsWrittenKey = "A header is written [key].";
-const std::string aHeaderIsWrittenKeyToo = "A header is written [key], on one line.";
-const std::string eachPairAndEachHeader =
-    "Each pair and each header has a line of its own. Strings have quotes.";
-const std::string everyAndBelongsToOne = "Every ']' and '}' belongs to one that opens.";
-const std::string aHeaderOfAnArray =
-    "A header of an array of tables is written [[key]], on one line.";
-const std::string aKeyInQuotesStands = "A key in quotes stands on one line, in \" or '.";
-const std::string aLineHoldsAPair = "A line holds a pair, key = value, or a header, [key].";
-const std::string theValueBeginsOnThe = "The value begins on the line of its key.";
-const std::string aPairIsWrittenKey = "A pair is written key = value.";
-const std::string aKeyOfSeveralWords = "A key of several words has quotes: \"my key\" = 1.";
-const std::string stringsHaveQuotesArraysAre =
+const std::string headerForm = "A header is written [key].";
+const std::string headerOnOneLine = "A header is written [key], on one line.";
+const std::string ownLine = "Each pair and each header has a line of its own. Strings have quotes.";
+const std::string unopened = "Every ']' and '}' belongs to one that opens.";
+const std::string arrayHeader = "A header of an array of tables is written [[key]], on one line.";
+const std::string quotedKey = "A key in quotes stands on one line, in \" or '.";
+const std::string lineForm = "A line holds a pair, key = value, or a header, [key].";
+const std::string valueOnLine = "The value begins on the line of its key.";
+const std::string pairForm = "A pair is written key = value.";
+const std::string keyOfWords = "A key of several words has quotes: \"my key\" = 1.";
+const std::string valueForms =
     "Strings have quotes. Arrays are written [1, 2], inline tables {a = 1}.";
 const std::string emptyArray = "An array holds one element or more. Leave the key out instead.";
-const std::string unclosed = "A string ends on its line with \". One that goes over "
-                             "several lines begins and ends with \"\"\".";
-const std::string everyPairAndEveryHeader =
+const std::string unclosed = "A string ends on its line with \". One that goes over several lines "
+                             "begins and ends with \"\"\".";
+const std::string lastLineBreak =
     "Every pair and every header ends with a line break, the last one too.";
-const std::string linesEndWithALine =
+const std::string lineEnds =
     "Lines end with a line feed (LF), or with a carriage return and a line feed (CR LF).";
-const std::string elementsAreSeparatedByCommas = "Elements are separated by commas: [1, 2].";
+const std::string commas = "Elements are separated by commas: [1, 2].";
 const std::string bareKeys =
     "Bare keys are made of A-Z a-z 0-9 _ and -. Other keys, and all strings, have quotes.";
 
@@ -45,7 +43,7 @@ TEST(DiagnosisOfLines, keysThatReadAsValues)
     expectSaid({
         {"true = 1\n",
          false,
-         {{"1:1 error: expected a key, found the boolean true", itReadsAsAValue}}},
+         {{"1:1 error: expected a key, found the boolean true", readsAsValue}}},
         {"123 = 1\n",
          false,
          {{"1:1 error: expected a key, found the integer 123",
@@ -62,16 +60,12 @@ TEST(DiagnosisOfLines, keysThatReadAsValues)
          false,
          {{"1:1 error: expected a key, found the date 2024-01-31",
            "It reads as a value. Quoted it is a key: \"2024-01-31\"."}}},
-        {"a.1 = 1\n",
-         false,
-         {{"1:3 error: expected a key, found the integer 1", itReadsAsAValueToo}}},
-        {"a.2.b = 1\n",
-         false,
-         {{"1:3 error: a digit is missing in the number", whatBeginsLikeANumber}}},
-        {"[1]\n", false, {{"1:2 error: expected a key, found the integer 1", itReadsAsAValueToo}}},
+        {"a.1 = 1\n", false, {{"1:3 error: expected a key, found the integer 1", readsAsValue1}}},
+        {"a.2.b = 1\n", false, {{"1:3 error: a digit is missing in the number", likeNumber}}},
+        {"[1]\n", false, {{"1:2 error: expected a key, found the integer 1", readsAsValue1}}},
         {"[[true]]\n",
          false,
-         {{"1:3 error: expected a key, found the boolean true", itReadsAsAValue}}},
+         {{"1:3 error: expected a key, found the boolean true", readsAsValue}}},
         {"[a.false]\n",
          false,
          {{"1:4 error: expected a key, found the boolean false",
@@ -86,14 +80,14 @@ TEST(DiagnosisOfLines, keysThatReadAsValues)
            "It reads as a value. Quoted it is a key: \"07:32:00\"."}}},
         {"2024-01-31 = 1\n",
          false,
-         {{"1:11 error: a time is missing: the date goes on with a blank", whatBeginsLikeANumber}}},
+         {{"1:11 error: a time is missing: the date goes on with a blank", likeNumber}}},
     });
 }
 
 TEST(DiagnosisOfLines, headers)
 {
     expectSaid({
-        {"[]\n", false, {{"1:2 error: the key of the header is missing", aHeaderIsWrittenKey}}},
+        {"[]\n", false, {{"1:2 error: the key of the header is missing", headerForm}}},
         {"[[]]\n",
          false,
          {{"1:3 error: the key of the header is missing",
@@ -101,48 +95,43 @@ TEST(DiagnosisOfLines, headers)
         {"[a\n",
          false,
          {{"1:3 error: expected ']' after the key of the header, found the end of the line",
-           aHeaderIsWrittenKeyToo}}},
+           headerOnOneLine}}},
         {"[a b]\n",
          false,
          {{"1:4 error: expected ']' after the key of the header, found the word 'b'",
-           aHeaderIsWrittenKeyToo}}},
+           headerOnOneLine}}},
         {"[a] b = 1\n",
          false,
-         {{"1:5 error: expected the end of the line, found the word 'b'", eachPairAndEachHeader}}},
-        {"[a]]\n", false, {{"1:4 error: ']' closes nothing here", everyAndBelongsToOne}}},
+         {{"1:5 error: expected the end of the line, found the word 'b'", ownLine}}},
+        {"[a]]\n", false, {{"1:4 error: ']' closes nothing here", unopened}}},
         {"[[a]\n",
          false,
          {{"1:5 error: expected ']' after the key of the header, found the end of the line",
-           aHeaderOfAnArray}}},
+           arrayHeader}}},
         {"[[a] ]\n", true, {}},
         {"[[a] b]\n",
          false,
          {{"1:6 error: expected ']' after the key of the header, found the word 'b'",
-           aHeaderOfAnArray}}},
-        {"[a.]\n", false, {{"1:4 error: the key of the header is missing", aHeaderIsWrittenKey}}},
-        {"[.a]\n",
-         false,
-         {{"1:2 error: expected the key of a header, found '.'", aHeaderIsWrittenKey}}},
+           arrayHeader}}},
+        {"[a.]\n", false, {{"1:4 error: the key of the header is missing", headerForm}}},
+        {"[.a]\n", false, {{"1:2 error: expected the key of a header, found '.'", headerForm}}},
         {"[a.b\n",
          false,
          {{"1:5 error: expected ']' after the key of the header, found the end of the line",
-           aHeaderIsWrittenKeyToo}}},
+           headerOnOneLine}}},
         {"[\"\"\"a\"\"\"]\n",
          false,
          {{"1:2 error: expected the key of a header, found the multi-line string \"\"\"a\"\"\"",
-           aKeyInQuotesStands}}},
+           quotedKey}}},
         {"[\na]\n",
          false,
-         {{"1:2 error: expected the key of a header, found the end of the line",
-           aHeaderIsWrittenKey}}},
+         {{"1:2 error: expected the key of a header, found the end of the line", headerForm}}},
         {"[",
          false,
-         {{"1:2 error: expected the key of a header, found the end of the file",
-           aHeaderIsWrittenKey}}},
+         {{"1:2 error: expected the key of a header, found the end of the file", headerForm}}},
         {"[a = 1]\n",
          false,
-         {{"1:4 error: expected ']' after the key of the header, found '='",
-           aHeaderIsWrittenKeyToo}}},
+         {{"1:4 error: expected ']' after the key of the header, found '='", headerOnOneLine}}},
     });
 }
 
@@ -151,73 +140,57 @@ TEST(DiagnosisOfLines, pairs)
     expectSaid({
         {"a\n",
          false,
-         {{"1:2 error: expected '=' after the key, found the end of the line", aLineHoldsAPair}}},
+         {{"1:2 error: expected '=' after the key, found the end of the line", lineForm}}},
         {"a",
          false,
-         {{"1:2 error: expected '=' after the key, found the end of the file", aLineHoldsAPair}}},
-        {"a =\n",
-         false,
-         {{"1:4 error: expected a value, found the end of the line", theValueBeginsOnThe}}},
-        {"a =",
-         false,
-         {{"1:4 error: expected a value, found the end of the file", theValueBeginsOnThe}}},
-        {"= 1\n", false, {{"1:1 error: the key before '=' is missing", aLineHoldsAPair}}},
-        {"a = = 1\n",
-         false,
-         {{"1:5 error: expected a value, found a second '='", aPairIsWrittenKey}}},
+         {{"1:2 error: expected '=' after the key, found the end of the file", lineForm}}},
+        {"a =\n", false, {{"1:4 error: expected a value, found the end of the line", valueOnLine}}},
+        {"a =", false, {{"1:4 error: expected a value, found the end of the file", valueOnLine}}},
+        {"= 1\n", false, {{"1:1 error: the key before '=' is missing", lineForm}}},
+        {"a = = 1\n", false, {{"1:5 error: expected a value, found a second '='", pairForm}}},
         {"a b = 1\n",
          false,
-         {{"1:3 error: expected '=' after the key, found the word 'b'", aKeyOfSeveralWords}}},
+         {{"1:3 error: expected '=' after the key, found the word 'b'", keyOfWords}}},
         {"a 1\n",
          false,
-         {{"1:3 error: expected '=' after the key, found the integer 1", aKeyOfSeveralWords}}},
+         {{"1:3 error: expected '=' after the key, found the integer 1", keyOfWords}}},
         {"a.b c = 1\n",
          false,
-         {{"1:5 error: expected '=' after the key, found the word 'c'", aKeyOfSeveralWords}}},
+         {{"1:5 error: expected '=' after the key, found the word 'c'", keyOfWords}}},
         {"a. = 1\n",
          false,
          {{"1:4 error: expected a key after the dot, found '='",
            "A dotted key is written a.b.c."}}},
-        {".a = 1\n",
-         false,
-         {{"1:1 error: expected a key or a header, found '.'", aLineHoldsAPair}}},
+        {".a = 1\n", false, {{"1:1 error: expected a key or a header, found '.'", lineForm}}},
         {"a = 1 b = 2\n",
          false,
-         {{"1:7 error: expected the end of the line, found the word 'b'", eachPairAndEachHeader}}},
+         {{"1:7 error: expected the end of the line, found the word 'b'", ownLine}}},
         {"a = 1 2\n",
          false,
-         {{"1:7 error: expected the end of the line, found the integer 2", eachPairAndEachHeader}}},
+         {{"1:7 error: expected the end of the line, found the integer 2", ownLine}}},
         {"a = 1,\n",
          false,
          {{"1:6 error: expected the end of the line, found ','",
-           "A float is written 1.5, an array [1, 5]."}}},
-        {"]\n", false, {{"1:1 error: ']' closes nothing here", aLineHoldsAPair}}},
-        {"}\n", false, {{"1:1 error: '}' closes nothing here", aLineHoldsAPair}}},
-        {"{a = 1}\n",
-         false,
-         {{"1:1 error: expected a key or a header, found '{'", aLineHoldsAPair}}},
+           "No comma stands at the end of a pair or a header."}}},
+        {"]\n", false, {{"1:1 error: ']' closes nothing here", lineForm}}},
+        {"}\n", false, {{"1:1 error: '}' closes nothing here", lineForm}}},
+        {"{a = 1}\n", false, {{"1:1 error: expected a key or a header, found '{'", lineForm}}},
         {"\"\"\"a\"\"\" = 1\n",
          false,
          {{"1:1 error: expected a key or a header, found the multi-line string \"\"\"a\"\"\"",
-           aKeyInQuotesStands}}},
+           quotedKey}}},
         {"a =\n1\n",
          false,
-         {{"1:4 error: expected a value, found the end of the line", theValueBeginsOnThe},
-          {"2:1 error: expected a key, found the integer 1", itReadsAsAValueToo}}},
-        {"a = ,\n",
-         false,
-         {{"1:5 error: expected a value, found ','", stringsHaveQuotesArraysAre}}},
+         {{"1:4 error: expected a value, found the end of the line", valueOnLine},
+          {"2:1 error: expected a key, found the integer 1", readsAsValue1}}},
+        {"a = ,\n", false, {{"1:5 error: expected a value, found ','", valueForms}}},
         {"a = ]\nb = []\n",
          false,
-         {{"1:5 error: expected a value, found ']'", stringsHaveQuotesArraysAre},
+         {{"1:5 error: expected a value, found ']'", valueForms},
           {"2:6 error: the array is empty", emptyArray}}},
-        {"a = 1 = 2\n",
-         false,
-         {{"1:7 error: expected the end of the line, found '='", eachPairAndEachHeader}}},
+        {"a = 1 = 2\n", false, {{"1:7 error: expected the end of the line, found '='", ownLine}}},
         {"\"a\n", false, {{"1:1 error: the string is not closed on its line", unclosed}}},
-        {"a == 1\n",
-         false,
-         {{"1:4 error: expected a value, found a second '='", aPairIsWrittenKey}}},
+        {"a == 1\n", false, {{"1:4 error: expected a value, found a second '='", pairForm}}},
     });
 }
 
@@ -226,30 +199,24 @@ TEST(DiagnosisOfLines, missingLastLineBreak)
     expectSaid({
         {"a = 1",
          false,
-         {{"1:6 error: the line break at the end of the file is missing",
-           everyPairAndEveryHeader}}},
+         {{"1:6 error: the line break at the end of the file is missing", lastLineBreak}}},
         {"a = 1 # c",
          false,
-         {{"1:10 error: the line break at the end of the file is missing",
-           everyPairAndEveryHeader}}},
+         {{"1:10 error: the line break at the end of the file is missing", lastLineBreak}}},
         {"[a]",
          false,
-         {{"1:4 error: the line break at the end of the file is missing",
-           everyPairAndEveryHeader}}},
+         {{"1:4 error: the line break at the end of the file is missing", lastLineBreak}}},
         {"a = [1, 2\n]",
          false,
-         {{"2:2 error: the line break at the end of the file is missing",
-           everyPairAndEveryHeader}}},
+         {{"2:2 error: the line break at the end of the file is missing", lastLineBreak}}},
         {"a = []\nb = 1",
          false,
          {{"1:6 error: the array is empty", emptyArray},
-          {"2:6 error: the line break at the end of the file is missing",
-           everyPairAndEveryHeader}}},
+          {"2:6 error: the line break at the end of the file is missing", lastLineBreak}}},
         {"a = []", false, {{"1:6 error: the array is empty", emptyArray}}},
         {"# c\na = 1 ",
          false,
-         {{"2:7 error: the line break at the end of the file is missing",
-           everyPairAndEveryHeader}}},
+         {{"2:7 error: the line break at the end of the file is missing", lastLineBreak}}},
     });
 }
 
@@ -258,19 +225,19 @@ TEST(DiagnosisOfLines, loneCarriageReturns)
     expectSaid({
         {"a = 1\rb = 2\r",
          false,
-         {{"1:6 error: a carriage return without a line feed after it", linesEndWithALine}}},
+         {{"1:6 error: a carriage return without a line feed after it", lineEnds}}},
         {"a = 1\r",
          false,
-         {{"1:6 error: a carriage return without a line feed after it", linesEndWithALine}}},
+         {{"1:6 error: a carriage return without a line feed after it", lineEnds}}},
         {"\ra = 1\n",
          false,
-         {{"1:1 error: a carriage return without a line feed after it", linesEndWithALine}}},
+         {{"1:1 error: a carriage return without a line feed after it", lineEnds}}},
         {"a = 1\n\rb = 2\n",
          false,
-         {{"2:1 error: a carriage return without a line feed after it", linesEndWithALine}}},
+         {{"2:1 error: a carriage return without a line feed after it", lineEnds}}},
         {"[a]\r\r\n",
          false,
-         {{"1:4 error: a carriage return without a line feed after it", linesEndWithALine}}},
+         {{"1:4 error: a carriage return without a line feed after it", lineEnds}}},
     });
 }
 
@@ -280,14 +247,13 @@ TEST(DiagnosisOfLines, severalErrors)
         {"a = []\nb = 1 2\nc = {}\n",
          false,
          {{"1:6 error: the array is empty", emptyArray},
-          {"2:7 error: expected the end of the line, found the integer 2", eachPairAndEachHeader},
+          {"2:7 error: expected the end of the line, found the integer 2", ownLine},
           {"3:6 error: the inline table is empty",
            "An inline table holds one pair or more. Leave the key out, or use a header, [key], "
            "with nothing below it."}}},
         {"a = [\n1 2,\n3 4,\n[]\n]\n",
          false,
-         {{"2:3 error: expected ',' or ']' after the element, found the integer 2",
-           elementsAreSeparatedByCommas}}},
+         {{"2:3 error: expected ',' or ']' after the element, found the integer 2", commas}}},
         {"a = @ []\nb = $\n",
          false,
          {{"1:5 error: the character '@' cannot stand here", bareKeys},
@@ -298,21 +264,20 @@ TEST(DiagnosisOfLines, severalErrors)
           {"4:6 error: the array is empty", emptyArray}}},
         {"a = 1]\nb = []\n",
          false,
-         {{"1:6 error: ']' closes nothing here", everyAndBelongsToOne},
+         {{"1:6 error: ']' closes nothing here", unopened},
           {"2:6 error: the array is empty", emptyArray}}},
         {"x\ny\nz\n",
          false,
-         {{"1:2 error: expected '=' after the key, found the end of the line", aLineHoldsAPair},
-          {"2:2 error: expected '=' after the key, found the end of the line", aLineHoldsAPair},
-          {"3:2 error: expected '=' after the key, found the end of the line", aLineHoldsAPair}}},
+         {{"1:2 error: expected '=' after the key, found the end of the line", lineForm},
+          {"2:2 error: expected '=' after the key, found the end of the line", lineForm},
+          {"3:2 error: expected '=' after the key, found the end of the line", lineForm}}},
         {"a = [1 2\nb = 2\nc =\n",
          false,
-         {{"1:8 error: expected ',' or ']' after the element, found the integer 2",
-           elementsAreSeparatedByCommas},
-          {"3:4 error: expected a value, found the end of the line", theValueBeginsOnThe}}},
+         {{"1:8 error: expected ',' or ']' after the element, found the integer 2", commas},
+          {"3:4 error: expected a value, found the end of the line", valueOnLine}}},
         {"a = [@,\n 1,\n # c\n 2]\nb =\n",
          false,
          {{"1:6 error: the character '@' cannot stand here", bareKeys},
-          {"5:4 error: expected a value, found the end of the line", theValueBeginsOnThe}}},
+          {"5:4 error: expected a value, found the end of the line", valueOnLine}}},
     });
 }

@@ -13,17 +13,16 @@ namespace
 const std::string highCharacter =
     "Emoji and other characters above U+FFFF can stand nowhere, not even in comments. In a string "
     "with double quotes write \\U0001F600 instead.";
-const std::string escapes =
-    "The escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX. In 'literal strings' a "
-    "backslash is only a backslash.";
+const std::string escapes = "The escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX "
+                            "\\UXXXXXXXX. In 'literal strings' a backslash is only a backslash.";
 const std::string emptyArray = "An array holds one element or more. Leave the key out instead.";
-const std::string fourDigits = "Four hexadecimal digits follow \\u, as in \\u00E9.";
-const std::string unclosed = "A string ends on its line with \". One that goes over "
-                             "several lines begins and ends with \"\"\".";
+const std::string fourDigits = "Four hexadecimal digits follow \\u, as in \\u00E9. In 'literal "
+                               "strings' a backslash is only a backslash.";
+const std::string unclosed = "A string ends on its line with \". One that goes over several lines "
+                             "begins and ends with \"\"\".";
 const std::string unclosedLiteral = "A literal string ends on its line with '. One with an "
                                     "apostrophe in it has double quotes around it.";
 const std::string quoteInString = "A quote in a string is written \\\".";
-const std::string commentOrString = "A comment begins with '#'. Strings have quotes.";
 const std::string bareKeys =
     "Bare keys are made of A-Z a-z 0-9 _ and -. Other keys, and all strings, have quotes.";
 const std::string controlCharacters =
@@ -81,7 +80,8 @@ TEST(DiagnosisOfStrings, escapes)
         {"a = \"\\U0001F60\"\n",
          false,
          {{"1:6 error: the escape \\U has too few digits",
-           "Eight hexadecimal digits follow \\U, as in \\U000000E9."}}},
+           "Eight hexadecimal digits follow \\U, as in \\U000000E9. In 'literal strings' a "
+           "backslash is only a backslash."}}},
         {"a = \"\\ud8g0\"\n",
          false,
          {{"1:6 error: the escape \\u has too few digits", fourDigits}}},
@@ -98,8 +98,8 @@ TEST(DiagnosisOfStrings, escapes)
         {"a = \"\"\"\\u12\"\"\"\n",
          false,
          {{"1:8 error: the escape \\u has too few digits",
-           "Four hexadecimal digits follow \\u, as in \\u00E9. What follows is not checked before "
-           "this string is right."}}},
+           "Four hexadecimal digits follow \\u, as in \\u00E9. In 'literal strings' a backslash is "
+           "only a backslash. What follows is not checked before this string is right."}}},
         {"a = \"\"\"\\\rb\"\"\"\n",
          false,
          {{"1:9 error: a carriage return without a line feed after it",
@@ -162,9 +162,16 @@ TEST(DiagnosisOfStrings, characters)
          false,
          {{"1:2 error: the character ':' cannot stand here",
            "Between a key and its value stands '='."}}},
-        {"a = 1;\n", false, {{"1:6 error: the character ';' cannot stand here", commentOrString}}},
+        {"a = 1;\n",
+         false,
+         {{"1:6 error: the character ';' cannot stand here",
+           "Each pair has a line of its own, with nothing at its end. A comment begins with "
+           "'#'."}}},
         {"a = @b\n", false, {{"1:5 error: the character '@' cannot stand here", bareKeys}}},
-        {"// c\n", false, {{"1:1 error: the character '/' cannot stand here", commentOrString}}},
+        {"// c\n",
+         false,
+         {{"1:1 error: the character '/' cannot stand here",
+           "A comment begins with '#'. Strings have quotes."}}},
         {"a = $b\n", false, {{"1:5 error: the character '$' cannot stand here", bareKeys}}},
         {"\xc3\xa9 = 1\n",
          false,
