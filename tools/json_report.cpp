@@ -2,6 +2,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <iterator>
+
 #include "source_lines.h"
 #include "text_report.h"
 
@@ -41,10 +44,9 @@ Json jsonReport(const std::string& name, Status status, std::string_view text,
 {
     const SourceLines lines(diagnosis.findings.empty() ? std::string_view() : text);
     Json findings = Json::array();
-    for (const Finding& one : diagnosis.findings)
-    {
-        findings.push_back(finding(one, lines));
-    }
+    std::transform(diagnosis.findings.begin(), diagnosis.findings.end(),
+                   std::back_inserter(findings),
+                   [&lines](const Finding& one) { return finding(one, lines); });
     Json json = {{"file", name},
                  {"status", statusName(status)},
                  {"errors", diagnosis.errors},

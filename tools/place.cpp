@@ -5,11 +5,12 @@ namespace tool
 namespace
 {
 
+// An array or an inline table that is open.
 struct Enclosing
 {
-    std::size_t opening;
-    bool isTable;
-    unsigned elements;
+    std::size_t opening; // cppcheck-suppress unusedStructMember
+    bool isTable;        // cppcheck-suppress unusedStructMember
+    unsigned elements;   // cppcheck-suppress unusedStructMember
 };
 
 // Follows a statement token by token.

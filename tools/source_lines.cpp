@@ -32,9 +32,9 @@ std::size_t SourceLines::lineOf(std::size_t offset) const
 
 SourcePlace SourceLines::placeOf(std::size_t offset) const
 {
-    const std::size_t line = lineOf(offset);
-    const std::size_t begin = std::min(beginOf(line), offset);
-    return {line, 1 + countCharacters(text_.substr(begin, offset - begin))};
+    const std::size_t number = lineOf(offset);
+    const std::size_t begin = std::min(beginOf(number), offset);
+    return {number, 1 + countCharacters(text_.substr(begin, offset - begin))};
 }
 
 std::string_view SourceLines::line(std::size_t line) const

@@ -91,13 +91,13 @@ std::string textReport(const std::string& name, std::string_view text, const Dia
     {
         report.addMessage("", Severity::error, refusalMessage(diagnosis.refusal));
     }
-    std::size_t shown = 0;
+    std::size_t told = 0;
     for (const Finding& finding : diagnosis.findings)
     {
         report.add(finding);
-        shown += finding.severity == Severity::error ? 1 : 0;
+        told += finding.severity == Severity::error ? 1 : 0;
     }
-    if (const std::size_t more = diagnosis.errors - shown; more > 0)
+    if (const std::size_t more = diagnosis.errors - told; more > 0)
     {
         report.addLine(std::to_string(more) + (more == 1 ? " more error" : " more errors"));
     }

@@ -12,7 +12,7 @@ namespace
 struct Kind
 {
     std::string_view operation; // behind "begin" or "visit"
-    const char* name;
+    const char* name;           // cppcheck-suppress unusedStructMember
 };
 
 constexpr std::array<Kind, 21> kinds = {{{"Document", "document"},

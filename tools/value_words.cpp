@@ -1,5 +1,6 @@
 #include "value_words.h"
 
+#include <algorithm>
 #include <initializer_list>
 #include <string>
 
@@ -13,23 +14,16 @@ namespace
 std::string lowerCase(std::string_view text)
 {
     std::string lower(text.substr(0, 16));
-    for (char& c : lower)
-    {
-        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    }
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](char c)
+                   { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
     return lower;
 }
 
 bool isOneOf(const std::string& word, std::initializer_list<const char*> words)
 {
-    for (const char* const one : words)
-    {
-        if (word == one)
-        {
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(words.begin(), words.end(),
+                       [&word](const char* one) { return word == one; });
 }
 
 bool isNumeric(std::string_view text)
