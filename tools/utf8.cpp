@@ -173,7 +173,7 @@ ShownCharacter shown(std::string_view text, const Character& character, std::siz
         return {std::string(1, static_cast<char>(code)), 1};
     }
     const int width = widths.of(character.code);
-    if (width < 0 || isUnseen(character.code))
+    if (code < 0xA0 || width < 0 || isUnseen(character.code))
     {
         std::string escaped = escape(code > 0xFFFF ? "\\U%08X" : "\\u%04X", code);
         const auto columns = static_cast<unsigned>(escaped.size());
