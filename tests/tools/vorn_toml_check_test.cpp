@@ -130,6 +130,57 @@ TEST(VornTomlCheck, SaysWhatIsTooDeep)
               "say what\n");
 }
 
+// Runs a subcommand with a limit of the shell's: -s for the stack, -v for addresses.
+test::ProgramRun runLimited(const std::string& limit, const std::string& command,
+                            const std::string& input)
+{
+    return test::runProgram(
+        {"/bin/sh", "-c", "ulimit " + limit + "; exec \"$0\" " + command + " -", VORN_TOML}, input);
+}
+
+TEST(VornTomlCheckWithLimits, SurvivesSmallStacks)
+{
+    for (const char* const limit : {"-s 128", "-s 512", "-s 8192"})
+    {
+        for (const int depth : {10, 50, 150, 500, 1000, 5000, 15000, 30000})
+        {
+            for (const char* const level : {"[", "[\n{a.b = "})
+            {
+                SCOPED_TRACE(std::string(limit) + " for " + std::to_string(depth) + level);
+                const test::ProgramRun run =
+                    runLimited(limit, "check", "a = " + repeated(level, depth) + '\n');
+                EXPECT_EQ(run.status, rejected);
+                EXPECT_EQ(run.standardOutput, "-: rejected\n");
+                EXPECT_NE(run.standardError.find("-:"), std::string::npos);
+            }
+        }
+    }
+}
+
+TEST(VornTomlCheckWithLimits, SurvivesLittleMemory)
+{
+    const std::string text = repeated("a = [1, 2 3]\n", 5000);
+    std::size_t refused = 0;
+    std::size_t explained = 0;
+    for (int kilobytes = 30000; kilobytes <= 330000; kilobytes += 60000)
+    {
+        for (const char* const command : {"check", "tree", "tokens"})
+        {
+            SCOPED_TRACE(std::string(command) + " with " + std::to_string(kilobytes));
+            const test::ProgramRun run =
+                runLimited("-v " + std::to_string(kilobytes), command, text);
+            EXPECT_EQ(run.status, rejected);
+            const bool isRefused = run.standardError ==
+                                   "-: error: something is wrong, and the document is too large "
+                                   "to say what: there is not enough memory\n";
+            ++(isRefused ? refused : explained);
+            EXPECT_TRUE(isRefused || countOf(": error: ", run.standardError) == 20);
+        }
+    }
+    EXPECT_GT(refused, 0U);
+    EXPECT_GT(explained, 0U);
+}
+
 TEST(VornTomlCheck, PrintsJson)
 {
     const test::TemporaryDirectory directory;
