@@ -1,14 +1,16 @@
 #include "commands.h"
+#include "each_file.h"
 #include "event_printer.h"
-#include "input.h"
 
 namespace tool
 {
 
-Status printEvents(const std::string& name)
+Status printEvents(const Options& options)
 {
     EventPrinter printer(stdout);
-    return visitInput(name, printer);
+    return eachFile(options, !isOutputTerminal(),
+                    [&](const std::string& name, Progress& progress)
+                    { return visitInput(name, progress, printer); });
 }
 
 } // namespace tool

@@ -1,11 +1,12 @@
 #include "input.h"
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <memory>
-#include <optional>
+#include <utility>
+
+#include "utf8.h"
 
 namespace tool
 {
@@ -17,44 +18,57 @@ struct CloseFile
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-bool readAll(std::FILE* file, std::string& content)
+bool readAll(std::FILE* file, std::string& content, Progress& progress)
 {
-    std::array<char, 65536> block = {};
-    while (const std::size_t count = std::fread(block.data(), 1, block.size(), file))
+    constexpr std::size_t block = 65536;
+    for (std::size_t size = 0;; progress.read(size))
     {
-        content.append(block.data(), count);
+        content.resize(size + block);
+        const std::size_t count = std::fread(content.data() + size, 1, block, file);
+        size += count;
+        if (count == 0)
+        {
+            content.resize(size);
+            break;
+        }
     }
     return std::ferror(file) == 0;
 }
 
-std::optional<std::string> fail(const std::string& name)
+std::optional<std::string> fail(const std::string& name, Progress& progress)
 {
+    const int reason = errno;
+    progress.clear();
     // NOLINTNEXTLINE(concurrency-mt-unsafe): the tool has one thread.
-    std::fprintf(stderr, "vorn-toml: %s: %s\n", name.c_str(), std::strerror(errno));
+    std::fprintf(stderr, "vorn-toml: %s: %s\n", printable(name).c_str(), std::strerror(reason));
     return std::nullopt;
-}
-
-// The whole content of a file, or of standard input for "-".
-std::optional<std::string> readInput(const std::string& name)
-{
-    std::string content;
-    if (name == "-")
-    {
-        return readAll(stdin, content) ? std::optional(std::move(content)) : fail("standard input");
-    }
-    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(name.c_str(), "rb"));
-    return file && readAll(file.get(), content) ? std::optional(std::move(content)) : fail(name);
 }
 
 } // namespace
 
-Status visitInput(const std::string& name, vorn::parsers::toml::ITomlTreeVisitor& visitor)
+std::optional<std::string> readInput(const std::string& name, Progress& progress)
 {
-    const auto text = readInput(name);
+    progress.begin(name);
+    std::string content;
+    if (name == "-")
+    {
+        return readAll(stdin, content, progress) ? std::optional(std::move(content))
+                                                 : fail("standard input", progress);
+    }
+    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(name.c_str(), "rb"));
+    return file && readAll(file.get(), content, progress) ? std::optional(std::move(content))
+                                                          : fail(name, progress);
+}
+
+Status visitInput(const std::string& name, Progress& progress,
+                  vorn::parsers::toml::ITomlTreeVisitor& visitor)
+{
+    const auto text = readInput(name, progress);
     if (!text)
     {
         return unreadable;
     }
+    progress.clear();
     return vorn::parsers::toml::visitTomlTree(*text, visitor) ? accepted : rejected;
 }
 

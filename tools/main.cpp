@@ -5,45 +5,89 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <memory>
+#include <map>
+#include <new>
 #include <string>
-#include <vector>
 
 #include "commands.h"
+#include "help.h"
 
 namespace
 {
 
-using Command = tool::Status (*)(const std::string& name);
+using tool::Options;
+using tool::Status;
+using Command = Status (*)(const Options& options);
 
-// Adds a subcommand that runs over FILE... and raises `status` to its worst outcome.
-void addCommand(CLI::App& app, tool::Status& status, Command command, const std::string& name,
-                const std::string& description, const std::string& example)
+// What all subcommands share, and what they are asked for.
+struct Run
 {
-    CLI::App* const subcommand = app.add_subcommand(name, description);
-    const auto files = std::make_shared<std::vector<std::string>>();
-    subcommand->add_option("FILE", *files, "A document; - stands for standard input")->required();
-    subcommand->footer("Example:\n" + example);
-    subcommand->callback(
-        [&status, command, files]
-        {
-            for (const std::string& file : *files)
-            {
-                status = std::max(status, command(file));
-            }
-        });
+    Options options;
+    Command command = nullptr;
+};
+
+// Adds a subcommand that runs over FILE...
+CLI::App& addCommand(CLI::App& app, Run& run, Command command, const std::string& name,
+                     const std::string& description, const char* example)
+{
+    CLI::App& subcommand = *app.add_subcommand(name, description);
+    subcommand.add_option("FILE", run.options.files, "A document; - stands for standard input")
+        ->required();
+    subcommand.footer(std::string("Example:\n") + example);
+    subcommand.callback([&run, command] { run.command = command; });
+    return subcommand;
+}
+
+void addColour(CLI::App& subcommand, Run& run)
+{
+    static const std::map<std::string, tool::Colour> names = {{"auto", tool::Colour::automatic},
+                                                              {"always", tool::Colour::always},
+                                                              {"never", tool::Colour::never}};
+    subcommand
+        .add_option_function<std::string>(
+            "--color", [&run](const std::string& name) { run.options.colour = names.at(name); },
+            "Colours on standard error: auto (on a terminal, unless NO_COLOR is set), always or "
+            "never")
+        ->option_text("WHEN")
+        ->check(CLI::IsMember({"auto", "always", "never"}));
+}
+
+void addCommands(CLI::App& app, Run& run)
+{
+    addCommand(app, run, tool::printEvents, "events",
+               "Print the visitor calls of documents, one a line", tool::eventsExample);
+    addCommand(app, run, tool::printValues, "values",
+               "Print the visitor calls of documents, with the values of the texts",
+               tool::valuesExample);
+    CLI::App& check = addCommand(app, run, tool::check, "check",
+                                 "Tell whether documents are accepted, and explain what is wrong",
+                                 tool::checkExample);
+    check.add_flag("--json", run.options.json, "Print all as one JSON array, for editors");
+    addColour(check, run);
+    CLI::App& tree = addCommand(app, run, tool::printTrees, "tree",
+                                "Draw the syntax trees of documents", tool::treeExample);
+    tree.add_flag("--dot", run.options.dot, "Print graphs for Graphviz");
+    addColour(tree, run);
+    addColour(addCommand(app, run, tool::printTokens, "tokens",
+                         "List the tokens of documents with their positions", tool::tokensExample),
+              run);
+}
+
+int fail(const char* what, const char* why)
+{
+    std::fprintf(stderr, "vorn-toml: %s%s\n", what, why);
+    return tool::unreadable;
 }
 
 // What has been printed must have reached its place.
-tool::Status flushOutput()
+int flushOutput()
 {
     if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
     {
         return tool::accepted;
     }
     // NOLINTNEXTLINE(concurrency-mt-unsafe): the tool has one thread.
-    std::fprintf(stderr, "vorn-toml: standard output: %s\n", std::strerror(errno));
-    return tool::unreadable;
+    return fail("standard output: ", std::strerror(errno));
 }
 
 } // namespace
@@ -56,42 +100,9 @@ int main(int argc, char** argv)
 
     CLI::App app("Reads TOML documents the way the services of the device do.", "vorn-toml");
     app.require_subcommand(1);
-    app.footer("Example:\n"
-               "  $ vorn-toml check network.toml\n"
-               "  network.toml: accepted\n"
-               "\n"
-               "Exit status: 0 accepted, 1 rejected, 2 wrong usage, 3 a file could not be read or\n"
-               "the output not be written.\n"
-               "What is wrong with a document is logged on standard error.");
-
-    auto status = tool::accepted;
-    addCommand(app, status, tool::printEvents, "events",
-               "Print the visitor calls of documents, one a line",
-               "  $ printf 'a = 1\\n' | vorn-toml events -\n"
-               "  beginDocument\n"
-               "  beginKeyValue\n"
-               "  visitBareKey a\n"
-               "  visitInteger 1\n"
-               "  endKeyValue\n"
-               "  endDocument\n");
-    addCommand(app, status, tool::printValues, "values",
-               "Print the visitor calls of documents, with the values of the texts",
-               "  $ printf 'port = 0x1F\\nat = 1979-05-27T07:32:00\\n' |"
-               " TZ=UTC0 vorn-toml values - | grep visit\n"
-               "  visitBareKey port\n"
-               "  visitInteger 0x1F -> 31\n"
-               "  visitBareKey at\n"
-               "  visitLocalDateTime 1979-05-27T07:32:00 -> 1979-05-27T07:32:00+00:00 (296638320)\n"
-               "\n"
-               "Values are what the library's conversions give.  Strings and quoted keys lose\n"
-               "their quotes and keep their escapes; infinities and not-a-numbers give 0.\n"
-               "Date-times are read as local time, in the zone TZ, and shown with its offset\n"
-               "and the seconds since the epoch.  Bare keys, local dates and local times\n"
-               "have no conversion and no arrow.  What a conversion throws is shown behind\n"
-               "the arrow as \"error: ...\".\n");
-    addCommand(app, status, tool::check, "check", "Tell whether documents are accepted",
-               "  $ vorn-toml check network.toml\n"
-               "  network.toml: accepted\n");
+    app.footer(tool::mainHelp);
+    Run run;
+    addCommands(app, run);
     try
     {
         app.parse(argc, argv);
@@ -100,6 +111,15 @@ int main(int argc, char** argv)
     {
         // Asking for help is no error.
         return app.exit(error) == 0 ? tool::accepted : tool::usage;
+    }
+    int status = tool::accepted;
+    try
+    {
+        status = run.command(run.options);
+    }
+    catch (const std::bad_alloc&)
+    {
+        status = fail("there is not enough memory", "");
     }
     return std::max(status, flushOutput());
 }

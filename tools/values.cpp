@@ -1,14 +1,16 @@
 #include "commands.h"
-#include "input.h"
+#include "each_file.h"
 #include "value_printer.h"
 
 namespace tool
 {
 
-Status printValues(const std::string& name)
+Status printValues(const Options& options)
 {
     ValuePrinter printer(stdout);
-    return visitInput(name, printer);
+    return eachFile(options, !isOutputTerminal(),
+                    [&](const std::string& name, Progress& progress)
+                    { return visitInput(name, progress, printer); });
 }
 
 } // namespace tool

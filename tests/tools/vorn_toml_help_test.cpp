@@ -23,6 +23,8 @@ std::vector<HelpCase> helpCases()
     const std::string events = "Usage: vorn-toml events [OPTIONS] FILE...\n";
     const std::string values = "Usage: vorn-toml values [OPTIONS] FILE...\n";
     const std::string check = "Usage: vorn-toml check [OPTIONS] FILE...\n";
+    const std::string tree = "Usage: vorn-toml tree [OPTIONS] FILE...\n";
+    const std::string tokens = "Usage: vorn-toml tokens [OPTIONS] FILE...\n";
     return {
         {{"--help"}, tool},
         {{"-h"}, tool},
@@ -32,6 +34,8 @@ std::vector<HelpCase> helpCases()
         {{"values", "-h"}, values},
         {{"check", "--help"}, check},
         {{"check", "-h"}, check},
+        {{"tree", "--help"}, tree},
+        {{"tokens", "--help"}, tokens},
     };
 }
 
@@ -91,8 +95,9 @@ TEST(VornTomlHelp, SaysHowTheToolIsUsed)
 TEST(VornTomlHelp, NamesSubcommandsAndExitStatuses)
 {
     const std::string help = helpOf({{"--help"}, ""});
-    for (const std::string text : {"\n  events ", "\n  values ", "\n  check ", "0 accepted",
-                                   "1 rejected", "2 wrong usage", "3 a file could not be read"})
+    for (const std::string text :
+         {"\n  events ", "\n  values ", "\n  check ", "\n  tree ", "\n  tokens ", "0 accepted",
+          "1 rejected", "2 wrong usage", "3 a file could not be read"})
     {
         EXPECT_NE(help.find(text), std::string::npos) << text << " is not in:\n" << help;
     }

@@ -190,6 +190,8 @@ TEST(VornToml, SaysWhatCannotBeReadAndGoesOn)
         {{"events", missing}, "", noSuchFile},
         {{"values", missing}, "", noSuchFile},
         {{"check", missing}, "", noSuchFile},
+        {{"tree", missing}, "", noSuchFile},
+        {{"tokens", missing}, "", noSuchFile},
         {{"events", directory.path(".")}, "", isDirectory},
         {{"values", directory.path(".")}, "", isDirectory},
         {{"check", directory.path(".")}, "", isDirectory},
@@ -221,7 +223,7 @@ TEST(VornToml, EndsWithTheWorstStatus)
         {{missing, bad}, unreadable},  {{bad, missing}, unreadable},
         {{good, missing}, unreadable}, {{bad, missing, good}, unreadable},
     };
-    for (const std::string command : {"events", "values", "check"})
+    for (const std::string command : {"events", "values", "check", "tree", "tokens"})
     {
         for (const Case& c : cases)
         {
@@ -244,6 +246,11 @@ TEST(VornToml, ReadsNothingWhenUsedWrongly)
         {"events"},
         {"values"},
         {"check"},
+        {"tree"},
+        {"tokens"},
+        {"check", "--dot", example},
+        {"check", "--color", "often", example},
+        {"tree", "--json", example},
         {"events", "--bogus"},
         {"events", "--bogus", example},
         {"events", example, "--bogus"},

@@ -1,0 +1,83 @@
+// vorn-toml on a terminal: colours and progress.
+#include "support/temporary_directory.h"
+#include "support/terminal_run.h"
+#include "support/variable.h"
+#include "tools/tool_run.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace
+{
+
+using test::Variable;
+
+const std::string escape = "\x1B[";
+
+class VornTomlTerminal : public testing::Test
+{
+protected:
+    bool hasColours(const std::vector<std::string>& options) const
+    {
+        std::vector<std::string> words = {VORN_TOML, "check"};
+        words.insert(words.end(), options.begin(), options.end());
+        words.push_back(bad_);
+        const test::TerminalRun run = test::runOnTerminal(words);
+        EXPECT_EQ(run.status, test::rejected);
+        EXPECT_NE(run.terminal.find("the array is empty"), std::string::npos) << run.terminal;
+        return run.terminal.find(escape) != std::string::npos;
+    }
+
+    const Variable term_{"TERM", "xterm"};
+    const Variable noColour_{"NO_COLOR", nullptr};
+    const test::TemporaryDirectory directory_;
+    const std::string bad_ = directory_.write("bad.toml", "a = []\n");
+};
+
+TEST_F(VornTomlTerminal, hasColoursUnlessTheUserIsAgainst)
+{
+    EXPECT_TRUE(hasColours({}));
+    EXPECT_TRUE(hasColours({"--color", "auto"}));
+    EXPECT_FALSE(hasColours({"--color", "never"}));
+    {
+        const Variable against("NO_COLOR", "1");
+        EXPECT_FALSE(hasColours({}));
+        EXPECT_TRUE(hasColours({"--color=always"}));
+    }
+    {
+        // As no-color.org has it.
+        const Variable empty("NO_COLOR", "");
+        EXPECT_TRUE(hasColours({}));
+    }
+    const Variable dumb("TERM", "dumb");
+    EXPECT_FALSE(hasColours({}));
+}
+
+TEST_F(VornTomlTerminal, showsProgressOfLargeFilesAndTakesItAway)
+{
+    const std::string large =
+        directory_.write("large.toml", std::string(std::size_t{33} * 1024 * 1024, '\n'));
+    const test::TerminalRun run =
+        test::runOnTerminal({VORN_TOML, "check", large, directory_.path("none.toml")});
+    EXPECT_EQ(run.status, test::unreadable);
+    const std::string shown = "[1/2] " + large + ", 35 MB";
+    const std::size_t at = run.terminal.find(shown);
+    ASSERT_NE(at, std::string::npos) << run.terminal;
+    EXPECT_EQ(run.terminal.substr(at + shown.size(), 4), "\r\x1B[K");
+    EXPECT_EQ(run.terminal.substr(run.terminal.rfind("\x1B[K") + 3),
+              "vorn-toml: " + directory_.path("none.toml") + ": No such file or directory\r\n");
+}
+
+TEST_F(VornTomlTerminal, showsNoProgressOfSmallFilesNorElsewhere)
+{
+    const std::string small = directory_.write("small.toml", "a = 1\n");
+    EXPECT_EQ(test::runOnTerminal({VORN_TOML, "check", small}).terminal, "");
+    const std::string large =
+        directory_.write("large.toml", std::string(std::size_t{33} * 1024 * 1024, '\n'));
+    test::expectRun(test::runTool({"check", large}), test::accepted, large + ": accepted\n", "");
+    const Variable dumb("TERM", "dumb");
+    EXPECT_EQ(test::runOnTerminal({VORN_TOML, "check", large}).terminal, "");
+}
+
+} // namespace

@@ -1,0 +1,24 @@
+// Characters that cannot stand where they are, in words.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "finding.h"
+#include "utf8.h"
+
+namespace tool
+{
+
+// One above U+FFFF.
+Finding highCharacter(std::size_t at, const Character& character);
+
+// Bytes that are not UTF-8.
+Finding malformedBytes(std::string_view text, std::size_t at, Severity severity);
+
+Finding loneCarriageReturn(std::size_t at);
+
+// One that no token begins with.
+Finding strayCharacter(std::string_view text, std::size_t at);
+
+} // namespace tool

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstddef>
+
+#include "grammar/token_type.h"
+
+namespace tool
+{
+
+using vorn::parsers::toml::TokenType;
+
+// A token that the parser gets, with the offsets of its bytes in the document.
+struct DocumentToken
+{
+    TokenType type;
+    std::size_t begin;
+    std::size_t end;
+};
+
+} // namespace tool

@@ -1,0 +1,76 @@
+#include "excerpt.h"
+
+#include <algorithm>
+
+#include "utf8.h"
+
+namespace tool
+{
+namespace
+{
+
+// Columns, at most, before and from the place on.
+constexpr std::size_t mostBefore = 60;
+constexpr std::size_t mostBehind = 40;
+
+constexpr std::string_view omission = "...";
+
+// The begin of what is shown before a place.
+std::size_t shownFrom(std::string_view line, std::size_t place)
+{
+    std::size_t columns = 0;
+    std::size_t from = place;
+    while (from > 0)
+    {
+        const std::size_t before = characterBegin(line, from - 1);
+        columns += shown(line, characterAt(line, before), before).columns;
+        if (columns > mostBefore)
+        {
+            break;
+        }
+        from = before;
+    }
+    return from;
+}
+
+} // namespace
+
+Excerpt excerptOf(std::string_view line, std::size_t begin, std::size_t end)
+{
+    begin = std::min(begin, line.size());
+    const std::size_t from = shownFrom(line, begin);
+    Excerpt excerpt;
+    if (from > 0)
+    {
+        excerpt.source = omission;
+        excerpt.marks.assign(omission.size(), ' ');
+    }
+    std::size_t behind = 0;
+    for (std::size_t at = from; at < line.size();)
+    {
+        const Character character = characterAt(line, at);
+        const ShownCharacter one = shown(line, character, at);
+        behind += at >= begin ? one.columns : 0;
+        if (behind > mostBehind)
+        {
+            excerpt.source += omission;
+            break;
+        }
+        excerpt.source += one.text;
+        const bool isMarked = at >= begin && at < end;
+        excerpt.marks.append(at < begin || isMarked ? one.columns : 0, isMarked ? '~' : ' ');
+        at += character.length;
+    }
+    const std::size_t caret = excerpt.marks.find('~');
+    if (caret == std::string::npos)
+    {
+        excerpt.marks += '^';
+    }
+    else
+    {
+        excerpt.marks[caret] = '^';
+    }
+    return excerpt;
+}
+
+} // namespace tool

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+
+#include <string>
+#include <string_view>
+
+#include "diagnosis.h"
+#include "status.h"
+
+namespace tool
+{
+
+// What is known of a file, for editors.
+nlohmann::ordered_json jsonReport(const std::string& name, Status status, std::string_view text,
+                                  const Diagnosis& diagnosis);
+
+} // namespace tool

@@ -1,0 +1,261 @@
+#include "lexical_words.h"
+
+#include <algorithm>
+#include <string>
+
+#include "character_words.h"
+#include "token_words.h"
+#include "utf8.h"
+
+namespace tool
+{
+namespace
+{
+
+// The choices of the grammar that fail in escapes.
+constexpr unsigned escapeOfLongString = 34;
+constexpr unsigned escapeOfString = 35;
+
+constexpr std::string_view longQuotes[] = {"\"\"\"", "'''"};
+
+char byteAt(std::string_view text, std::size_t at)
+{
+    return at < text.size() ? text[at] : '\0';
+}
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+bool isQuote(char c)
+{
+    return c == '"' || c == '\'';
+}
+
+// Whether the text has the shape, in which 0 stands for any digit.
+bool hasShape(std::string_view text, std::size_t at, std::string_view shape)
+{
+    if (text.size() - at < shape.size())
+    {
+        return false;
+    }
+    return std::equal(shape.begin(), shape.end(), text.begin() + static_cast<std::ptrdiff_t>(at),
+                      [](char wanted, char c) { return wanted == '0' ? isDigit(c) : wanted == c; });
+}
+
+bool isAtEnd(const LexicalError& error, std::string_view text)
+{
+    return error.at >= text.size();
+}
+
+Finding errorAt(std::size_t begin, std::size_t end, std::string message, std::string hint)
+{
+    return {Severity::error, begin, std::max(begin, end), std::move(message), std::move(hint)};
+}
+
+Finding unclosedString(const LexicalError& error, std::string_view text)
+{
+    const bool isBasic = text[error.begin] == '"';
+    if (isInLongString(error, text))
+    {
+        const std::string quotes(longQuotes[isBasic ? 0 : 1]);
+        return errorAt(error.begin, error.begin + 3, "the string that begins here is never closed",
+                       "It ends with " + quotes + ", as it begins.");
+    }
+    std::string hint = isBasic ? "A string ends on its line with \". One that goes over several "
+                                 "lines begins and ends with \"\"\"."
+                               : "A literal string ends on its line with '. One with an apostrophe "
+                                 "in it has double quotes around it.";
+    return errorAt(error.begin, error.at, "the string is not closed on its line", std::move(hint));
+}
+
+constexpr std::string_view escapesHint =
+    "The escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX. In 'literal strings' "
+    "a backslash is only a backslash.";
+
+Finding wrongEscape(std::size_t backslash, std::string_view text)
+{
+    const std::size_t next = backslash + 1;
+    const Character character =
+        next < text.size() ? characterAt(text, next) : Character{'\n', 0, true};
+    const std::size_t end = next + character.length;
+    const char c = byteAt(text, next);
+    if (character.length == 0 || c == '\n')
+    {
+        return errorAt(backslash, next, "nothing to escape follows the backslash",
+                       "A backslash joins lines only in strings with \"\"\" around them. A "
+                       "backslash itself is written \\\\.");
+    }
+    const std::string name =
+        "the escape " + printable(text.substr(backslash, end - backslash)) + " does not exist";
+    if (c == ' ' || c == '\t' || c == '\r')
+    {
+        return errorAt(backslash, end, "a blank follows the backslash",
+                       "A backslash that joins lines is the last character of its line. A "
+                       "backslash itself is written \\\\.");
+    }
+    if (c == 'x' || c == 'e')
+    {
+        return errorAt(backslash, end, name,
+                       c == 'x' ? "Write \\u0041 instead of \\x41. A backslash itself is written "
+                                  "\\\\."
+                                : "The escape character is written \\u001B. A backslash itself is "
+                                  "written \\\\.");
+    }
+    return errorAt(backslash, end, name, std::string(escapesHint));
+}
+
+Finding shortEscape(const LexicalError& error, std::string_view text)
+{
+    std::size_t backslash = text.rfind('\\', error.at);
+    backslash =
+        backslash == std::string_view::npos || backslash < error.begin ? error.at : backslash;
+    const bool isLong = byteAt(text, backslash + 1) == 'U';
+    return errorAt(backslash, error.at,
+                   std::string("the escape \\") + (isLong ? "U" : "u") + " has too few digits",
+                   std::string(isLong ? "Eight hexadecimal digits follow \\U, as in \\U000000E9. "
+                                      : "Four hexadecimal digits follow \\u, as in \\u00E9. ") +
+                       "In 'literal strings' a backslash is only a backslash.");
+}
+
+Finding inStringAlone(const LexicalError& error, std::string_view text)
+{
+    if (error.kind == ErrorKind::noAlternative && error.decision == escapeOfString)
+    {
+        return wrongEscape(error.at - 1, text);
+    }
+    if (error.kind == ErrorKind::noAlternative && error.decision == escapeOfLongString)
+    {
+        return wrongEscape(error.at, text);
+    }
+    if (error.kind == ErrorKind::mismatchedSet)
+    {
+        return shortEscape(error, text);
+    }
+    if (error.kind == ErrorKind::recognition && isInLongString(error, text) &&
+        error.at > error.begin + 4 && text.substr(error.at - 2, 2) == "\\\r")
+    {
+        return loneCarriageReturn(error.at - 1);
+    }
+    return unclosedString(error, text);
+}
+
+Finding inString(const LexicalError& error, std::string_view text)
+{
+    Finding finding = inStringAlone(error, text);
+    if (isInLongString(error, text) && !isAtEnd(error, text))
+    {
+        finding.hint += " What follows is not checked before this string is right.";
+    }
+    return finding;
+}
+
+// Whether an equals sign stands on the same line behind the place, and none before it.
+bool isInKey(std::size_t begin, std::string_view text)
+{
+    const std::size_t before = text.find_last_of("\n=", begin);
+    const std::size_t behind = text.find_first_of("\n=", begin);
+    return (before == std::string_view::npos || text[before] == '\n') &&
+           behind != std::string_view::npos && text[behind] == '=';
+}
+
+constexpr std::string_view timeHint = "A time is written 07:32:00 or 07:32:00.25, with seconds.";
+
+Finding inDateTime(const LexicalError& error, std::string_view text)
+{
+    constexpr std::string_view date = "0000-00-00";
+    const bool hasDate = hasShape(text, error.begin, date);
+    const std::size_t behindDate = error.begin + date.size();
+    if (hasDate && byteAt(text, behindDate) == ' ' && error.at == behindDate + 1)
+    {
+        return errorAt(behindDate, behindDate + 1,
+                       "a time is missing: the date goes on with a blank",
+                       "A blank after a date begins the time of a date-time. Put nothing or a tab "
+                       "after the date.");
+    }
+    const std::size_t time = hasDate ? behindDate + 1 : error.begin;
+    if (error.at > time + 8 && byteAt(text, time + 8) != '.')
+    {
+        return errorAt(error.begin, error.at, "the offset of the date-time is not complete",
+                       "An offset is Z or written +01:00.");
+    }
+    if (error.kind == ErrorKind::noAlternative || error.kind == ErrorKind::recognition ||
+        error.kind == ErrorKind::mismatchedSet)
+    {
+        return errorAt(error.begin, error.at, "the time is not complete", std::string(timeHint));
+    }
+    return errorAt(error.begin, error.at, "digits are missing after the dot of the time",
+                   std::string(timeHint));
+}
+
+Finding inNumber(const LexicalError& error, std::string_view text)
+{
+    const std::string hint = "A float is written 1.5, 1e6 or 1.5e-6: digits stand on both sides of "
+                             "the dot and after the exponent's e.";
+    if (byteAt(text, error.begin) == '+' && error.at <= error.begin + 1)
+    {
+        return errorAt(error.begin, error.begin + 1, "a number is missing after '+'",
+                       "A plus sign begins numbers only, as +1, +1.5 and +inf.");
+    }
+    const char c = byteAt(text, error.begin + 1);
+    if (byteAt(text, error.begin) == '+' && (c == 'i' || c == 'n'))
+    {
+        return errorAt(error.begin, error.at, "a number is missing after '+'",
+                       "The words that may follow are +inf and +nan.");
+    }
+    if (error.at > error.begin && text[error.at - 1] == '_')
+    {
+        return errorAt(error.at - 1, error.at, "a digit is missing after '_'",
+                       "Underscores stand between two digits.");
+    }
+    return errorAt(error.begin, error.at, "a digit is missing in the number", hint);
+}
+
+} // namespace
+
+bool isInLongString(const LexicalError& error, std::string_view text)
+{
+    const std::string_view quotes = text.substr(std::min(error.begin, text.size()), 3);
+    return (quotes == longQuotes[0] || quotes == longQuotes[1]) && error.at >= error.begin + 3;
+}
+
+Finding findingOf(const LexicalError& error, std::string_view text)
+{
+    if (!isAtEnd(error, text))
+    {
+        const Character character = characterAt(text, error.at);
+        const bool isInString = isQuote(byteAt(text, error.begin));
+        if (character.isWellFormed && character.code > 0xFFFF)
+        {
+            return highCharacter(error.at, character);
+        }
+        if (!character.isWellFormed && (error.at == error.begin || isInString))
+        {
+            return malformedBytes(text, error.at, Severity::error);
+        }
+    }
+    const char first = byteAt(text, error.begin);
+    if (isQuote(first))
+    {
+        return inString(error, text);
+    }
+    if (first == '\r' || (first == '\n' && error.at > 0))
+    {
+        return loneCarriageReturn(text[error.at - 1] == '\r' ? error.at - 1 : error.begin);
+    }
+    if (error.at == error.begin && first != '+')
+    {
+        return strayCharacter(text, error.at);
+    }
+    const bool isDate = hasShape(text, error.begin, "0000-") || hasShape(text, error.begin, "00:");
+    Finding finding = isDate ? inDateTime(error, text) : inNumber(error, text);
+    if (isInKey(error.begin, text))
+    {
+        finding.hint = "What begins like a number or a date reads as a value. Quoted it is a key, "
+                       "or a part of one.";
+    }
+    return finding;
+}
+
+} // namespace tool

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+namespace tool
+{
+
+// A place as an editor counts it: from 1, columns in characters.
+struct SourcePlace
+{
+    std::size_t line;
+    std::size_t column;
+};
+
+// The lines of a text.
+class SourceLines
+{
+public:
+    explicit SourceLines(std::string_view text);
+
+    // From 1.
+    std::size_t lineOf(std::size_t offset) const;
+
+    SourcePlace placeOf(std::size_t offset) const;
+
+    // The first byte of a line, behind a byte order mark.
+    std::size_t beginOf(std::size_t line) const { return begins_[line - 1]; }
+
+    // A line without its line break.
+    std::string_view line(std::size_t line) const;
+
+private:
+    std::string_view text_;
+    std::vector<std::size_t> begins_;
+};
+
+} // namespace tool

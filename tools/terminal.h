@@ -1,0 +1,21 @@
+#pragma once
+
+namespace tool
+{
+
+// When to use colours.
+enum class Colour
+{
+    automatic, // on a terminal, unless the user's NO_COLOR or TERM speak against it
+    always,
+    never,
+};
+
+// Whether standard error is a terminal that can be commanded.
+bool isErrorTerminal();
+
+bool isOutputTerminal();
+
+bool useColour(Colour colour);
+
+} // namespace tool

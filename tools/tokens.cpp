@@ -1,0 +1,109 @@
+#include <algorithm>
+#include <cstdio>
+
+#include "commands.h"
+#include "each_file.h"
+#include "ignoring_visitor.h"
+#include "printed.h"
+#include "source_lines.h"
+#include "token_words.h"
+
+namespace tool
+{
+namespace
+{
+
+void printLine(const SourcePlace& place, std::string_view kind, std::string_view text)
+{
+    const std::string position = std::to_string(place.line) + ':' + std::to_string(place.column);
+    const int width = text.empty() ? 0 : 26;
+    std::printf("%-8s %-*s", position.c_str(), width, std::string(kind).c_str());
+    if (!text.empty())
+    {
+        std::fputc(' ', stdout);
+        printEscaped(stdout, text);
+    }
+    std::fputc('\n', stdout);
+}
+
+// Places come in order, so that columns need not be counted from the line's begin each time.
+class Places
+{
+public:
+    explicit Places(std::string_view text) : text_(text), lines_(text) {}
+
+    SourcePlace placeOf(std::size_t offset)
+    {
+        const std::size_t line = lines_.lineOf(offset);
+        const std::size_t begin = std::min(lines_.beginOf(line), offset);
+        if (line != last_.line)
+        {
+            last_ = {line, 1};
+            at_ = begin;
+        }
+        last_.column += countCharacters(text_.substr(at_, offset - at_));
+        at_ = offset;
+        return last_;
+    }
+
+private:
+    std::string_view text_;
+    SourceLines lines_;
+    SourcePlace last_ = {0, 1};
+    std::size_t at_ = 0;
+};
+
+// Tokens, and between them what is none.
+void list(const std::string& text, const Recognition& found)
+{
+    Places places(text);
+    auto error = found.lexicalErrors.begin();
+    const auto printErrors = [&](std::size_t end)
+    {
+        for (; error != found.lexicalErrors.end() && error->begin < end; ++error)
+        {
+            const std::size_t stop = std::clamp(error->resumed, error->begin, text.size());
+            printLine(places.placeOf(error->begin), "(no token)",
+                      std::string_view(text).substr(error->begin, stop - error->begin));
+        }
+    };
+    for (const DocumentToken& token : found.tokens)
+    {
+        printErrors(token.begin);
+        printLine(places.placeOf(token.begin), kindName(token.type),
+                  std::string_view(text).substr(token.begin, token.end - token.begin));
+    }
+    printErrors(text.size());
+    printLine(places.placeOf(found.end), "end of the file", "");
+}
+
+Status listTokens(const std::string& name, Progress& progress, const Options& options)
+{
+    const std::optional<std::string> text = readInput(name, progress);
+    if (!text)
+    {
+        return unreadable;
+    }
+    progress.work(text->size());
+    IgnoringVisitor visitor;
+    const Examination examination = examine(*text, visitor);
+    const Recognition found = findTokens(*text);
+    progress.clear();
+    if (found.refusal == Refusal::none)
+    {
+        list(*text, found);
+    }
+    explain(name, *text, examination.diagnosis, options);
+    return examination.status;
+}
+
+} // namespace
+
+Status printTokens(const Options& options)
+{
+    return eachFile(options, !isOutputTerminal(),
+                    [&](const std::string& name, Progress& progress)
+                    { return listTokens(name, progress, options); });
+}
+
+} // namespace tool
