@@ -37,6 +37,9 @@ std::vector<std::string> documents(std::size_t size)
         repeated("a=1979-05-27 x\n", size / 15),
         repeated("@", size),
         repeated("'\n", size / 2),
+        // Once, each string in a run of quotes went over what was left of the run.
+        repeated("\"", size),
+        repeated("'", size),
         repeated("[[a]]\nb=1\n", size / 10) + "@",
         enclosed("a", ".", size, "=1\n"),
         enclosed("a", ".b", size / 2, "=1\n@"),

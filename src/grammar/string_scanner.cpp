@@ -111,10 +111,13 @@ const char* multiLineEscapeEnd(const char* at, const char* end) noexcept
     return escapeEnd(at, end);
 }
 
+// How many quotes stand there, up to four.  (Were all of a long run counted for each token
+// within it, the time would grow with the square of its length.)
 std::ptrdiff_t countQuotes(const char* at, const char* end, char quote) noexcept
 {
+    const char* const most = end - at > 4 ? at + 4 : end;
     const char* stop = at;
-    while (stop != end && *stop == quote)
+    while (stop != most && *stop == quote)
     {
         ++stop;
     }
