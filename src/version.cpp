@@ -1,15 +1,14 @@
 #include <vorn/parsers/toml.h>
 
-#define VORN_TEXT_OF(number) #number
-#define VORN_VERSION(major, minor, patch)                                                          \
-    VORN_TEXT_OF(major) "." VORN_TEXT_OF(minor) "." VORN_TEXT_OF(patch)
+#define TEXT_OF(number) #number
+#define VERSION_TEXT(major, minor, patch) TEXT_OF(major) "." TEXT_OF(minor) "." TEXT_OF(patch)
 
 namespace vorn::parsers::toml
 {
 
 const char* version() noexcept
 {
-    return VORN_VERSION(VORN_PARSERS_VERSION_MAJOR, VORN_PARSERS_VERSION_MINOR,
+    return VERSION_TEXT(VORN_PARSERS_VERSION_MAJOR, VORN_PARSERS_VERSION_MINOR,
                         VORN_PARSERS_VERSION_PATCH);
 }
 
