@@ -59,21 +59,21 @@ def build_with_cmake(build, *options, source=SOURCE, within=()):
     return f"{build}/consumer"
 
 
-def build_with_pkg_config(program, *options, path=None, source=SOURCE, within=()):
+def build_with_pkg_config(program, path=None, source=SOURCE, within=()):
     """The program, by nothing but the compiler and what pkg-config says."""
     variables = {"PKG_CONFIG_PATH": str(path)} if path else {}
     said = run([*within, "pkg-config", "--cflags", "--libs", "vorn_parsers"],
                env=clean_environment(**variables))
     run([*within, "g++", "-std=c++17", f"{source}/consumer.cpp", "-o", program,
-         *shlex.split(said), *options], env=clean_environment())
+         *shlex.split(said)], env=clean_environment())
     return program
 
 
-def check_run(program, version, mark, within=()):
+def check_run(program, version, mark, within=(), **variables):
     """Runs the program; the log lines must have `mark` in them."""
     result = subprocess.run(
         [*within, program],
-        env=clean_environment(),
+        env=clean_environment(**variables),
         stdin=subprocess.DEVNULL,
         capture_output=True,
         text=True,
