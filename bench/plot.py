@@ -6,6 +6,7 @@ The table and the caption stand in the page between two marks and are replaced t
 import argparse
 import collections
 import json
+import math
 import pathlib
 
 import matplotlib
@@ -88,7 +89,6 @@ def draw(axes, kind, sizes):
     axes.set_xticks(range(len(sizes)), sizes)
     axes.set_xlim(-0.6, 2.6)
     axes.set_yscale("log")
-    axes.set_ylim(bottom=1)
     axes.set_axisbelow(True)
     axes.grid(axis="y", color="#e0e0e0")
     axes.spines[["top", "right"]].set_visible(False)
@@ -107,6 +107,9 @@ def draw_picture(picture, rates, caption):
     )
     for axes, (kind, sizes) in zip(panels.flat, kinds.items(), strict=True):
         draw(axes, kind, sizes)
+    # Left to itself, the common axis ends far above the bars.
+    fastest = max(rate for measured in rates.values() for rate in measured.values())
+    panels[0, 0].set_ylim(1, 10 ** math.ceil(math.log10(fastest)))
     for axes in panels[:, 0]:
         axes.set_ylabel("MB/s (logarithmic)")
     handles, names = panels[0, 0].get_legend_handles_labels()

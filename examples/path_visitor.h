@@ -35,22 +35,18 @@ struct Scalar
 // Checks what the library leaves to visitors: that nothing is defined twice, and that no
 // table grows in a place where TOML does not let it.  What is wrong becomes a complaint,
 // and neither it nor what is in it is handed over.
-class PathVisitor : public vorn::parsers::toml::ITomlTreeVisitor
+class PathVisitor : public vorn::parsers::toml::TomlTreeVisitor
 {
 public:
     // In the order of the document, each with the path in front: "dns.port: defined twice".
     const std::vector<std::string>& complaints() const { return complaints_; }
 
     void beginDocument() override;
-    void endDocument() override {}
     void beginKeyValue() override { beginKey(); }
-    void endKeyValue() override {}
     void beginTable() override { beginKey(); }
     void endTable() override { beginSection(&PathVisitor::headed); }
     void beginArrayTable() override { beginKey(); }
     void endArrayTable() override { beginSection(&PathVisitor::appended); }
-    void beginDottedKey() override {}
-    void endDottedKey() override {}
     void visitBareKey(const char* text) override { key_.emplace_back(text); }
     void visitQuotedKey(const char* text) override;
     void beginArray() override;

@@ -33,11 +33,11 @@ function(vorn_debian_package component name section summary text)
     set(CPACK_DEBIAN_${upper}_PACKAGE_DEPENDS "${dependencies}" PARENT_SCOPE)
 endfunction()
 
-# vorn_debian_library(COMPONENT LIBRARY MAJOR PACKAGE): what others depend on who link the library,
-# and that the loader's cache is renewed.
-function(vorn_debian_library component library major package)
+# vorn_debian_library(COMPONENT LIBRARY SOVERSION PACKAGE): what others depend on who link the
+# library, and that the loader's cache is renewed.
+function(vorn_debian_library component library soversion package)
     set(directory ${CMAKE_CURRENT_BINARY_DIR}/${component})
-    file(WRITE ${directory}/shlibs "${library} ${major} ${package} (>= ${PROJECT_VERSION})\n")
+    file(WRITE ${directory}/shlibs "${library} ${soversion} ${package} (>= ${PROJECT_VERSION})\n")
     file(WRITE ${directory}/triggers "activate-noawait ldconfig\n")
     string(TOUPPER ${component} upper)
     set(CPACK_DEBIAN_${upper}_PACKAGE_CONTROL_EXTRA
@@ -46,6 +46,7 @@ endfunction()
 
 # They are stated, since those of another processor cannot be looked up here: Debian 12's.
 set(runtime "libc6 (>= 2.36)" "libgcc-s1 (>= 3.5)" "libstdc++6 (>= 12)")
+set(library_package libvorn-parsers${VORN_PARSERS_SOVERSION})
 set(utils ${VORN_UTILS_PACKAGE})
 if(NOT VORN_UTILS_LIBRARY)
     set(utils "libvorn-utils0")
@@ -56,20 +57,19 @@ if(NOT VORN_UTILS_LIBRARY)
         ${runtime})
     vorn_debian_library(HostUtils libvorn_utils 0 libvorn-utils0)
 endif()
-vorn_debian_package(Runtime libvorn-parsers${PROJECT_VERSION_MAJOR} libs
+vorn_debian_package(Runtime ${library_package} libs
     "event reader for TOML"
     "It checks a TOML document and calls a visitor for every header, key, array,\ninline table and scalar."
     "libantlr3c-3.4-0" ${runtime} ${utils})
-vorn_debian_library(Runtime libvorn_parsers ${PROJECT_VERSION_MAJOR}
-    libvorn-parsers${PROJECT_VERSION_MAJOR})
+vorn_debian_library(Runtime libvorn_parsers ${VORN_PARSERS_SOVERSION} ${library_package})
 vorn_debian_package(Development libvorn-parsers-dev libdevel
     "event reader for TOML - development files"
     "The header of libvorn_parsers, its CMake package and its pkg-config file."
-    "libvorn-parsers${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
+    "${library_package} (= ${PROJECT_VERSION})")
 vorn_debian_package(Tool vorn-toml utils
     "event reader for TOML - command-line tool"
     "It prints what libvorn_parsers reports of TOML documents, and tells whether it\naccepts them."
-    "libvorn-parsers${PROJECT_VERSION_MAJOR} (>= ${PROJECT_VERSION})" ${runtime})
+    "${library_package} (>= ${PROJECT_VERSION})" ${runtime})
 
 # Documentation that only Debian's packages have.
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/debian_documentation.cmake)

@@ -1,64 +1,17 @@
 // The visitor's interface: the order of its operations and what they are called with.
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <type_traits>
 
 #include "support/event_lists.h"
 #include "support/reading.h"
+#include "support/visitor_table.h"
 
 using namespace test;
 using vorn::parsers::toml::ITomlTreeVisitor;
 
 namespace
 {
-
-struct Operation
-{
-    std::string name;
-    bool takesText;
-};
-
-// In the order of the interface, which clients are compiled against.
-const std::vector<Operation> operations = {
-    {"beginDocument", false},     {"endDocument", false},
-    {"beginKeyValue", false},     {"endKeyValue", false},
-    {"beginTable", false},        {"endTable", false},
-    {"beginArrayTable", false},   {"endArrayTable", false},
-    {"beginDottedKey", false},    {"endDottedKey", false},
-    {"visitBareKey", true},       {"visitQuotedKey", true},
-    {"beginArray", false},        {"endArray", false},
-    {"beginInlineTable", false},  {"endInlineTable", false},
-    {"visitBasicString", true},   {"visitMultilineBasicString", true},
-    {"visitLiteralString", true}, {"visitMultilineLiteralString", true},
-    {"visitInteger", true},       {"visitFloat", true},
-    {"visitBoolean", true},       {"visitOffsetDateTime", true},
-    {"visitLocalDateTime", true}, {"visitLocalDate", true},
-    {"visitLocalTime", true},
-};
-
-// The destructor has two entries in the table of virtual functions, which come first.
-constexpr std::size_t destructorEntries = 2;
-
-template <typename Function>
-Function entry(ITomlTreeVisitor& visitor, std::size_t index)
-{
-    void* const* table = nullptr;
-    std::memcpy(&table, static_cast<void*>(&visitor), sizeof(table));
-    Function function = nullptr;
-    static_assert(sizeof(function) == sizeof(*table));
-    std::memcpy(&function, table + index, sizeof(function));
-    return function;
-}
-
-void call(ITomlTreeVisitor& visitor, std::size_t index)
-{
-    entry<void (*)(ITomlTreeVisitor*)>(visitor, index)(&visitor);
-}
-
-void call(ITomlTreeVisitor& visitor, std::size_t index, const char* text)
-{
-    entry<void (*)(ITomlTreeVisitor*, const char*)>(visitor, index)(&visitor, text);
-}
 
 void expectCalls(const std::string& text, const Events& events)
 {
@@ -78,16 +31,9 @@ TEST(Visitor, operationsKeepTheirPlacesInTheTable)
         const Operation& operation = operations[index];
         SCOPED_TRACE(operation.name);
         EventRecorder visitor;
-        if (operation.takesText)
-        {
-            call(visitor, destructorEntries + index, "the text");
-            EXPECT_EQ(visitor.events(), Events{operation.name + " the text"});
-        }
-        else
-        {
-            call(visitor, destructorEntries + index);
-            EXPECT_EQ(visitor.events(), Events{operation.name});
-        }
+        callOperation(visitor, index, "the text");
+        EXPECT_EQ(visitor.events(),
+                  Events{operation.name + (operation.takesText ? " the text" : "")});
     }
 }
 

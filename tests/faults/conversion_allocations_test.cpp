@@ -206,15 +206,17 @@ TEST_F(ConversionAllocations, ofTheDateTimeFormsLeaveThemToTheNextUse)
     {
         SCOPED_TRACE(number);
         const Outcome outcome = convert(isRight, number, Failing::once);
-        if (!outcome.hasThrown)
+        // Forms that have been made stay; what fails then is something behind them.
+        if (!outcome.hasThrown || outcome.blocks != 0)
         {
             break;
         }
-        EXPECT_EQ(outcome.blocks, 0);
         ++thrown;
     }
     EXPECT_GT(thrown, 3);
-    EXPECT_TRUE(isRight());
+    const Outcome next = convert(isRight, 0, Failing::once);
+    EXPECT_TRUE(next.isRight);
+    EXPECT_EQ(next.blocks, 0);
 }
 
 TEST_F(ConversionAllocations, failWithAnExceptionWhereTheyFail)

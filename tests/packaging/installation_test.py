@@ -22,7 +22,7 @@ from consumer_build import (
 
 # The files of each component, where LIB stands for the directory of libraries.
 COMPONENTS = {
-    "Runtime": ["LIB/libvorn_parsers.so.MAJOR", "LIB/libvorn_parsers.so.VERSION"],
+    "Runtime": ["LIB/libvorn_parsers.so.SONUMBER", "LIB/libvorn_parsers.so.VERSION"],
     "Development": [
         "LIB/cmake/vorn_parsers/vorn_parsersConfig.cmake",
         "LIB/cmake/vorn_parsers/vorn_parsersConfigVersion.cmake",
@@ -52,7 +52,7 @@ def check_files(options, component, prefix):
     )
     stand_ins = {
         "LIB": options.libdir,
-        "MAJOR": options.version.split(".")[0],
+        "SONUMBER": options.soversion,
         "VERSION": options.version,
         "TYPE": options.build_type.lower(),
     }
@@ -76,8 +76,10 @@ def check_is_relocated(prefix, options):
 def check_package_is_found(prefix, directory, version):
     right = version.rpartition(".")[0]
     major, minor = (int(number) for number in right.split("."))
-    for wanted, fits in ((right, True), (version, True), (f"{major}.{minor + 1}", False),
-                         (f"{major + 1}.0", False)):
+    # As long as the first number is 0, the second one stands for major versions.
+    older = f"{major}.{minor - 1}"
+    for wanted, fits in ((right, True), (version, True), (older, major > 0),
+                         (f"{major}.{minor + 1}", False), (f"{major + 1}.0", False)):
         result = subprocess.run(
             ["cmake", "-G", "Ninja", "-S", SOURCE, "-B", directory / f"find-{wanted}",
              f"-DCMAKE_PREFIX_PATH={prefix}", f"-DWANTED_VERSION={wanted}"],
@@ -136,7 +138,7 @@ def check_installed(options, directory):
 
 def main():
     parser = argparse.ArgumentParser()
-    for name in ("version", "build", "source", "build-type", "libdir", "document", "cmake"):
+    for name in ("version", "soversion", "build", "source", "build-type", "libdir", "document", "cmake"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
     try:

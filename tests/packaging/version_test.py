@@ -56,7 +56,7 @@ def versions(options):
 
 def main():
     parser = argparse.ArgumentParser()
-    for name in ("version", "program", "library", "build", "manual-page", "changelog", "cmake",
+    for name in ("version", "soversion", "program", "library", "build", "manual-page", "changelog", "cmake",
                  "pkg-config", "readelf"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
@@ -70,7 +70,7 @@ def main():
     wrong = {what: version for what, version in named.items() if version != options.version}
     for what, version in wrong.items():
         print(f"{what} has version {version}, the project {options.version}")
-    right_soname = f"libvorn_parsers.so.{options.version.split('.')[0]}"
+    right_soname = f"libvorn_parsers.so.{options.soversion}"
     if soname != right_soname:
         print(f"the SONAME is {soname}, not {right_soname}")
     print(f"version {options.version}, {len(named)} others")

@@ -11,6 +11,7 @@
 
 #include <sys/time.h>
 
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -139,6 +140,93 @@ public:
     virtual void visitLocalTime(const char* text) = 0;
 };
 
+// A visitor whose operations do nothing: derive from it, and override what you need.
+//
+//   class Ports : public TomlTreeVisitor
+//   {
+//       void visitInteger(const char* text) override { add(parseInteger(text)); }
+//   };
+//
+// What you do not override is passed over without a word, a table or a kind of value that
+// you did not think of, too.  StrictTomlTreeVisitor tells you instead.
+class VORN_PARSERS_API TomlTreeVisitor : public ITomlTreeVisitor
+{
+public:
+    void beginDocument() override {}
+    void endDocument() override {}
+    void beginKeyValue() override {}
+    void endKeyValue() override {}
+    void beginTable() override {}
+    void endTable() override {}
+    void beginArrayTable() override {}
+    void endArrayTable() override {}
+    void beginDottedKey() override {}
+    void endDottedKey() override {}
+    void visitBareKey(const char*) override {}
+    void visitQuotedKey(const char*) override {}
+    void beginArray() override {}
+    void endArray() override {}
+    void beginInlineTable() override {}
+    void endInlineTable() override {}
+    void visitBasicString(const char*) override {}
+    void visitMultilineBasicString(const char*) override {}
+    void visitLiteralString(const char*) override {}
+    void visitMultilineLiteralString(const char*) override {}
+    void visitInteger(const char*) override {}
+    void visitFloat(const char*) override {}
+    void visitBoolean(const char*) override {}
+    void visitOffsetDateTime(const char*) override {}
+    void visitLocalDateTime(const char*) override {}
+    void visitLocalDate(const char*) override {}
+    void visitLocalTime(const char*) override {}
+};
+
+// A visitor whose operations refuse: each throws std::logic_error, which says its name,
+// "visitFloat is not overridden".  Derive from it, and override everything that a document
+// may hold, beginDocument and endDocument too; what is left ends the reading.
+//
+// The exception leaves visitTomlTree() like any other of a visitor.
+class VORN_PARSERS_API StrictTomlTreeVisitor : public ITomlTreeVisitor
+{
+public:
+    void beginDocument() override { refuse("beginDocument"); }
+    void endDocument() override { refuse("endDocument"); }
+    void beginKeyValue() override { refuse("beginKeyValue"); }
+    void endKeyValue() override { refuse("endKeyValue"); }
+    void beginTable() override { refuse("beginTable"); }
+    void endTable() override { refuse("endTable"); }
+    void beginArrayTable() override { refuse("beginArrayTable"); }
+    void endArrayTable() override { refuse("endArrayTable"); }
+    void beginDottedKey() override { refuse("beginDottedKey"); }
+    void endDottedKey() override { refuse("endDottedKey"); }
+    void visitBareKey(const char*) override { refuse("visitBareKey"); }
+    void visitQuotedKey(const char*) override { refuse("visitQuotedKey"); }
+    void beginArray() override { refuse("beginArray"); }
+    void endArray() override { refuse("endArray"); }
+    void beginInlineTable() override { refuse("beginInlineTable"); }
+    void endInlineTable() override { refuse("endInlineTable"); }
+    void visitBasicString(const char*) override { refuse("visitBasicString"); }
+    void visitMultilineBasicString(const char*) override { refuse("visitMultilineBasicString"); }
+    void visitLiteralString(const char*) override { refuse("visitLiteralString"); }
+    void visitMultilineLiteralString(const char*) override
+    {
+        refuse("visitMultilineLiteralString");
+    }
+    void visitInteger(const char*) override { refuse("visitInteger"); }
+    void visitFloat(const char*) override { refuse("visitFloat"); }
+    void visitBoolean(const char*) override { refuse("visitBoolean"); }
+    void visitOffsetDateTime(const char*) override { refuse("visitOffsetDateTime"); }
+    void visitLocalDateTime(const char*) override { refuse("visitLocalDateTime"); }
+    void visitLocalDate(const char*) override { refuse("visitLocalDate"); }
+    void visitLocalTime(const char*) override { refuse("visitLocalTime"); }
+
+private:
+    [[noreturn]] static void refuse(const char* operation)
+    {
+        throw std::logic_error(std::string(operation) + " is not overridden");
+    }
+};
+
 // The path of a document's file.  It is a type of its own so that a text and a
 // path cannot be mistaken for each other:
 //
@@ -149,6 +237,7 @@ public:
 class FilePath
 {
 public:
+    // The path is copied.
     explicit FilePath(const char* path) : path_(path) {}
     explicit FilePath(std::string path) : path_(std::move(path)) {}
 
@@ -264,9 +353,10 @@ VORN_PARSERS_API std::string processMultilineString(std::string text);
 //   processMultilineLiteralString("'''\nC:\\temp\\\n'''")   // C:\temp\ and a line feed
 VORN_PARSERS_API std::string processMultilineLiteralString(std::string text);
 
-// The three functions below read through a string stream in the global C++ locale, the
-// classic one unless the program has set another.  Where the global locale has names for
-// true and false, a decimal comma or digit grouping of its own, they apply:
+// The functions parseBoolean(), parseInteger() and parseFloat() read through a string stream
+// in the global C++ locale, the classic one unless the program has set another.  Where the
+// global locale has names for true and false, a decimal comma or digit grouping of its own,
+// they apply:
 //
 //   std::locale::global(std::locale("de_DE.UTF-8"));
 //   parseFloat("3.5")       // 35: the point is German digit grouping

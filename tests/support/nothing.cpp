@@ -1,0 +1,1 @@
+// A source for a target that has only headers.
