@@ -78,7 +78,8 @@ def check_completion(script, tool, directory):
     cases = [([name], {name}) for name in names]
     cases += [([name, ""], files) for name in names]
     cases += [([name, "a"], {"a.toml"}) for name in names]
-    cases += [(["check", "a.toml", "n"], {"notes.txt"}), (["--help", "che"], {"check"})]
+    cases += [(["check", "a.toml", "n"], {"notes.txt"}), (["--help", "che"], {"check"}),
+              (["check", "--color", "a"], {"auto", "always"})]
     for words, expected in cases:
         offered = completions(script, directory, *words)
         if offered != expected:
