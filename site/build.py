@@ -28,6 +28,7 @@ PAGES = [
     "docs/performance.md",
     "docs/growth.md",
     "docs/promises.md",
+    "docs/packaging.md",
     "docs/architecture.md",
     "SECURITY.md",
     "CONTRIBUTING.md",

@@ -15,6 +15,11 @@
 #include <string>
 #include <utility>
 
+// The version of this header; that of the library is version()'s answer.
+#define VORN_PARSERS_VERSION_MAJOR 0
+#define VORN_PARSERS_VERSION_MINOR 1
+#define VORN_PARSERS_VERSION_PATCH 0
+
 #if defined(__GNUC__)
 #define VORN_PARSERS_API __attribute__((visibility("default")))
 #else
@@ -424,6 +429,10 @@ VORN_PARSERS_API double parseFloat(std::string text);
 // digit is taken (the time of such a day is midnight).  The result is what mktime()
 // answers, which is -1 also for a time that time_t cannot hold.
 VORN_PARSERS_API timeval parseDateTime(const std::string& text);
+
+// The version of the library that the program runs with, "0.1.0": it may be newer than the
+// header that the program was compiled with.
+VORN_PARSERS_API const char* version() noexcept;
 
 } // namespace vorn::parsers::toml
 

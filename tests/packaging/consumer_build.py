@@ -1,0 +1,89 @@
+"""Builds and runs the program of consumer/, in ways in which clients do."""
+
+import os
+import pathlib
+import shlex
+import subprocess
+
+SOURCE = pathlib.Path(__file__).with_name("consumer")
+OUTPUT = """\
+31
+accepted
+same
+the visitor threw 1.5
+same
+the visitor threw 2.5
+same
+3
+rejected
+same
+0
+"""
+# What is logged: by the stand-in behind "error vorn_parsers ...: ".
+MESSAGES = ["Failed to visit toml tree", "No such file: /no/such.toml"]
+
+
+class Failure(Exception):
+    """Something is not as it should be."""
+
+
+def run(command, **options):
+    """The output of a command that must succeed."""
+    result = subprocess.run(
+        [str(word) for word in command],
+        stdin=subprocess.DEVNULL,
+        stdout=subprocess.PIPE,
+        stderr=subprocess.STDOUT,
+        text=True,
+        check=False,
+        **options,
+    )
+    if result.returncode != 0:
+        words = " ".join(str(word) for word in command)
+        raise Failure(f"$ {words}\n{result.stdout}ends with status {result.returncode}")
+    return result.stdout
+
+
+def clean_environment(**variables):
+    """The environment without what would help to find libraries."""
+    helpers = ("LD_LIBRARY_PATH", "LD_PRELOAD", "PKG_CONFIG_PATH", "CMAKE_PREFIX_PATH")
+    kept = {name: value for name, value in os.environ.items() if name not in helpers}
+    return {**kept, **variables}
+
+
+def build_with_cmake(build, *options, source=SOURCE, within=()):
+    """The program, by CMake; `within` are words before each command."""
+    run([*within, "cmake", "-G", "Ninja", "-S", source, "-B", build, *options],
+        env=clean_environment())
+    run([*within, "cmake", "--build", build, "--target", "consumer"], env=clean_environment())
+    return f"{build}/consumer"
+
+
+def build_with_pkg_config(program, path=None, source=SOURCE, within=()):
+    """The program, by nothing but the compiler and what pkg-config says."""
+    variables = {"PKG_CONFIG_PATH": str(path)} if path else {}
+    said = run([*within, "pkg-config", "--cflags", "--libs", "vorn_parsers"],
+               env=clean_environment(**variables))
+    run([*within, "g++", "-std=c++17", f"{source}/consumer.cpp", "-o", program,
+         *shlex.split(said)], env=clean_environment())
+    return program
+
+
+def check_run(program, version, mark, within=(), **variables):
+    """Runs the program; the log lines must have `mark` in them."""
+    result = subprocess.run(
+        [*within, program],
+        env=clean_environment(**variables),
+        stdin=subprocess.DEVNULL,
+        capture_output=True,
+        text=True,
+        check=False,
+    )
+    if result.returncode != 0 or result.stdout != f"{version}\n{OUTPUT}":
+        raise Failure(f"{program} ends with status {result.returncode} and prints\n"
+                      f"{result.stdout}{result.stderr}")
+    logged = [line for line in result.stderr.splitlines() if mark in line]
+    wrong = [message for message, line in zip(MESSAGES, logged) if not line.endswith(message)]
+    # The visitor that throws ends the second reading before anything is logged.
+    if wrong or len(logged) != len(MESSAGES):
+        raise Failure(f"{program} logs\n{result.stderr}")

@@ -1,0 +1,152 @@
+"""Installs the components of a build and uses what is installed, as clients do.
+
+Nothing of it leads to the sources or the build: the client is found what it needs by the
+prefix alone, and links vorn_parsers alone.
+"""
+
+import argparse
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+from consumer_build import (
+    SOURCE,
+    Failure,
+    build_with_cmake,
+    build_with_pkg_config,
+    check_run,
+    clean_environment,
+    run,
+)
+
+# The files of each component, where LIB stands for the directory of libraries.
+COMPONENTS = {
+    "Runtime": ["LIB/libvorn_parsers.so.SONUMBER", "LIB/libvorn_parsers.so.VERSION"],
+    "Development": [
+        "LIB/cmake/vorn_parsers/vorn_parsersConfig.cmake",
+        "LIB/cmake/vorn_parsers/vorn_parsersConfigVersion.cmake",
+        "LIB/cmake/vorn_parsers/vorn_parsersTargets-TYPE.cmake",
+        "LIB/cmake/vorn_parsers/vorn_parsersTargets.cmake",
+        "LIB/libvorn_parsers.so",
+        "LIB/pkgconfig/vorn_parsers.pc",
+        "include/vorn/parsers/toml.h",
+    ],
+    "Tool": [
+        "bin/vorn-toml",
+        "share/bash-completion/completions/vorn-toml",
+        "share/man/man1/vorn-toml.1",
+    ],
+    "HostUtils": ["LIB/libvorn_utils.so.0", "LIB/libvorn_utils.so.VERSION"],
+}
+
+
+def install(options, component, prefix):
+    run([options.cmake, "--install", options.build, "--component", component, "--prefix", prefix])
+
+
+def check_files(options, component, prefix):
+    install(options, component, prefix)
+    found = sorted(
+        str(path.relative_to(prefix)) for path in prefix.rglob("*") if not path.is_dir()
+    )
+    stand_ins = {
+        "LIB": options.libdir,
+        "SONUMBER": options.soversion,
+        "VERSION": options.version,
+        "TYPE": options.build_type.lower(),
+    }
+    expected = COMPONENTS[component]
+    for name, value in stand_ins.items():
+        expected = [path.replace(name, value) for path in expected]
+    if found != sorted(expected):
+        raise Failure(f"{component} has {found}, not {sorted(expected)}")
+
+
+def check_is_relocated(prefix, options):
+    """No text that is installed names the sources or the build."""
+    for path in prefix.rglob("*"):
+        if path.suffix in (".cmake", ".pc", ".h"):
+            text = path.read_text(encoding="utf-8")
+            for place in (options.build, options.source):
+                if place in text:
+                    raise Failure(f"{path} names {place}")
+
+
+def check_package_is_found(prefix, directory, version):
+    right = version.rpartition(".")[0]
+    major, minor = (int(number) for number in right.split("."))
+    # As long as the first number is 0, the second one stands for major versions.
+    older = f"{major}.{minor - 1}"
+    for wanted, fits in ((right, True), (version, True), (older, major > 0),
+                         (f"{major}.{minor + 1}", False), (f"{major + 1}.0", False)):
+        result = subprocess.run(
+            ["cmake", "-G", "Ninja", "-S", SOURCE, "-B", directory / f"find-{wanted}",
+             f"-DCMAKE_PREFIX_PATH={prefix}", f"-DWANTED_VERSION={wanted}"],
+            env=clean_environment(), capture_output=True, text=True, check=False,
+        )
+        if (result.returncode == 0) != fits:
+            raise Failure(f"find_package() of {wanted}:\n{result.stdout}{result.stderr}")
+        if fits and f"found vorn_parsers {version}\n" not in result.stdout:
+            raise Failure(f"find_package() of {wanted} finds another one:\n{result.stdout}")
+
+
+def check_pkg_config(prefix, libdir):
+    """The pkg-config file names this prefix and nothing beyond the library."""
+    environment = clean_environment(PKG_CONFIG_PATH=f"{prefix}/{libdir}/pkgconfig")
+    for arguments, expected in (
+        (["--libs"], f"-L{prefix}/{libdir} -lvorn_parsers"),
+        (["--static", "--libs"], f"-L{prefix}/{libdir} -lvorn_parsers"),
+        (["--cflags"], f"-I{prefix}/include"),
+        (["--print-requires", "--print-requires-private"], ""),
+        (["--variable=libdir"], f"{prefix}/{libdir}"),
+        (["--variable=includedir"], f"{prefix}/include"),
+    ):
+        said = run(["pkg-config", *arguments, "vorn_parsers"], env=environment).strip()
+        if said != expected:
+            raise Failure(f"pkg-config {' '.join(arguments)} says {said!r}, not {expected!r}")
+
+
+def check_installed(options, directory):
+    for component in COMPONENTS:
+        check_files(options, component, directory / component)
+
+    prefix = directory / "prefix"
+    for component in COMPONENTS:
+        install(options, component, prefix)
+    check_is_relocated(prefix, options)
+    check_package_is_found(prefix, directory, options.version)
+    check_pkg_config(prefix, options.libdir)
+
+    libraries = prefix / options.libdir
+    mark = "error vorn_parsers "
+    program = build_with_cmake(directory / "by-cmake", f"-DCMAKE_PREFIX_PATH={prefix}")
+    check_run(program, options.version, mark)
+    # What pkg-config says is enough to link; where the library is the loader has to be told.
+    program = build_with_pkg_config(directory / "by-pkg-config", path=libraries / "pkgconfig")
+    check_run(program, options.version, mark, LD_LIBRARY_PATH=str(libraries))
+
+    # All of it at another place: what is installed finds its libraries from there, too.
+    moved = directory / "moved"
+    prefix.rename(moved)
+    said = run([moved / "bin/vorn-toml", "check", options.document], env=clean_environment())
+    if said != f"{options.document}: accepted\n":
+        raise Failure(f"the tool prints {said}")
+    program = build_with_cmake(directory / "moved-by-cmake", f"-DCMAKE_PREFIX_PATH={moved}")
+    check_run(program, options.version, mark)
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    for name in ("version", "soversion", "build", "source", "build-type", "libdir", "document", "cmake"):
+        parser.add_argument(f"--{name}", required=True)
+    options = parser.parse_args()
+    try:
+        with tempfile.TemporaryDirectory() as directory:
+            check_installed(options, pathlib.Path(directory))
+    except Failure as failure:
+        sys.exit(str(failure))
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,72 @@
+"""Builds the packages for this machine and uses them in a root that has nothing else.
+
+In the root there are, beside them, only the packages that they depend on; for building a
+client a compiler, CMake, Ninja and pkg-config come to it.  (Debian's packages are copied from
+this machine, so their own installation is not tested; and nothing for another processor is.)
+"""
+
+import argparse
+import os
+import shutil
+import sys
+import tempfile
+
+from consumer_build import SOURCE, Failure, build_with_cmake, build_with_pkg_config, check_run, run
+from empty_root import EmptyRoot
+from package_files import NAMES, check_all_dependencies, dependencies, packages_in
+
+SKIPPED = 77
+MARK = "error vorn_parsers "
+
+
+def check_tool(root, packages):
+    """The tool, with the packages that it depends on and nothing else."""
+    archives = [packages[name] for name in ("libvorn-parsers0", "libvorn-utils0", "vorn-toml")]
+    root.add(*sorted(set().union(*map(dependencies, archives)) - set(NAMES)))
+    for name in ("vorn-toml", "libvorn-parsers-dev", "libvorn-parsers0"):
+        if not root.refuses(packages[name]):
+            raise Failure(f"{name} can be installed without another of these packages")
+    root.install(*archives)
+    (root.path / "tmp/a.toml").write_text("a = 1\n", encoding="ascii")
+    said = root.run("/usr/bin/vorn-toml", "check", "/tmp/a.toml")
+    if said != "/tmp/a.toml: accepted\n":
+        raise Failure(f"the tool prints {said}")
+
+
+def check_client(root, packages, version):
+    """A client that is built with what the packages have, in both ways, and runs."""
+    # The shell, with which Ninja runs the compiler, is essential: nothing depends on it.
+    root.add("dash", "g++", "cmake", "ninja-build", "pkgconf")
+    root.install(packages["libvorn-parsers-dev"])
+    shutil.copytree(SOURCE, root.path / "tmp/consumer")
+    place = {"source": "/tmp/consumer", "within": root.within}
+    program = build_with_cmake("/tmp/build", **place)
+    check_run(program, version, MARK, root.within)
+    program = build_with_pkg_config("/tmp/by-pkg-config", **place)
+    check_run(program, version, MARK, root.within)
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    for name in ("version", "script", "packages"):
+        parser.add_argument(f"--{name}", required=True)
+    options = parser.parse_args()
+    if os.geteuid() != 0:
+        print("Only root can run programs in another root.")
+        return SKIPPED
+    try:
+        run([options.script, options.packages, "amd64"])
+        packages = packages_in(options.packages, options.version, "amd64")
+        check_all_dependencies(packages)
+        with tempfile.TemporaryDirectory() as directory:
+            root = EmptyRoot(directory)
+            check_tool(root, packages)
+            check_client(root, packages, options.version)
+    except Failure as failure:
+        print(failure)
+        return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
