@@ -69,7 +69,7 @@ vorn_debian_package(Development libvorn-parsers-dev libdevel
 vorn_debian_package(Tool vorn-toml utils
     "event reader for TOML - command-line tool"
     "It prints what libvorn_parsers reports of TOML documents, and tells whether it\naccepts them."
-    "${library_package} (>= ${PROJECT_VERSION})" "libantlr3c-3.4-0" ${runtime} ${utils})
+    "libantlr3c-3.4-0" ${runtime} ${utils})
 
 # Documentation that only Debian's packages have.
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/debian_documentation.cmake)

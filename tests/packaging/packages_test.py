@@ -21,7 +21,7 @@ MARK = "error vorn_parsers "
 
 def check_tool(root, packages):
     """The tool, with the packages that it depends on and nothing else."""
-    archives = [packages[name] for name in ("libvorn-parsers0", "libvorn-utils0", "vorn-toml")]
+    archives = [packages[name] for name in ("libvorn-utils0", "vorn-toml")]
     root.add(*sorted(set().union(*map(dependencies, archives)) - set(NAMES)))
     for name in ("vorn-toml", "libvorn-parsers-dev", "libvorn-parsers0"):
         if not root.refuses(packages[name]):
@@ -37,7 +37,7 @@ def check_client(root, packages, version):
     """A client that is built with what the packages have, in both ways, and runs."""
     # The shell, with which Ninja runs the compiler, is essential: nothing depends on it.
     root.add("dash", "g++", "cmake", "ninja-build", "pkgconf")
-    root.install(packages["libvorn-parsers-dev"])
+    root.install(packages["libvorn-parsers0"], packages["libvorn-parsers-dev"])
     shutil.copytree(SOURCE, root.path / "tmp/consumer")
     place = {"source": "/tmp/consumer", "within": root.within}
     program = build_with_cmake("/tmp/build", **place)
