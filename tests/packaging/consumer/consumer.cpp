@@ -11,37 +11,11 @@ namespace
 {
 
 // Prints integers and refuses floats.
-class Visitor : public ITomlTreeVisitor
+class Visitor : public TomlTreeVisitor
 {
 public:
     void visitInteger(const char* text) override { std::printf("%lld\n", parseInteger(text)); }
     void visitFloat(const char* text) override { throw std::runtime_error(text); }
-
-    void beginDocument() override {}
-    void endDocument() override {}
-    void beginKeyValue() override {}
-    void endKeyValue() override {}
-    void beginTable() override {}
-    void endTable() override {}
-    void beginArrayTable() override {}
-    void endArrayTable() override {}
-    void beginDottedKey() override {}
-    void endDottedKey() override {}
-    void visitBareKey(const char*) override {}
-    void visitQuotedKey(const char*) override {}
-    void beginArray() override {}
-    void endArray() override {}
-    void beginInlineTable() override {}
-    void endInlineTable() override {}
-    void visitBasicString(const char*) override {}
-    void visitMultilineBasicString(const char*) override {}
-    void visitLiteralString(const char*) override {}
-    void visitMultilineLiteralString(const char*) override {}
-    void visitBoolean(const char*) override {}
-    void visitOffsetDateTime(const char*) override {}
-    void visitLocalDateTime(const char*) override {}
-    void visitLocalDate(const char*) override {}
-    void visitLocalTime(const char*) override {}
 };
 
 void read(const std::string& text)
