@@ -106,6 +106,18 @@ void expectDiagnosed(const std::string& text, Tally& tally)
     expectShowable(text, diagnosis);
 }
 
+// Such a number of documents holds every kind of error.
+void expectEveryKind(const Tally& tally)
+{
+    using tool::ErrorKind;
+    EXPECT_EQ(tally.lexicalKinds,
+              (std::set<ErrorKind>{ErrorKind::recognition, ErrorKind::noAlternative,
+                                   ErrorKind::mismatchedSet, ErrorKind::earlyExit}));
+    EXPECT_EQ(tally.syntaxKinds,
+              (std::set<ErrorKind>{ErrorKind::recognition, ErrorKind::noAlternative,
+                                   ErrorKind::unwantedToken, ErrorKind::missingToken}));
+}
+
 } // namespace
 
 TEST(DiagnosisOfGeneratedDocuments, findsErrorsInThoseThatAreRejected)
@@ -126,13 +138,11 @@ TEST(DiagnosisOfGeneratedDocuments, findsErrorsInThoseThatAreRejected)
     }
     EXPECT_GT(tally.accepted, count / 4);
     EXPECT_GT(tally.rejected, count / 4);
-    using tool::ErrorKind;
-    EXPECT_EQ(tally.lexicalKinds,
-              (std::set<ErrorKind>{ErrorKind::recognition, ErrorKind::noAlternative,
-                                   ErrorKind::mismatchedSet, ErrorKind::earlyExit}));
-    EXPECT_EQ(tally.syntaxKinds,
-              (std::set<ErrorKind>{ErrorKind::recognition, ErrorKind::noAlternative,
-                                   ErrorKind::unwantedToken, ErrorKind::missingToken}));
+    // A shortened run does not meet the rare ones.
+    if (VORN_TEST_STEP == 1)
+    {
+        expectEveryKind(tally);
+    }
 }
 
 TEST(DiagnosisOfGeneratedDocuments, isThatOfTheProgram)
