@@ -7,7 +7,6 @@
 
 #include "tests/support/direct_reading.h"
 #include "tests/support/temporary_directory.h"
-#include "tools/ignoring_visitor.h"
 
 namespace bench
 {
@@ -15,9 +14,10 @@ namespace
 {
 
 using vorn::parsers::toml::FilePath;
+using vorn::parsers::toml::TomlTreeVisitor;
 using vorn::parsers::toml::visitTomlTree;
 
-class CopyingVisitor : public tool::IgnoringVisitor
+class CopyingVisitor : public TomlTreeVisitor
 {
 public:
     void visitBareKey(const char* text) override { copy(text); }
@@ -61,7 +61,7 @@ void readDirectly(const Source& source)
 
 Reading libraryReading(const std::string& text)
 {
-    return [&text] { readDirectly<tool::IgnoringVisitor>(text); };
+    return [&text] { readDirectly<TomlTreeVisitor>(text); };
 }
 
 Reading copyingReading(const std::string& text)
@@ -73,12 +73,12 @@ Reading fileReading(const std::string& text)
 {
     const auto directory = std::make_shared<const test::TemporaryDirectory>();
     return [directory, path = FilePath(directory->write("document.toml", text))]
-    { readDirectly<tool::IgnoringVisitor>(path); };
+    { readDirectly<TomlTreeVisitor>(path); };
 }
 
 Reading pipelineReading(const std::string& text)
 {
-    return [&text] { read<tool::IgnoringVisitor>(text); };
+    return [&text] { read<TomlTreeVisitor>(text); };
 }
 
 } // namespace bench

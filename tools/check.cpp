@@ -2,9 +2,10 @@
 
 #include <nlohmann/json.hpp>
 
+#include <vorn/parsers/toml.h>
+
 #include "commands.h"
 #include "each_file.h"
-#include "ignoring_visitor.h"
 #include "json_report.h"
 
 namespace tool
@@ -21,7 +22,7 @@ Status checkFile(const std::string& name, Progress& progress, const Options& opt
     if (text)
     {
         progress.work(text->size());
-        IgnoringVisitor visitor;
+        vorn::parsers::toml::TomlTreeVisitor visitor;
         examination = examine(*text, visitor);
         progress.clear();
     }

@@ -1,9 +1,10 @@
 #include <algorithm>
 #include <cstdio>
 
+#include <vorn/parsers/toml.h>
+
 #include "commands.h"
 #include "each_file.h"
-#include "ignoring_visitor.h"
 #include "printed.h"
 #include "source_lines.h"
 #include "token_words.h"
@@ -85,7 +86,7 @@ Status listTokens(const std::string& name, Progress& progress, const Options& op
         return unreadable;
     }
     progress.work(text->size());
-    IgnoringVisitor visitor;
+    vorn::parsers::toml::TomlTreeVisitor visitor;
     const Examination examination = examine(*text, visitor);
     const Recognition found = findTokens(*text);
     progress.clear();
