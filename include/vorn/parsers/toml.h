@@ -142,10 +142,15 @@ public:
 
 // A visitor whose operations do nothing: derive from it, and override what you need.
 //
-//   class Ports : public TomlTreeVisitor
+//   class Sum : public TomlTreeVisitor
 //   {
-//       void visitInteger(const char* text) override { add(parseInteger(text)); }
+//   public:
+//       long long sum = 0;
+//       void visitInteger(const char* text) override { sum += parseInteger(text); }
 //   };
+//
+//   Sum visitor;
+//   visitTomlTree("a = [1, 2]\nb = 0x10\n", visitor);   // visitor.sum is 19
 //
 // What you do not override is passed over without a word, a table or a kind of value that
 // you did not think of, too.  StrictTomlTreeVisitor tells you instead.
