@@ -63,12 +63,16 @@ TEST_P(ExampleTest, isTheSameWithoutEachByte)
     }
 }
 
+// Each byte has other places: all of them would take most of the time of the tests.
 TEST_P(ExampleTest, isTheSameWithAnotherByte)
 {
     using namespace std::string_view_literals;
+    constexpr std::size_t others = 4;
+    std::size_t first = 0;
     for (const char byte : "\n \"'\\#=,]{\0\xC3"sv)
     {
-        for (std::size_t at = 0; at < text().size() && !HasFatalFailure(); at += step)
+        first = (first + 1) % others;
+        for (std::size_t at = first; at < text().size() && !HasFatalFailure(); at += others * step)
         {
             std::string document = text();
             document[at] = byte;

@@ -28,7 +28,7 @@ namespace
 {
 
 constexpr std::size_t threads = 8;
-constexpr int rounds = 150;
+constexpr int rounds = 60;
 
 thread_local std::string logged;
 

@@ -121,8 +121,13 @@ TEST(Language, makesATextThatFitsARuleAsAWholeOneToken)
     }
     const std::vector<TokenRule> rules = tokenRules();
     std::set<std::string> tried;
+    std::size_t number = 0;
     for (const std::string& text : texts)
     {
+        if (++number % VORN_TEST_STEP != 0)
+        {
+            continue;
+        }
         SCOPED_TRACE(testing::PrintToString(text));
         const std::string rule = ruleOf(text, rules);
         const Tokens tokens = typesAndTexts(lex(text));
@@ -136,5 +141,9 @@ TEST(Language, makesATextThatFitsARuleAsAWholeOneToken)
             EXPECT_TRUE(tokens.empty() || tokens[0].second != text);
         }
     }
-    EXPECT_EQ(tried.size(), rules.size());
+    // A shortened run does not meet the rare ones.
+    if (VORN_TEST_STEP == 1)
+    {
+        EXPECT_EQ(tried.size(), rules.size());
+    }
 }
