@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <cstddef>
 
-#include "cleanup_guard.h"
+#include "pipeline/cleanup_guard.h"
 
 namespace vorn::parsers::toml
 {

@@ -11,20 +11,20 @@
 #include <vorn/parsers/toml.h>
 #include <vorn/utils/file.h>
 
-#include "cleanup_guard.h"
-#include "direct_reader.h"
-#include "document_depth.h"
-#include "error_display.h"
+#include "direct/direct_reader.h"
 #include "file_content.h"
-#include "follow_stack.h"
-#include "held_exception.h"
 #include "log.h"
-#include "memory_need.h"
-#include "node_texts.h"
-#include "runtime_text.h"
-#include "stack_room.h"
+#include "pipeline/cleanup_guard.h"
+#include "pipeline/document_depth.h"
+#include "pipeline/error_display.h"
+#include "pipeline/follow_stack.h"
+#include "pipeline/held_exception.h"
+#include "pipeline/memory_need.h"
+#include "pipeline/node_texts.h"
+#include "pipeline/runtime_text.h"
+#include "pipeline/stack_room.h"
 
-#include "grammar/recognisers.h"
+#include "pipeline/recognisers.h"
 
 namespace vorn::parsers::toml
 {
@@ -38,7 +38,7 @@ constexpr ANTLR3_UINT32 nodeBufferHint = 90000;
 // What the displays of a call's errors share.
 struct Report
 {
-    Text tokens;          // the text of the parser's tokens, the same for every error
+    OwnedText tokens;     // the text of the parser's tokens, the same for every error
     HeldException thrown; // by the logger
 };
 
@@ -58,7 +58,7 @@ void installErrorDisplay(pTomlLexer lexer, Report& report)
             const PrintableCharacter printable(recogniser->state->exception);
             defaultDisplay(recogniser, tokenNames);
         }
-        const Text text = matchedText(static_cast<pANTLR3_LEXER>(recogniser->super));
+        const OwnedText text = matchedText(static_cast<pANTLR3_LEXER>(recogniser->super));
         reportOf(recogniser)
             .thrown.guard([&text]
                           { VORN_LOG_ERROR("Invalid TOML: lexer failure at: %s", orEmpty(text)); });

@@ -18,8 +18,8 @@
 #include <vorn/parsers/toml.h>
 #include <vorn/utils/format.h>
 
-#include "cleanup_guard.h"
 #include "log.h"
+#include "pipeline/cleanup_guard.h"
 
 namespace vorn::parsers::toml
 {

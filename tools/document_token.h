@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "grammar/token_type.h"
+#include "scan/token_type.h"
 
 namespace tool
 {

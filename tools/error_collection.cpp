@@ -1,6 +1,6 @@
 #include "error_collection.h"
 
-#include "error_display.h"
+#include "pipeline/error_display.h"
 
 namespace tool
 {

@@ -2,10 +2,10 @@
 
 #include <optional>
 
-#include "held_exception.h"
+#include "pipeline/held_exception.h"
 #include "recognition.h"
 
-#include "grammar/recognisers.h"
+#include "pipeline/recognisers.h"
 
 namespace tool
 {

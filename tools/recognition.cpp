@@ -5,15 +5,15 @@
 #include <memory>
 #include <new>
 
-#include "document_depth.h"
-#include "document_survey.h"
 #include "error_collection.h"
-#include "follow_stack.h"
-#include "memory_need.h"
-#include "stack_room.h"
+#include "pipeline/document_depth.h"
+#include "pipeline/document_survey.h"
+#include "pipeline/follow_stack.h"
+#include "pipeline/memory_need.h"
+#include "pipeline/stack_room.h"
 #include "statements.h"
 
-#include "grammar/recognisers.h"
+#include "pipeline/recognisers.h"
 
 namespace tool
 {

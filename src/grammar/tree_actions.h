@@ -3,7 +3,7 @@
 
 #include <vorn/parsers/toml.h>
 
-#include "runtime_text.h"
+#include "runtime_string.h"
 
 using TomlVisitor = vorn::parsers::toml::ITomlTreeVisitor;
 using vorn::parsers::toml::characters;

@@ -1,6 +1,6 @@
 #include "comparison.h"
 
-#include "direct_reader.h"
+#include "direct/direct_reader.h"
 #include "escaped.h"
 #include "plain_text.h"
 #include "reference/reference_pipeline.h"

@@ -1,6 +1,6 @@
 #include "pipeline_spy.h"
 
-#include "grammar/recognisers.h"
+#include "pipeline/recognisers.h"
 
 namespace test
 {

@@ -3,7 +3,7 @@
 #include <atomic>
 #include <string>
 
-#include "direct_reader.h"
+#include "direct/direct_reader.h"
 
 namespace test
 {

@@ -1,8 +1,8 @@
 // The direct reader's events as the event recorder has them.
 #pragma once
 
-#include "event.h"
-#include "plain_sink.h"
+#include "direct/event.h"
+#include "direct/plain_sink.h"
 
 #include "support/event_recorder.h"
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "grammar/recognisers.h"
+#include "pipeline/recognisers.h"
 
 namespace test
 {

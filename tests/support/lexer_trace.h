@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string>
 
-#include "grammar/toml_lexer.h"
+#include "grammar/lexer/toml_lexer.h"
 
 namespace test
 {

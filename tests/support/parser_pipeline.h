@@ -6,7 +6,7 @@
 
 #include "support/lexer.h"
 
-#include "grammar/recognisers.h"
+#include "pipeline/recognisers.h"
 
 namespace test
 {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "grammar/scanner.h"
+#include "scan/scanner.h"
 #include "support/guarded_memory.h"
 
 #include "support/lexer.h"

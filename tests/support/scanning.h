@@ -1,7 +1,7 @@
 // What the scanner makes of texts, and the lexer at the same place.
 #pragma once
 
-#include "grammar/token_type.h"
+#include "scan/token_type.h"
 
 #include <cstddef>
 #include <ostream>

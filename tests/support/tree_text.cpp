@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "grammar/recognisers.h"
+#include "pipeline/recognisers.h"
 
 namespace test
 {

@@ -1,0 +1,63 @@
+// What the lexer's rules do with the runtime: look ahead, match, fail.
+//
+// What matches answers whether it did.  When it did not, an exception is pending and the
+// rule must end.
+#pragma once
+
+#include <antlr3.h>
+
+#include "scan/character_class.h"
+#include "scan/token_type.h"
+
+namespace vorn::parsers::toml
+{
+
+// The last character that a set of the grammar can have.
+constexpr ANTLR3_UCHAR lastCharacter = 0xFFFF;
+
+constexpr bool is(ANTLR3_UCHAR c, CharacterClass kind)
+{
+    return c < 0x80 && is(static_cast<char>(c), kind);
+}
+
+constexpr bool isSign(ANTLR3_UCHAR c)
+{
+    return c == '+' || c == '-';
+}
+constexpr bool isExponentMark(ANTLR3_UCHAR c)
+{
+    return c == 'e' || c == 'E';
+}
+
+// The character in the given place, 1 being the input's position.
+ANTLR3_UCHAR peek(pANTLR3_LEXER lexer, ANTLR3_INT32 place = 1);
+
+void consume(pANTLR3_LEXER lexer);
+
+// Whether no exception is pending.
+bool isWell(pANTLR3_LEXER lexer);
+
+bool match(pANTLR3_LEXER lexer, char c);
+bool match(pANTLR3_LEXER lexer, const char* text);
+bool match(pANTLR3_LEXER lexer, CharacterClass kind, int count = 1);
+
+// Matches one character of a set, to which the next one belongs or not.
+bool matchSet(pANTLR3_LEXER lexer, bool belongs);
+
+// Consumes what is there of a class; answers whether there was any.
+bool skip(pANTLR3_LEXER lexer, CharacterClass kind);
+
+// Always false: a loop found nothing where it needs one thing.
+bool failEarly(pANTLR3_LEXER lexer);
+
+// Always false: no alternative of a choice fits.  Choices have the grammar's numbers.
+bool failChoice(pANTLR3_LEXER lexer, ANTLR3_UINT32 decision, ANTLR3_UINT32 state = 0,
+                const char* description = "");
+
+// Always true: a token has been matched.
+bool store(pANTLR3_LEXER lexer, TokenType type);
+
+// The same for a token that the parser does not get.
+bool storeSkipped(pANTLR3_LEXER lexer, TokenType type);
+
+} // namespace vorn::parsers::toml

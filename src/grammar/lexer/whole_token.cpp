@@ -1,0 +1,99 @@
+#include "whole_token.h"
+
+#include <algorithm>
+
+#include "matching.h"
+#include "scan/scanner.h"
+
+namespace vorn::parsers::toml
+{
+namespace
+{
+
+// The runtime's own operations of UTF-8 streams over memory.
+struct StreamOperations
+{
+    decltype(ANTLR3_INT_STREAM::_LA) lookAhead;
+    decltype(ANTLR3_INT_STREAM::consume) consume;
+};
+
+// The runtime keeps them to itself, but sets them up in a stream that it is given.
+StreamOperations findOperations()
+{
+    ANTLR3_INT_STREAM stream = {};
+    ANTLR3_INPUT_STREAM input = {};
+    input.istream = &stream;
+    input.encoding = ANTLR3_ENC_UTF8;
+    antlr3UTF8SetupStream(&input);
+    if (input.strFactory != nullptr)
+    {
+        input.strFactory->close(input.strFactory);
+    }
+    return {stream._LA, stream.consume};
+}
+
+// Whether the stream's characters are just the bytes from nextChar on.  Streams of other
+// encodings, and those whose lookahead was replaced (upper case), are not.
+bool hasBytes(const ANTLR3_INPUT_STREAM& input)
+{
+    static const StreamOperations operations = findOperations();
+    return input.istream->_LA == operations.lookAhead &&
+           input.istream->consume == operations.consume && input.newlineChar == '\n';
+}
+
+// A character that is not ASCII may go on with the token in a malformed form of one that is.
+bool isAscii(char c)
+{
+    return static_cast<signed char>(c) >= 0;
+}
+
+ANTLR3_INT32 countCharacters(const char* begin, const char* end)
+{
+    return static_cast<ANTLR3_INT32>(
+        std::count_if(begin, end, [](char c) { return (c & '\xC0') != '\x80'; }));
+}
+
+// The same as to consume each character.
+void advance(ANTLR3_INPUT_STREAM& input, const char* begin, const char* end)
+{
+    const auto lines = std::count(begin, end, '\n');
+    if (lines != 0)
+    {
+        begin = end;
+        while (begin[-1] != '\n')
+        {
+            --begin;
+        }
+        input.line += static_cast<ANTLR3_UINT32>(lines);
+        input.charPositionInLine = 0;
+        input.currentLine = const_cast<char*>(begin);
+    }
+    input.charPositionInLine += countCharacters(begin, end);
+    input.nextChar = const_cast<char*>(end);
+}
+
+} // namespace
+
+bool takeWholeToken(pANTLR3_LEXER lexer)
+{
+    ANTLR3_INPUT_STREAM& input = *lexer->input;
+    const auto* const begin = static_cast<const char*>(input.nextChar);
+    const char* const end = static_cast<const char*>(input.data) + input.sizeBuf;
+    if (!hasBytes(input) || begin >= end)
+    {
+        return false;
+    }
+    const Token token = scanToken(begin, end);
+    if (token.type == TokenType::none || (token.end != end && !isAscii(*token.end)))
+    {
+        return false;
+    }
+    advance(input, begin, token.end);
+    if (token.type == TokenType::blanks || token.type == TokenType::comment)
+    {
+        return storeSkipped(lexer, token.type);
+    }
+    return store(lexer, token.type);
+}
+
+} // namespace vorn::parsers::toml

@@ -1,0 +1,64 @@
+#include "document_depth.h"
+
+#include <algorithm>
+
+#include "direct/plain_sink.h"
+#include "direct/reader.h"
+#include "direct/scratch.h"
+
+namespace vorn::parsers::toml
+{
+namespace
+{
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+// A sink that counts the levels of nesting.
+class Levels : public PlainSink<Levels>
+{
+public:
+    void event(Event event) noexcept
+    {
+        switch (event)
+        {
+        case Event::beginArray:
+        case Event::beginInlineTable:
+            ++open_;
+            most_ = std::max(most_, open_);
+            break;
+        case Event::endArray:
+        case Event::endInlineTable:
+            --open_;
+            break;
+        default:
+            break;
+        }
+    }
+    void text(Event, std::string_view) noexcept {}
+    void lineEnd(const char*) noexcept {}
+
+    unsigned most() const noexcept { return most_; }
+
+private:
+    unsigned open_ = 0;
+    unsigned most_ = 0;
+};
+
+} // namespace
+
+unsigned documentDepth(std::string_view text)
+{
+    if (text.substr(0, byteOrderMark.size()) == byteOrderMark)
+    {
+        text.remove_prefix(byteOrderMark.size());
+    }
+    // Levels that are never closed count as well.
+    const std::size_t size = 2 * text.size();
+    const Scratch<NestingStack::Word, 64> words(NestingStack::wordsFor(size));
+    NestingStack nesting(words.begin(), words.begin() != nullptr ? size : 0);
+    Levels levels;
+    Reader(text.data(), text.data() + text.size(), nesting, levels).lines();
+    return levels.most();
+}
+
+} // namespace vorn::parsers::toml

@@ -1,0 +1,64 @@
+#include "document_survey.h"
+
+#include "grammar/lexer/input_position.h"
+#include "scan/token_type.h"
+
+namespace vorn::parsers::toml
+{
+namespace
+{
+
+// A recogniser's errors are not reported while this lives.
+class UnreportedErrors
+{
+public:
+    explicit UnreportedErrors(pANTLR3_BASE_RECOGNIZER recogniser)
+        : recogniser_(recogniser), reportError_(recogniser->reportError)
+    {
+        recogniser_->reportError = [](pANTLR3_BASE_RECOGNIZER failed)
+        {
+            failed->state->exception->freeEx(failed->state->exception);
+            failed->state->exception = nullptr;
+        };
+    }
+    UnreportedErrors(const UnreportedErrors&) = delete;
+    UnreportedErrors& operator=(const UnreportedErrors&) = delete;
+    ~UnreportedErrors() { recogniser_->reportError = reportError_; }
+
+private:
+    pANTLR3_BASE_RECOGNIZER recogniser_;
+    decltype(ANTLR3_BASE_RECOGNIZER::reportError) reportError_;
+};
+
+bool opens(ANTLR3_UINT32 type)
+{
+    return type == static_cast<ANTLR3_UINT32>(TokenType::openBracket) ||
+           type == static_cast<ANTLR3_UINT32>(TokenType::openBrace);
+}
+
+} // namespace
+
+DocumentSurvey survey(pANTLR3_LEXER lexer)
+{
+    const ANTLR3_RECOGNIZER_SHARED_STATE& state = *lexer->rec->state;
+    const UnreportedErrors unreported(lexer->rec);
+    const InputPosition start(lexer->input);
+    DocumentSurvey seen;
+    for (;;)
+    {
+        const pANTLR3_COMMON_TOKEN token = state.tokSource->nextToken(state.tokSource);
+        if (token->type == ANTLR3_TOKEN_EOF)
+        {
+            break;
+        }
+        ++seen.tokens;
+        seen.brackets += opens(token->type) ? 1 : 0;
+        // The next token takes the same place.
+        state.tokFactory->reset(state.tokFactory);
+    }
+    start.goBack();
+    lexer->rec->reset(lexer->rec);
+    return seen;
+}
+
+} // namespace vorn::parsers::toml

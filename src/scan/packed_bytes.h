@@ -1,0 +1,45 @@
+// Looks at as many bytes at a time as fit a machine word.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace vorn::parsers::toml
+{
+
+using PackedBytes = std::uintptr_t;
+
+// The same byte in every place.
+constexpr PackedBytes everywhere(unsigned char byte)
+{
+    return ~PackedBytes{0} / 0xFF * byte;
+}
+
+constexpr PackedBytes highBits = everywhere(0x80);
+
+// Whether the first byte in memory is the lowest one of the word.
+constexpr bool littleEndian = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__;
+
+inline PackedBytes loadBytes(const char* at) noexcept
+{
+    PackedBytes word = 0;
+    std::memcpy(&word, at, sizeof(word));
+    return word;
+}
+
+// The number of the lowest byte with a bit set.
+inline std::ptrdiff_t lowestByte(PackedBytes marked) noexcept
+{
+    static_assert(sizeof(PackedBytes) <= sizeof(unsigned long));
+    return __builtin_ctzl(marked) / 8;
+}
+
+// Has the high bit of at least the first byte that equals `c` set, and of none before.
+constexpr PackedBytes bytesEqual(PackedBytes word, char c)
+{
+    const PackedBytes difference = word ^ everywhere(static_cast<unsigned char>(c));
+    return (difference - everywhere(1)) & ~difference;
+}
+
+} // namespace vorn::parsers::toml

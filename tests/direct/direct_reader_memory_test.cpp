@@ -1,0 +1,106 @@
+// The direct reader where memory is gone.  This program's operator new fails as told.
+#include <gtest/gtest.h>
+
+#include "direct/direct_reader.h"
+
+#include <cstdlib>
+#include <new>
+#include <string>
+
+#include "support/driver_log.h"
+#include "support/event_recorder.h"
+#include "support/reading.h"
+
+using namespace test;
+using vorn::parsers::toml::DirectReading;
+using vorn::parsers::toml::readDirectly;
+
+namespace
+{
+
+int untilFailure = 0; // allocations; 0: none fails
+
+// The `number`th allocation fails while this lives.
+class FailingAllocation
+{
+public:
+    explicit FailingAllocation(int number) { untilFailure = number; }
+    FailingAllocation(const FailingAllocation&) = delete;
+    FailingAllocation& operator=(const FailingAllocation&) = delete;
+    ~FailingAllocation() { untilFailure = 0; }
+};
+
+constexpr int allocations = 3;
+
+// Too large for what the reader has on the stack.
+const std::string document = "a = [1, {b = '" + std::string(5000, 'c') + "'}]\n";
+
+} // namespace
+
+// The direct reader's own form; all others are the standard library's.
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    const bool fails = untilFailure > 0 && --untilFailure == 0;
+    return fails ? nullptr : std::malloc(size);
+}
+
+void operator delete[](void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+void* operator new[](std::size_t size)
+{
+    void* const memory = std::malloc(size);
+    if (memory == nullptr)
+    {
+        throw std::bad_alloc();
+    }
+    return memory;
+}
+
+TEST(DirectReaderMemory, thatIsMissingMeansNoCalls)
+{
+    for (int number = 1; number <= allocations; ++number)
+    {
+        SCOPED_TRACE(number);
+        EventRecorder visitor;
+        const FailingAllocation failing(number);
+        EXPECT_EQ(readDirectly(document, visitor), DirectReading::outOfMemory);
+        EXPECT_EQ(visitor.events(), Events());
+    }
+}
+
+TEST(DirectReaderMemory, isAskedForThreeTimes)
+{
+    EventRecorder visitor;
+    const FailingAllocation failing(allocations + 1);
+    EXPECT_EQ(readDirectly(document, visitor), DirectReading::accepted);
+}
+
+TEST(DirectReaderMemory, isNotNeededForASmallDocument)
+{
+    EventRecorder visitor;
+    const FailingAllocation failing(1);
+    EXPECT_EQ(readDirectly("a = [1, {b = 'c'}]\n", visitor), DirectReading::accepted);
+}
+
+// The recognisers, which would need far more, are not asked then.
+TEST(DirectReaderMemory, thatIsMissingIsLogged)
+{
+    for (int number = 1; number <= allocations; ++number)
+    {
+        SCOPED_TRACE(number);
+        const FailingAllocation failing(number);
+        const Reading reading = read(document);
+        EXPECT_FALSE(reading.accepted);
+        EXPECT_EQ(reading.events, Events());
+        expectDriverLog(reading.lines,
+                        {"Failed: input TOML is too large to diagnose (5018 bytes)"});
+    }
+}

@@ -1,0 +1,102 @@
+// The sink that calls the visitor.
+#include <gtest/gtest.h>
+
+#include "direct/visitor_calls.h"
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "support/event_names.h"
+#include "support/event_recorder.h"
+#include "support/guarded_memory.h"
+
+using vorn::parsers::toml::Event;
+using vorn::parsers::toml::VisitorCalls;
+
+namespace
+{
+
+const char* endOf(const std::string& text)
+{
+    return text.data() + text.size();
+}
+
+// What a visitor gets for a document's bytes from `begin` on.
+std::string handedOver(const char* begin, std::size_t length, const char* end)
+{
+    test::EventRecorder visitor;
+    std::vector<char> buffer(VisitorCalls::bytesFor(length));
+    VisitorCalls calls(visitor, buffer.data(), end);
+    calls.text(Event::visitInteger, {begin, length});
+    return visitor.events().at(0).substr(std::strlen("visitInteger "));
+}
+
+} // namespace
+
+TEST(VisitorCalls, callTheOperationOfEachEvent)
+{
+    const std::string document = "some text";
+    for (std::size_t number = 0; number < test::eventNames.size(); ++number)
+    {
+        test::EventRecorder visitor;
+        std::vector<char> buffer(VisitorCalls::bytesFor(4));
+        VisitorCalls calls(visitor, buffer.data(), endOf(document));
+        const auto event = static_cast<Event>(number);
+        if (number < test::firstEventWithText)
+        {
+            calls.event(event);
+            EXPECT_EQ(visitor.events(), test::Events({test::eventNames[number]}));
+        }
+        else
+        {
+            calls.text(event, {document.data() + 5, 4});
+            EXPECT_EQ(visitor.events(), test::Events({test::eventNames[number] + " text"}));
+        }
+    }
+    EXPECT_EQ(test::eventNames.size(), static_cast<std::size_t>(Event::none));
+}
+
+TEST(VisitorCalls, areNotMadeForTheEndOfALine)
+{
+    test::EventRecorder visitor;
+    const std::string document = "a";
+    VisitorCalls(visitor, nullptr, endOf(document)).lineEnd(endOf(document));
+    EXPECT_EQ(visitor.events(), test::Events());
+}
+
+// The text is right before a page that cannot be read, or some bytes before it.
+TEST(VisitorCalls, handTextsOverThatEndAnywhereBeforeTheDocument)
+{
+    std::string bytes;
+    for (int index = 0; index < 300; ++index)
+    {
+        bytes += static_cast<char>('A' + index % 50);
+    }
+    test::GuardedMemory memory(bytes.size());
+    memory.hold(bytes);
+    for (std::size_t length = 0; length <= 260; ++length)
+    {
+        for (std::size_t behind = 0; behind <= 40; ++behind)
+        {
+            const char* const begin = memory.end() - behind - length;
+            ASSERT_EQ(handedOver(begin, length, memory.end()), std::string(begin, length))
+                << length << " bytes, " << behind << " behind them";
+        }
+    }
+}
+
+TEST(VisitorCalls, endEachTextWhereItEndsWhateverCameBefore)
+{
+    const std::string document(1000, 'x');
+    test::EventRecorder visitor;
+    std::vector<char> buffer(VisitorCalls::bytesFor(500));
+    VisitorCalls calls(visitor, buffer.data(), endOf(document));
+    test::Events expected;
+    for (const std::size_t length : {500u, 1u, 0u, 127u, 128u, 31u, 32u, 33u, 499u, 126u, 2u, 500u})
+    {
+        calls.text(Event::visitBareKey, {document.data(), length});
+        expected.push_back("visitBareKey " + std::string(length, 'x'));
+    }
+    EXPECT_EQ(visitor.events(), expected);
+}

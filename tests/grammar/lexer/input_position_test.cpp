@@ -1,0 +1,116 @@
+// Going back in an input whose text lies in the middle of the address space, where
+// addresses, read as signed numbers of 32 bits, turn negative.
+#include <gtest/gtest.h>
+
+#include <sys/mman.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "pipeline/document_survey.h"
+#include "support/lexer.h"
+
+namespace
+{
+
+constexpr std::uintptr_t middle = 0x80000000;
+constexpr std::size_t half = 64 * 1024;
+
+// Memory on both sides of the middle, or nothing.
+class MiddleMemory
+{
+public:
+    MiddleMemory()
+    {
+        void* const wanted = reinterpret_cast<void*>(middle - half);
+        memory_ =
+            mmap(wanted, 2 * half, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+        isThere_ = memory_ == wanted;
+    }
+    MiddleMemory(const MiddleMemory&) = delete;
+    MiddleMemory& operator=(const MiddleMemory&) = delete;
+    ~MiddleMemory() { munmap(memory_, 2 * half); }
+
+    bool isThere() const { return isThere_; }
+
+    // Holds one text at a time, so many bytes of which come before the middle.
+    pANTLR3_UINT8 hold(const std::string& text, std::size_t before)
+    {
+        char* const begin = static_cast<char*>(memory_) + half - before;
+        std::memcpy(begin, text.data(), text.size());
+        return reinterpret_cast<pANTLR3_UINT8>(begin);
+    }
+
+private:
+    void* memory_;
+    bool isThere_ = false;
+};
+
+unsigned steps = 0;
+void (*consumeOne)(pANTLR3_INT_STREAM) = nullptr;
+
+struct Reading
+{
+    std::size_t tokens = 0;
+    std::size_t brackets = 0;
+    std::vector<ANTLR3_UINT32> types;
+    std::size_t length = 0; // from the text's begin to the last token
+};
+
+bool operator==(const Reading& one, const Reading& other)
+{
+    return one.tokens == other.tokens && one.brackets == other.brackets &&
+           one.types == other.types && one.length == other.length;
+}
+
+// A survey of a text, and then its tokens.  The process ends where that takes too long.
+Reading read(pANTLR3_UINT8 text, std::size_t size)
+{
+    const test::InputStream input(
+        antlr3StringStreamNew(text, ANTLR3_ENC_UTF8, static_cast<ANTLR3_UINT32>(size), text));
+    steps = 0;
+    consumeOne = input->istream->consume;
+    input->istream->consume = [](pANTLR3_INT_STREAM stream)
+    {
+        if (++steps > 10000)
+        {
+            std::abort();
+        }
+        consumeOne(stream);
+    };
+    const std::unique_ptr<TomlLexer, test::FreeRecogniser> lexer(TomlLexerNew(input.get()));
+    lexer->pLexer->rec->displayRecognitionError = [](pANTLR3_BASE_RECOGNIZER, pANTLR3_UINT8*) {};
+    const auto seen = vorn::parsers::toml::survey(lexer->pLexer);
+    Reading reading = {seen.tokens, seen.brackets, {}, 0};
+    const pANTLR3_TOKEN_SOURCE source = lexer->pLexer->rec->state->tokSource;
+    for (auto* token = source->nextToken(source); token->type != ANTLR3_TOKEN_EOF;
+         token = source->nextToken(source))
+    {
+        reading.types.push_back(token->type);
+        reading.length =
+            static_cast<std::size_t>(token->start) - reinterpret_cast<std::size_t>(text);
+    }
+    return reading;
+}
+
+} // namespace
+
+TEST(InputPosition, isFoundAgainInTheMiddleOfTheAddressSpace)
+{
+    MiddleMemory memory;
+    if (!memory.isThere())
+    {
+        GTEST_SKIP() << "the middle of the address space is taken";
+    }
+    std::string text = "a = [1970-01-01T00:00:0x, 'y\n, 12_]\n@ b.c = 0x\n\"z\\q\" = infinity\n";
+    const Reading elsewhere = read(reinterpret_cast<pANTLR3_UINT8>(text.data()), text.size());
+    EXPECT_GT(elsewhere.tokens, 10u);
+    EXPECT_EQ(elsewhere.tokens, elsewhere.types.size());
+    for (std::size_t before = 0; before <= text.size(); ++before)
+    {
+        EXPECT_EQ(read(memory.hold(text, before), text.size()), elsewhere) << before;
+    }
+}
