@@ -1,10 +1,8 @@
 #include <fcntl.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <cstring>
 #include <initializer_list>
-#include <limits>
 #include <optional>
 #include <string>
 
@@ -14,15 +12,19 @@
 #include "direct/direct_reader.h"
 #include "file_content.h"
 #include "log.h"
-#include "pipeline/cleanup_guard.h"
+#include "pipeline/buffer_hints.h"
+#include "pipeline/deferred_cancellation.h"
 #include "pipeline/document_depth.h"
 #include "pipeline/error_display.h"
 #include "pipeline/follow_stack.h"
 #include "pipeline/held_exception.h"
+#include "pipeline/input_stream.h"
 #include "pipeline/memory_need.h"
 #include "pipeline/node_texts.h"
+#include "pipeline/owned.h"
+#include "pipeline/refusal.h"
 #include "pipeline/runtime_text.h"
-#include "pipeline/stack_room.h"
+#include "reading.h"
 
 #include "pipeline/recognisers.h"
 
@@ -31,10 +33,6 @@ namespace vorn::parsers::toml
 namespace
 {
 
-// Usual sizes of the runtime's buffers; they grow as needed.
-constexpr ANTLR3_UINT32 tokenBufferHint = 1025;
-constexpr ANTLR3_UINT32 nodeBufferHint = 90000;
-
 // What the displays of a call's errors share.
 struct Report
 {
@@ -42,78 +40,106 @@ struct Report
     HeldException thrown; // by the logger
 };
 
-Report& reportOf(pANTLR3_BASE_RECOGNIZER recogniser) noexcept
+// What is shown and logged of an error, for each kind of recogniser: what is needed around the
+// runtime's own display of it, and the library's line.
+struct LexerError
 {
-    return *static_cast<Report*>(recogniser->state->userp);
-}
+    pANTLR3_BASE_RECOGNIZER recogniser;
 
-void installErrorDisplay(pTomlLexer lexer, Report& report)
-{
-    static const auto defaultDisplay = lexer->pLexer->rec->displayRecognitionError;
-    lexer->pLexer->rec->state->userp = &report;
-    lexer->pLexer->rec->displayRecognitionError =
-        [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
+    bool isShown() const { return true; }
+    PrintableCharacter prepare() const { return PrintableCharacter(recogniser->state->exception); }
+    void operator()(Report&) const
     {
-        {
-            const PrintableCharacter printable(recogniser->state->exception);
-            defaultDisplay(recogniser, tokenNames);
-        }
         const OwnedText text = matchedText(static_cast<pANTLR3_LEXER>(recogniser->super));
-        reportOf(recogniser)
-            .thrown.guard([&text]
-                          { VORN_LOG_ERROR("Invalid TOML: lexer failure at: %s", orEmpty(text)); });
-        forgetEarlierErrors(recogniser);
-    };
-}
+        VORN_LOG_ERROR("Invalid TOML: lexer failure at: %s", orEmpty(text));
+    }
+};
 
-void installErrorDisplay(pTomlParser parser, Report& report)
+struct ParserError
 {
-    static const auto defaultDisplay = parser->pParser->rec->displayRecognitionError;
-    parser->pParser->rec->state->userp = &report;
-    parser->pParser->rec->displayRecognitionError =
-        [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
+    pANTLR3_BASE_RECOGNIZER recogniser;
+
+    pANTLR3_PARSER parser() const { return static_cast<pANTLR3_PARSER>(recogniser->super); }
+    // What a parser reports that has been ended for want of stack is no error of the document.
+    bool isShown() const { return FollowStack::of(recogniser).levelsWithoutRoom() == 0; }
+    TemporaryStrings prepare() const { return TemporaryStrings(prepareDisplay(parser())); }
+    void operator()(Report& report) const
     {
-        if (FollowStack::of(recogniser).levelsWithoutRoom() > 0)
+        if (report.tokens == nullptr)
+        {
+            report.tokens = textOf(parser()->getTokenStream(parser()));
+        }
+        VORN_LOG_ERROR("Invalid TOML: parser failure at: %s", orEmpty(report.tokens));
+    }
+};
+
+struct TreeError
+{
+    pANTLR3_BASE_RECOGNIZER recogniser;
+
+    bool isShown() const { return true; }
+    TemporaryStrings prepare() const
+    {
+        return TemporaryStrings(
+            prepareDisplay(static_cast<pANTLR3_TREE_PARSER>(recogniser->super)));
+    }
+    void operator()(Report&) const { VORN_LOG_ERROR("Invalid TOML: tree parser failure"); }
+};
+
+// Has a recogniser show and log its errors.
+template <typename Error>
+void installErrorDisplay(pANTLR3_BASE_RECOGNIZER recogniser, Report& report)
+{
+    static const auto runtimeDisplay = recogniser->displayRecognitionError;
+    recogniser->state->userp = &report;
+    recogniser->displayRecognitionError =
+        [](pANTLR3_BASE_RECOGNIZER failed, pANTLR3_UINT8* tokenNames)
+    {
+        const Error error = {failed};
+        if (!error.isShown())
         {
             return;
         }
-        auto* const failed = static_cast<pANTLR3_PARSER>(recogniser->super);
+        const DeferredCancellation deferred;
         {
-            const TemporaryStrings temporary(prepareDisplay(failed));
-            defaultDisplay(recogniser, tokenNames);
+            const auto prepared = error.prepare();
+            runtimeDisplay(failed, tokenNames);
         }
-        auto& [tokens, thrown] = reportOf(recogniser);
-        if (tokens == nullptr)
-        {
-            tokens = textOf(failed->getTokenStream(failed));
-        }
-        thrown.guard([text = orEmpty(tokens)]
-                     { VORN_LOG_ERROR("Invalid TOML: parser failure at: %s", text); });
-        forgetEarlierErrors(recogniser);
+        Report& shared = *static_cast<Report*>(failed->state->userp);
+        shared.thrown.guard([&] { error(shared); });
+        forgetEarlierErrors(failed);
     };
 }
 
-void installErrorDisplay(pTomlTree tree, Report& report)
+// Owns what the runtime has made.  Where it could not be made a line says so, which comes from
+// the place of the call.
+template <typename Object>
+[[gnu::format(printf, 2, 0)]] Owned<Object> owned(Object* made, const char* failure,
+                                                  const char* function = __builtin_FUNCTION(),
+                                                  int line = __builtin_LINE())
 {
-    static const auto defaultDisplay = tree->pTreeParser->rec->displayRecognitionError;
-    tree->pTreeParser->rec->state->userp = &report;
-    tree->pTreeParser->rec->displayRecognitionError =
-        [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
+    if (made == nullptr)
     {
-        {
-            const TemporaryStrings temporary(
-                prepareDisplay(static_cast<pANTLR3_TREE_PARSER>(recogniser->super)));
-            defaultDisplay(recogniser, tokenNames);
-        }
-        reportOf(recogniser)
-            .thrown.guard([] { VORN_LOG_ERROR("Invalid TOML: tree parser failure"); });
-        forgetEarlierErrors(recogniser);
-    };
+        VORN_LOG_ERROR_AT(function, line, failure);
+    }
+    return Owned<Object>(made);
 }
 
-std::string_view textOf(const ANTLR3_INPUT_STREAM* input)
+// Logs why a document is not read, from the place of the call; always false.
+bool refuse(const Refusal& refusal, std::size_t size, const char* function = __builtin_FUNCTION(),
+            int line = __builtin_LINE())
 {
-    return {static_cast<const char*>(input->data), input->sizeBuf};
+    if (refusal.reason == Refusal::Reason::tooDeep)
+    {
+        VORN_LOG_ERROR_AT(function, line, "Failed: input TOML is nested too deeply (%u levels)",
+                          refusal.levels);
+    }
+    else
+    {
+        VORN_LOG_ERROR_AT(function, line, "Failed: input TOML is too large to diagnose (%zu bytes)",
+                          size);
+    }
+    return false;
 }
 
 int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers)
@@ -126,76 +152,65 @@ int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers
     return static_cast<int>(count);
 }
 
-// The pipeline: lexer, token stream, parser, node stream, tree parser.  Each object
-// is freed by the guard that follows it, the last one first.
-// NOLINTNEXTLINE(readability-function-size): it has a stage behind the other.
-bool visitTomlTree(ANTLR3_INPUT_STREAM* input, ITomlTreeVisitor& visitor)
+// The pipeline over `text`, of which `input` is the stream: lexer, token stream, parser, node
+// stream, tree parser.  They are freed in the reverse order.
+// NOLINTNEXTLINE(readability-function-size): one stage follows the other.
+bool visitTomlTree(ANTLR3_INPUT_STREAM* input, const std::string& text, ITomlTreeVisitor& visitor,
+                   Refusal& refusal)
 {
-    const pTomlLexer lexer = TomlLexerNew(input);
+    const auto lexer = owned(TomlLexerNew(input), "Failed to create toml lexer");
     if (lexer == nullptr)
     {
-        VORN_LOG_ERROR("Failed to create toml lexer");
         return false;
     }
-    const CleanupGuard lexerGuard([lexer] { lexer->free(lexer); });
     Report report;
-    installErrorDisplay(lexer, report);
-    const std::size_t size = textOf(input).size();
-    if (!isMemoryLeft(memoryForReading(size, survey(lexer->pLexer))))
+    installErrorDisplay<LexerError>(lexer->pLexer->rec, report);
+    if (!isMemoryLeft(memoryForReading(text.size(), survey(lexer->pLexer))))
     {
-        VORN_LOG_ERROR("Failed: input TOML is too large to diagnose (%zu bytes)", size);
-        return false;
+        refusal.reason = Refusal::Reason::tooLarge;
+        return refuse(refusal, text.size());
     }
 
-    const pANTLR3_COMMON_TOKEN_STREAM tokens =
-        antlr3CommonTokenStreamSourceNew(tokenBufferHint, lexer->pLexer->rec->state->tokSource);
+    const auto tokens = owned(
+        antlr3CommonTokenStreamSourceNew(tokenBufferHint, lexer->pLexer->rec->state->tokSource),
+        "Failed to create toml token stream");
     if (tokens == nullptr)
     {
-        VORN_LOG_ERROR("Failed to create toml token stream");
         return false;
     }
-    const CleanupGuard tokensGuard([tokens] { tokens->free(tokens); });
-
-    const pTomlParser parser = TomlParserNew(tokens);
+    const auto parser = owned(TomlParserNew(tokens.get()), "Failed to create toml parser");
     if (parser == nullptr)
     {
-        VORN_LOG_ERROR("Failed to create toml parser");
         return false;
     }
-    const CleanupGuard parserGuard([parser] { parser->free(parser); });
-    installErrorDisplay(parser, report);
+    installErrorDisplay<ParserError>(parser->pParser->rec, report);
     const FollowStack parserFollows(parser->pParser);
 
     // Errors do not stop the walk: the visitor gets what the parser could make out.
-    const pANTLR3_BASE_TREE document = parser->document(parser).tree;
+    const pANTLR3_BASE_TREE document = parser->document(parser.get()).tree;
     report.thrown.pass();
     if (const unsigned levels = parserFollows.levelsWithoutRoom(); levels > 0)
     {
-        const unsigned most = std::max(levels, documentDepth(textOf(input)));
-        VORN_LOG_ERROR("Failed: input TOML is nested too deeply (%u levels)", most);
-        return false;
+        refusal = {Refusal::Reason::tooDeep, std::max(levels, documentDepth(text))};
+        return refuse(refusal, text.size());
     }
-    const pANTLR3_COMMON_TREE_NODE_STREAM nodes =
-        antlr3CommonTreeNodeStreamNewTree(document, nodeBufferHint);
+
+    const auto nodes = owned(antlr3CommonTreeNodeStreamNewTree(document, nodeBufferHint),
+                             "Failed to create toml node stream");
     if (nodes == nullptr)
     {
-        VORN_LOG_ERROR("Failed to create toml node stream");
         return false;
     }
-    const CleanupGuard nodesGuard([nodes] { nodes->free(nodes); });
-    const NodeTexts texts(nodes);
-
-    const pTomlTree tree = TomlTreeNew(nodes);
+    const NodeTexts texts(nodes.get());
+    const auto tree = owned(TomlTreeNew(nodes.get()), "Failed to create toml tree");
     if (tree == nullptr)
     {
-        VORN_LOG_ERROR("Failed to create toml tree");
         return false;
     }
-    const CleanupGuard treeGuard([tree] { tree->free(tree); });
-    installErrorDisplay(tree, report);
+    installErrorDisplay<TreeError>(tree->pTreeParser->rec, report);
     const FollowStack treeFollows(tree->pTreeParser->rec);
 
-    const bool isVisited = tree->document(tree, visitor);
+    const bool isVisited = tree->document(tree.get(), visitor);
     report.thrown.pass();
     if (!isVisited)
     {
@@ -210,29 +225,6 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, ITomlTreeVisitor& visitor)
         return false;
     }
     return true;
-}
-
-// The runtime takes its input and names as mutable bytes, but only reads them.
-pANTLR3_UINT8 runtimeBytes(const char* text)
-{
-    return reinterpret_cast<pANTLR3_UINT8>(const_cast<char*>(text));
-}
-
-// Whether the runtime can count the text's bytes, which it does in 32 bits.
-bool isStreamable(const std::string& text)
-{
-    return std::uint64_t{text.size()} <= std::numeric_limits<ANTLR3_UINT32>::max();
-}
-
-// A stream over the bytes of `text`, not a copy; null if it cannot be made.
-pANTLR3_INPUT_STREAM openStream(const std::string& text)
-{
-    if (!isStreamable(text))
-    {
-        return nullptr;
-    }
-    return antlr3StringStreamNew(runtimeBytes(text.data()), ANTLR3_ENC_UTF8,
-                                 static_cast<ANTLR3_UINT32>(text.size()), runtimeBytes("toml"));
 }
 
 // The path's characters.  Clients may come with a path type of their own making that
@@ -251,34 +243,32 @@ ITomlTreeVisitor::~ITomlTreeVisitor() = default;
 
 bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor)
 {
-    // Nothing has been called when a document is refused: then the recognisers read it
-    // from its start and say what is wrong with it, if they can.
-    if (isStreamable(text))
+    Refusal refusal;
+    return visitTomlTree(text, visitor, refusal);
+}
+
+bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor, Refusal& refusal)
+{
+    const bool canBeStreamed = isStreamable(text);
+    if (canBeStreamed)
     {
         const DirectReading reading = readDirectly(text, visitor);
         if (reading == DirectReading::accepted)
         {
             return true;
         }
-        if (reading == DirectReading::outOfMemory || !isMemoryLeft(memoryForSurvey(text.size())))
+        // Otherwise nothing has been called: the recognisers read the document from its start
+        // and say what is wrong with it, if they can.
+        refusal = reading == DirectReading::outOfMemory ? Refusal{Refusal::Reason::tooLarge}
+                                                        : refusalOf(text);
+        if (refusal)
         {
-            VORN_LOG_ERROR("Failed: input TOML is too large to diagnose (%zu bytes)", text.size());
-            return false;
-        }
-        if (const unsigned levels = documentDepth(text); !mayHaveRoomForLevels(levels))
-        {
-            VORN_LOG_ERROR("Failed: input TOML is nested too deeply (%u levels)", levels);
-            return false;
+            return refuse(refusal, text.size());
         }
     }
-    const pANTLR3_INPUT_STREAM input = openStream(text);
-    if (input == nullptr)
-    {
-        VORN_LOG_ERROR("Failed to create toml string stream");
-        return false;
-    }
-    const CleanupGuard inputGuard([input] { input->close(input); });
-    return visitTomlTree(input, visitor);
+    const auto input =
+        owned(canBeStreamed ? openStream(text) : nullptr, "Failed to create toml string stream");
+    return input != nullptr && visitTomlTree(input.get(), text, visitor, refusal);
 }
 
 bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visitor)

@@ -3,6 +3,7 @@
 #include <new>
 
 #include "log.h"
+#include "reading.h"
 #include "silent_error_stream.h"
 
 namespace tool
@@ -20,8 +21,9 @@ Verdict ask(const std::string& text, vorn::parsers::toml::ITomlTreeVisitor& visi
 {
     const HeldLog log;
     const SilentErrorStream silent;
-    const bool isAccepted = vorn::parsers::toml::visitTomlTree(text, visitor);
-    return {isAccepted, log.refusal()};
+    vorn::parsers::toml::Refusal refusal;
+    const bool isAccepted = vorn::parsers::toml::visitTomlTree(text, visitor, refusal);
+    return {isAccepted, refusal.reason};
 }
 
 Diagnosis diagnosisOf(const std::string& text, Refusal refusal)

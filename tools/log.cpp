@@ -6,7 +6,6 @@
 #include <cstdarg>
 #include <cstdio>
 #include <string>
-#include <string_view>
 
 #include "printed.h"
 
@@ -16,12 +15,7 @@ namespace
 {
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): loggers have no context.
-HeldLog* holder = nullptr;
-
-bool beginsWith(std::string_view text, std::string_view begin)
-{
-    return text.substr(0, begin.size()) == begin;
-}
+bool isHeld = false;
 
 std::string formatted(const char* format, va_list arguments)
 {
@@ -38,24 +32,12 @@ std::string formatted(const char* format, va_list arguments)
 
 HeldLog::HeldLog()
 {
-    holder = this;
+    isHeld = true;
 }
 
 HeldLog::~HeldLog()
 {
-    holder = nullptr;
-}
-
-void HeldLog::take(const char* format)
-{
-    if (beginsWith(format, "Failed: input TOML is nested too deeply"))
-    {
-        refusal_ = Refusal::tooDeep;
-    }
-    else if (beginsWith(format, "Failed: input TOML is too large"))
-    {
-        refusal_ = Refusal::tooLarge;
-    }
+    isHeld = false;
 }
 
 } // namespace tool
@@ -66,9 +48,8 @@ void HeldLog::take(const char* format)
 void logInternal(const char* module, const char* sourceFile, const char* function, int line,
                  int level, int, int, const char* format, ...)
 {
-    if (tool::holder != nullptr)
+    if (tool::isHeld)
     {
-        tool::holder->take(format);
         return;
     }
     va_list arguments;

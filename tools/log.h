@@ -1,8 +1,6 @@
 // The library's log lines in the tool.
 #pragma once
 
-#include "recognition.h"
-
 namespace tool
 {
 
@@ -14,14 +12,6 @@ public:
     HeldLog(const HeldLog&) = delete;
     HeldLog& operator=(const HeldLog&) = delete;
     ~HeldLog();
-
-    // Whether one of the lines said that a document is not looked at.
-    Refusal refusal() const { return refusal_; }
-
-    void take(const char* format);
-
-private:
-    Refusal refusal_ = Refusal::none;
 };
 
 } // namespace tool

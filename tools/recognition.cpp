@@ -1,16 +1,14 @@
 #include "recognition.h"
 
-#include <cstdint>
-#include <limits>
-#include <memory>
 #include <new>
 
 #include "error_collection.h"
-#include "pipeline/document_depth.h"
+#include "pipeline/buffer_hints.h"
 #include "pipeline/document_survey.h"
 #include "pipeline/follow_stack.h"
+#include "pipeline/input_stream.h"
 #include "pipeline/memory_need.h"
-#include "pipeline/stack_room.h"
+#include "pipeline/owned.h"
 #include "statements.h"
 
 #include "pipeline/recognisers.h"
@@ -22,23 +20,10 @@ namespace
 
 namespace toml = vorn::parsers::toml;
 
-constexpr ANTLR3_UINT32 tokenBufferHint = 1025;
-
 // What is kept here for a token, in vectors that grow by copying.
 constexpr std::size_t needOfToken = 3 * (sizeof(DocumentToken) + 2 * sizeof(std::size_t));
 
-struct Free
-{
-    template <typename Object>
-    void operator()(Object* object) const
-    {
-        object->free(object);
-    }
-    void operator()(pANTLR3_INPUT_STREAM input) const { input->close(input); }
-};
-
-template <typename Object>
-using Owned = std::unique_ptr<Object, Free>;
+using toml::Owned;
 
 // What the runtime has made; it says by null that there is no memory.
 template <typename Object>
@@ -57,19 +42,11 @@ DocumentToken documentToken(const ANTLR3_COMMON_TOKEN& token, const Collection& 
             collection.offset(token.stop) + 1};
 }
 
-// The runtime takes its input as mutable bytes, but only reads them.
-pANTLR3_UINT8 runtimeBytes(const char* text)
-{
-    return reinterpret_cast<pANTLR3_UINT8>(const_cast<char*>(text));
-}
-
 // The lexer of a document, whose errors are collected.
 struct Lexing
 {
     Lexing(const std::string& text, Recognition& found)
-        : input(owned(antlr3StringStreamNew(runtimeBytes(text.data()), ANTLR3_ENC_UTF8,
-                                            static_cast<ANTLR3_UINT32>(text.size()),
-                                            runtimeBytes("toml")))),
+        : input(owned(toml::openStream(text))),
           lexer(owned(TomlLexerNew(input.get()))), collection{found, *input, {}, {}}
     {
         collectLexicalErrors(lexer->pLexer->rec, collection);
@@ -84,21 +61,6 @@ struct Lexing
     const Owned<TomlLexer> lexer;
     Collection collection;
 };
-
-bool isCountable(const std::string& text)
-{
-    return std::uint64_t{text.size()} <= std::numeric_limits<ANTLR3_UINT32>::max();
-}
-
-// What the library asks before it begins.
-Refusal refusalOf(const std::string& text)
-{
-    if (!isCountable(text) || !toml::isMemoryLeft(toml::memoryForSurvey(text.size())))
-    {
-        return Refusal::tooLarge;
-    }
-    return toml::mayHaveRoomForLevels(toml::documentDepth(text)) ? Refusal::none : Refusal::tooDeep;
-}
 
 bool hasMemoryFor(const std::string& text, pANTLR3_LEXER lexer)
 {
@@ -145,7 +107,7 @@ void parse(TomlParser& parser, ANTLR3_COMMON_TOKEN_STREAM& stream, Collection& c
 Recognition findTokens(const std::string& text)
 {
     Recognition found;
-    if (!isCountable(text) || !toml::isMemoryLeft(toml::memoryForSurvey(text.size())))
+    if (!toml::isStreamable(text) || !toml::isMemoryLeft(toml::memoryForSurvey(text.size())))
     {
         found.refusal = Refusal::tooLarge;
         return found;
@@ -170,7 +132,7 @@ Recognition findTokens(const std::string& text)
 Recognition recognise(const std::string& text)
 {
     Recognition found;
-    found.refusal = refusalOf(text);
+    found.refusal = toml::isStreamable(text) ? toml::refusalOf(text).reason : Refusal::tooLarge;
     if (found.refusal != Refusal::none)
     {
         return found;
@@ -182,7 +144,7 @@ Recognition recognise(const std::string& text)
         return found;
     }
     const auto tokens = owned(antlr3CommonTokenStreamSourceNew(
-        tokenBufferHint, lexing.lexer->pLexer->rec->state->tokSource));
+        toml::tokenBufferHint, lexing.lexer->pLexer->rec->state->tokSource));
     const auto parser = owned(TomlParserNew(tokens.get()));
     collectSyntaxErrors(parser->pParser->rec, lexing.collection);
     const toml::FollowStack follows(parser->pParser);

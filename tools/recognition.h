@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "document_token.h"
+#include "pipeline/refusal.h"
 
 namespace tool
 {
@@ -40,13 +41,8 @@ struct SyntaxError
     std::size_t rules; // how many enclose the one that failed
 };
 
-// Why a document is not looked at, or not to its end.
-enum class Refusal
-{
-    none,
-    tooDeep,
-    tooLarge,
-};
+// Why a document is not read, or not to its end.
+using Refusal = vorn::parsers::toml::Refusal::Reason;
 
 struct Recognition
 {

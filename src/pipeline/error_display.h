@@ -7,17 +7,19 @@
 namespace vorn::parsers::toml
 {
 
-// The runtime's default lexer display passes the offending character to isprint(),
-// whose domain ends at 255, and prints no more than its low byte.
+// The runtime's default lexer display passes the offending character to isprint(), whose
+// domain ends at 255, and prints no more than its low byte, which may be that of a printable
+// character.  In place of a character beyond that it gets the first byte of the character's
+// UTF-8 sequence, which it prints as a number.
 class PrintableCharacter
 {
 public:
     explicit PrintableCharacter(pANTLR3_EXCEPTION exception)
         : exception_(exception), character_(exception->c)
     {
-        if (character_ != ANTLR3_CHARSTREAM_EOF)
+        if (character_ != ANTLR3_CHARSTREAM_EOF && character_ > 0xFF)
         {
-            exception_->c &= 0xFF;
+            exception_->c = leadByte(character_);
         }
     }
     PrintableCharacter(const PrintableCharacter&) = delete;
@@ -25,8 +27,21 @@ public:
     ~PrintableCharacter() { exception_->c = character_; }
 
 private:
+    using Character = decltype(ANTLR3_EXCEPTION::c);
+
+    static Character leadByte(Character c) noexcept
+    {
+        // A sequence of so many bytes has five bits for each, and one more.
+        unsigned bytes = 2;
+        while (bytes < 6 && c >> (5 * bytes + 1) != 0)
+        {
+            ++bytes;
+        }
+        return (0xFF00U >> bytes | c >> 6 * (bytes - 1)) & 0xFF;
+    }
+
     pANTLR3_EXCEPTION exception_;
-    decltype(ANTLR3_EXCEPTION::c) character_;
+    Character character_;
 };
 
 // Frees the strings that a factory makes while this lives.

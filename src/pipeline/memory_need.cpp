@@ -5,6 +5,9 @@
 
 #include <limits>
 
+#include "buffer_hints.h"
+#include "stack_room.h"
+
 namespace vorn::parsers::toml
 {
 namespace
@@ -15,7 +18,7 @@ constexpr std::size_t mebibyte = std::size_t{1024} * 1024;
 // The runtime's objects before any token: the node stream's buffer and the first pools of
 // tokens, trees and vectors, of which it makes more than one each.
 constexpr std::size_t fixedNeed =
-    90000 * sizeof(ANTLR3_VECTOR_ELEMENT) +
+    nodeBufferHint * sizeof(ANTLR3_VECTOR_ELEMENT) +
     ANTLR3_FACTORY_POOL_SIZE * (5 * sizeof(ANTLR3_COMMON_TOKEN) + 3 * sizeof(ANTLR3_COMMON_TREE)) +
     ANTLR3_FACTORY_VPOOL_SIZE * 4 * sizeof(ANTLR3_VECTOR) + mebibyte;
 
@@ -26,16 +29,13 @@ constexpr std::size_t needOfToken = 2 * sizeof(ANTLR3_COMMON_TOKEN) +
                                     3 * sizeof(ANTLR3_COMMON_TREE) + 2 * sizeof(ANTLR3_VECTOR) +
                                     12 * sizeof(ANTLR3_VECTOR_ELEMENT);
 
-// A main thread's stack grows by this for an array or an inline table.
-constexpr std::size_t stackOfBracket = 112 * sizeof(void*);
-
 // Copies of the document, or parts of it, that an error makes: in the runtime's display,
 // in the log line, in the logger.
 constexpr std::size_t copies = 8;
 
 // In a small address space what is free need not be in one piece.
-constexpr std::size_t mostInOnePiece = sizeof(void*) > 4 ? std::numeric_limits<std::size_t>::max()
-                                                         : 32 * mebibyte;
+constexpr std::size_t maxInOnePiece = sizeof(void*) > 4 ? std::numeric_limits<std::size_t>::max()
+                                                        : 32 * mebibyte;
 
 // A mapping that is never touched.
 class Reservation
@@ -88,17 +88,17 @@ std::size_t memoryForSurvey(std::size_t documentSize) noexcept
 std::size_t memoryForReading(std::size_t documentSize, const DocumentSurvey& seen) noexcept
 {
     return sum(sum(fixedNeed, product(documentSize, copies)),
-               sum(product(seen.tokens, needOfToken), product(seen.brackets, stackOfBracket)));
+               sum(product(seen.tokens, needOfToken), product(seen.brackets, maxStackOfLevel)));
 }
 
 // NOLINTNEXTLINE(misc-no-recursion): a piece is a large part of the address space.
 bool isMemoryLeft(std::size_t size) noexcept
 {
-    if (size > mostInOnePiece)
+    if (size > maxInOnePiece)
     {
         // All pieces are held until the last one has been had.
-        const Reservation piece(mostInOnePiece);
-        return piece.succeeded() && isMemoryLeft(size - mostInOnePiece);
+        const Reservation piece(maxInOnePiece);
+        return piece.succeeded() && isMemoryLeft(size - maxInOnePiece);
     }
     return size == 0 || Reservation(size).succeeded();
 }

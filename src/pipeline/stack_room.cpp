@@ -1,6 +1,10 @@
 #include "stack_room.h"
 
 #include <pthread.h>
+#include <sys/auxv.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -15,14 +19,35 @@ constexpr std::size_t unknownRoom = std::size_t{32} * 1024;
 
 // A main thread's stack grows as it is used.  Where it has no limit, other mappings end
 // it; this much is free of them.
-constexpr std::size_t mostRoom = std::size_t{64} * 1024 * 1024;
+constexpr std::size_t maxRoom = std::size_t{64} * 1024 * 1024;
 
-// What the parser has on the stack for an array or an inline table: some 290 bytes on
-// 32-bit ARM, 540 on x86-64, with a compiler that optimises for size, and more otherwise.
-constexpr std::size_t leastStackOfLevel = 64 * sizeof(void*);
-
-// As deep as no stack is too small for.
+// A depth that fits any stack.
 constexpr unsigned safeLevels = 10;
+
+std::uintptr_t here() noexcept
+{
+    return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+}
+
+bool isMainThread() noexcept
+{
+    return syscall(SYS_gettid) == getpid();
+}
+
+// Where /proc is not mounted the C library does not know the main thread's stack.  It ends
+// below the program's name, and may be as large as the limit of the process.
+std::size_t roomOfMainThread() noexcept
+{
+    const auto end = static_cast<std::uintptr_t>(getauxval(AT_EXECFN));
+    rlimit limit = {};
+    if (end < here() || getrlimit(RLIMIT_STACK, &limit) != 0)
+    {
+        return unknownRoom;
+    }
+    const auto size = static_cast<std::size_t>(std::min<rlim_t>(limit.rlim_cur, maxRoom));
+    const std::size_t used = end - here();
+    return used < size ? size - used : unknownRoom;
+}
 
 } // namespace
 
@@ -31,25 +56,24 @@ std::size_t stackRoom() noexcept
     pthread_attr_t attributes;
     if (pthread_getattr_np(pthread_self(), &attributes) != 0)
     {
-        return unknownRoom;
+        return isMainThread() ? roomOfMainThread() : unknownRoom;
     }
-    void* lowest = nullptr;
+    void* start = nullptr;
     std::size_t size = 0;
-    const bool known = pthread_attr_getstack(&attributes, &lowest, &size) == 0;
+    const bool known = pthread_attr_getstack(&attributes, &start, &size) == 0;
     pthread_attr_destroy(&attributes);
 
-    const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
-    const auto begin = reinterpret_cast<std::uintptr_t>(lowest);
-    if (!known || here < begin || here - begin >= size)
+    const auto lowest = reinterpret_cast<std::uintptr_t>(start);
+    if (!known || here() < lowest || here() - lowest >= size)
     {
         return unknownRoom;
     }
-    return std::min<std::size_t>(here - begin, mostRoom);
+    return std::min<std::size_t>(here() - lowest, maxRoom);
 }
 
 bool mayHaveRoomForLevels(unsigned levels) noexcept
 {
-    return levels <= safeLevels || levels <= stackRoom() / leastStackOfLevel;
+    return levels <= safeLevels || levels <= stackRoom() / minStackOfLevel;
 }
 
 } // namespace vorn::parsers::toml

@@ -5,6 +5,11 @@
 namespace vorn::parsers::toml
 {
 
+// What the parser takes of the stack for an array or an inline table: some 290 bytes on
+// 32-bit ARM, 540 on x86-64, with a compiler that optimises for size, and more otherwise.
+constexpr std::size_t minStackOfLevel = 64 * sizeof(void*);
+constexpr std::size_t maxStackOfLevel = 112 * sizeof(void*);
+
 // The bytes of stack that the calling thread has left; little where that is not known,
 // as on a stack that the thread was not started with.  Asking takes some time.
 std::size_t stackRoom() noexcept;

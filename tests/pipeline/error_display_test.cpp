@@ -3,6 +3,7 @@
 
 #include "pipeline/error_display.h"
 
+#include <cctype>
 #include <memory>
 #include <string>
 #include <utility>
@@ -63,16 +64,25 @@ ANTLR3_UINT32 parse(const std::string& text, Display display)
 
 } // namespace
 
-TEST(PrintableCharacter, hasNoMoreThanTheLowByteWhileItLives)
+// A low byte alone may be that of a printable character: U+015B would be shown as "[".
+TEST(PrintableCharacter, isTheFirstByteOfASequenceBeyondTheDomainOfIsprint)
 {
     for (const auto& [character, printable] :
          std::vector<std::pair<ANTLR3_UCHAR, ANTLR3_UCHAR>>{{0, 0},
                                                             {'@', '@'},
                                                             {0xFF, 0xFF},
-                                                            {0x100, 0},
-                                                            {0x20AC, 0xAC},
-                                                            {0x1F63A, 0x3A},
-                                                            {0xFFFFFFFE, 0xFE}})
+                                                            {0x100, 0xC4},
+                                                            {0x15B, 0xC5},
+                                                            {0x7FF, 0xDF},
+                                                            {0x800, 0xE0},
+                                                            {0x20AC, 0xE2},
+                                                            {0xFFFF, 0xEF},
+                                                            {0x10000, 0xF0},
+                                                            {0x1F63A, 0xF0},
+                                                            {0x10FFFF, 0xF4},
+                                                            {0x3FFFFFF, 0xFB},
+                                                            {0x7FFFFFFF, 0xFD},
+                                                            {0xFFFFFFFE, 0xFF}})
     {
         SCOPED_TRACE(character);
         ANTLR3_EXCEPTION exception = {};
@@ -80,6 +90,7 @@ TEST(PrintableCharacter, hasNoMoreThanTheLowByteWhileItLives)
         {
             const PrintableCharacter during(&exception);
             EXPECT_EQ(exception.c, printable);
+            EXPECT_TRUE(character <= 0xFF || std::isprint(static_cast<int>(exception.c)) == 0);
         }
         EXPECT_EQ(exception.c, character);
     }

@@ -11,10 +11,12 @@
 
 #include <pthread.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "support/driver_log.h"
 #include "support/event_recorder.h"
@@ -178,12 +180,44 @@ TEST(FailingCalls, leaveDisplaysWithoutTheTextOfTheTree)
     EXPECT_EQ(shown, "");
 }
 
-TEST(FailingCalls, leaveTheRoomOfTheStackUnknown)
+TEST(FailingCalls, leaveTheRoomOfAStackUnknown)
 {
-    EXPECT_EQ(resultWithout(Call::threadAttributes, stackRoom), unknownRoom);
     EXPECT_EQ(resultWithout(Call::threadStack, stackRoom), unknownRoom);
     EXPECT_GT(stackRoom(), unknownRoom);
-    EXPECT_FALSE(resultWithout(Call::threadAttributes, [] { return mayHaveRoomForLevels(1000); }));
+    EXPECT_FALSE(resultWithout(Call::threadStack, [] { return mayHaveRoomForLevels(1000); }));
+    std::thread(
+        []
+        {
+            EXPECT_EQ(resultWithout(Call::threadAttributes, stackRoom), unknownRoom);
+            EXPECT_GT(stackRoom(), unknownRoom);
+        })
+        .join();
+}
+
+// As where /proc is not mounted, and the C library finds no main thread's stack.
+TEST(FailingCalls, leaveTheLimitOfTheProcessToAMainThread)
+{
+    const std::size_t known = stackRoom();
+    const std::size_t fromLimit = resultWithout(Call::threadAttributes, stackRoom);
+    // What lies between the stack's first frame and the program's name is little.
+    EXPECT_NEAR(static_cast<double>(fromLimit), static_cast<double>(known), 128 * 1024.0);
+    EXPECT_TRUE(resultWithout(Call::threadAttributes, [] { return mayHaveRoomForLevels(1000); }));
+}
+
+TEST(FailingCalls, leaveAMainThreadWithASmallLimitThatRoom)
+{
+    rlimit before = {};
+    ASSERT_EQ(getrlimit(RLIMIT_STACK, &before), 0);
+    rlimit limit = {std::size_t{256} * 1024, before.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_STACK, &limit), 0);
+    const std::size_t small = resultWithout(Call::threadAttributes, stackRoom);
+    limit.rlim_cur = 4096; // less than is used already
+    ASSERT_EQ(setrlimit(RLIMIT_STACK, &limit), 0);
+    const std::size_t none = resultWithout(Call::threadAttributes, stackRoom);
+    ASSERT_EQ(setrlimit(RLIMIT_STACK, &before), 0);
+    EXPECT_GT(small, std::size_t{128} * 1024);
+    EXPECT_LT(small, std::size_t{256} * 1024);
+    EXPECT_EQ(none, unknownRoom);
 }
 
 TEST(FailingCalls, leaveDocumentsUndiagnosedForWhichThereIsNoMemory)

@@ -74,7 +74,8 @@ TEST(PipelineDisplays, ofTheFirstRecognisersAreCalledBeforeEachLogLine)
     }
 }
 
-// isprint() takes no more than a byte; the character is whole again for whoever looks at
+// isprint() takes no more than a byte, and a low byte alone may be that of a printable
+// character (U+015B was shown as '['); the character is whole again for whoever looks at
 // the exception after the runtime's display.
 TEST(PipelineDisplays, ofTheLexerGetCharactersThatFitAByte)
 {
@@ -83,13 +84,13 @@ TEST(PipelineDisplays, ofTheLexerGetCharactersThatFitAByte)
              {"\x01", 1, 1, "near char(0X1)"},
              {"\xc3\xa9", 0xE9, 0xE9, "near char(0XE9)"},
              {"\xc3\xbf", 0xFF, 0xFF, "near char(0XFF)"},
-             {"\xc4\x80", 0x100, 0, "near char(00)"},
-             {"\xc5\x81", 0x141, 0x41, "near 'A'"},
-             {"\xe2\x82\xac", 0x20AC, 0xAC, "near char(0XAC)"},
-             {"\xef\xbf\xbf", 0xFFFF, 0xFF, "near char(0XFF)"},
-             {"\xf0\x9f\x98\x80", 0x1F600, 0, "near char(00)"},
-             {"\xf0\x9f\x98\xba", 0x1F63A, 0x3A, "near ':'"},
-             {"\xfb\xbf\xbf\xbf\xbf", 0x3FFFFFF, 0xFF, "near char(0XFF)"},
+             {"\xc4\x80", 0x100, 0xC4, "near char(0XC4)"},
+             {"\xc5\x9b", 0x15B, 0xC5, "near char(0XC5)"},
+             {"\xe2\x82\xac", 0x20AC, 0xE2, "near char(0XE2)"},
+             {"\xef\xbf\xbf", 0xFFFF, 0xEF, "near char(0XEF)"},
+             {"\xf0\x9f\x98\x80", 0x1F600, 0xF0, "near char(0XF0)"},
+             {"\xf0\x9f\x98\xba", 0x1F63A, 0xF0, "near char(0XF0)"},
+             {"\xfb\xbf\xbf\xbf\xbf", 0x3FFFFFF, 0xFB, "near char(0XFB)"},
          })
     {
         SCOPED_TRACE(printed);

@@ -9,7 +9,9 @@ import pathlib
 import re
 import sys
 
-LOGGED = re.compile(r'VORN_LOG_ERROR\(\s*"((?:[^"\\]|\\.)*)"')
+# A text in the sources that begins like a message is one, whoever it is handed to; what is
+# handed to the macro that logs is one, however it begins.
+LOGGED = re.compile(r'(?:VORN_LOG_ERROR\(\s*"|"(?=Invalid|Failed|No such))((?:[^"\\]|\\.)*)"')
 TITLE = re.compile(r"^(?:#|- `).*", re.MULTILINE)
 CODE = re.compile(r"`([^`]*)`")
 MESSAGE = re.compile(r"(?:Invalid|Failed|No such)\b")

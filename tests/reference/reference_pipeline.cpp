@@ -4,11 +4,10 @@
 
 #include <vorn/utils/log.h>
 
-#include <memory>
-
 #include "renamed_recognisers.h"
 
 #include "grammar/tree_actions.h"
+#include "pipeline/owned.h"
 
 #include "TomlLexer.h"
 #include "TomlParser.h"
@@ -23,18 +22,17 @@ namespace reference
 namespace
 {
 
-struct Free
-{
-    template <typename Object>
-    void operator()(Object* object) const
-    {
-        object->free(object);
-    }
-    void operator()(pANTLR3_INPUT_STREAM input) const { input->close(input); }
-};
+using vorn::parsers::toml::Owned;
 
-template <typename Object>
-using Owned = std::unique_ptr<Object, Free>;
+// The first byte of a character above 0x7F, as UTF-8 was first defined: up to six bytes.
+ANTLR3_UCHAR leadByte(ANTLR3_UCHAR c)
+{
+    return c < 0x800       ? 0xC0 | c >> 6
+           : c < 0x10000   ? 0xE0 | c >> 12
+           : c < 0x200000  ? 0xF0 | c >> 18
+           : c < 0x4000000 ? 0xF8 | c >> 24
+                           : 0xFC | c >> 30;
+}
 
 void installErrorDisplay(TomlLexer& lexer)
 {
@@ -42,12 +40,13 @@ void installErrorDisplay(TomlLexer& lexer)
     lexer.pLexer->rec->displayRecognitionError =
         [](pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8* tokenNames)
     {
-        // The display asks isprint(), whose domain ends at 255.
+        // The display asks isprint(), whose domain ends at 255: beyond it comes the first byte
+        // of the character.
         auto& character = recogniser->state->exception->c;
         const auto original = character;
-        if (character != ANTLR3_CHARSTREAM_EOF)
+        if (character != ANTLR3_CHARSTREAM_EOF && character > 0xFF)
         {
-            character &= 0xFF;
+            character = leadByte(character);
         }
         defaultDisplay(recogniser, tokenNames);
         character = original;

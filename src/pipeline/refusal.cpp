@@ -1,0 +1,20 @@
+#include "refusal.h"
+
+#include "document_depth.h"
+#include "memory_need.h"
+#include "stack_room.h"
+
+namespace vorn::parsers::toml
+{
+
+Refusal refusalOf(const std::string& text)
+{
+    if (!isMemoryLeft(memoryForSurvey(text.size())))
+    {
+        return {Refusal::Reason::tooLarge};
+    }
+    const unsigned levels = documentDepth(text);
+    return mayHaveRoomForLevels(levels) ? Refusal{} : Refusal{Refusal::Reason::tooDeep, levels};
+}
+
+} // namespace vorn::parsers::toml

@@ -1,0 +1,27 @@
+// Why the recognisers do not read a document, or not to its end.
+#pragma once
+
+#include <string>
+
+namespace vorn::parsers::toml
+{
+
+struct Refusal
+{
+    enum class Reason
+    {
+        none,
+        tooDeep,  // for the thread's stack
+        tooLarge, // for the memory that is left
+    };
+
+    Reason reason = Reason::none;
+    unsigned levels = 0; // of arrays and inline tables, where they are too many
+
+    explicit operator bool() const noexcept { return reason != Reason::none; }
+};
+
+// What can be said before the recognisers exist.
+Refusal refusalOf(const std::string& text);
+
+} // namespace vorn::parsers::toml
