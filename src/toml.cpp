@@ -111,16 +111,24 @@ void installErrorDisplay(pANTLR3_BASE_RECOGNIZER recogniser, Report& report)
     };
 }
 
+// A message without arguments, a literal of the caller's, from the caller's place.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-security"
+void logFailure(const char* message, const char* function, int line)
+{
+    VORN_LOG_ERROR_AT(function, line, message);
+}
+#pragma GCC diagnostic pop
+
 // Owns what the runtime has made.  Where it could not be made a line says so, which comes from
 // the place of the call.
 template <typename Object>
-[[gnu::format(printf, 2, 0)]] Owned<Object> owned(Object* made, const char* failure,
-                                                  const char* function = __builtin_FUNCTION(),
-                                                  int line = __builtin_LINE())
+Owned<Object> owned(Object* made, const char* failure, const char* function = __builtin_FUNCTION(),
+                    int line = __builtin_LINE())
 {
     if (made == nullptr)
     {
-        VORN_LOG_ERROR_AT(function, line, failure);
+        logFailure(failure, function, line);
     }
     return Owned<Object>(made);
 }
