@@ -15,7 +15,7 @@ namespace vorn::parsers::toml
 namespace
 {
 
-constexpr std::size_t leastRoom = 4096;
+constexpr std::size_t minRoom = 4096;
 
 // As many bytes as the file says that it has, and one more, at which its end shows.  The
 // file may have more or fewer all the same: a pipe does not know, others grow.
@@ -23,15 +23,15 @@ std::size_t expectedRoom(int file)
 {
     struct stat status = {};
     const bool known = fstat(file, &status) == 0 && S_ISREG(status.st_mode);
-    return known ? std::max(static_cast<std::size_t>(status.st_size) + 1, leastRoom) : leastRoom;
+    return known ? std::max(static_cast<std::size_t>(status.st_size) + 1, minRoom) : minRoom;
 }
 
-ssize_t readSome(int file, char* bytes, std::size_t most)
+ssize_t readSome(int file, char* bytes, std::size_t size)
 {
     ssize_t count = 0;
     do
     {
-        count = read(file, bytes, most);
+        count = read(file, bytes, size);
     } while (count < 0 && errno == EINTR);
     return count;
 }

@@ -236,7 +236,7 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, const std::string& text, ITomlTre
 }
 
 // The path's characters.  Clients may come with a path type of their own making that
-// begins, like ours, with a pointer to NUL-terminated characters.
+// starts, like ours, with a pointer to NUL-terminated characters.
 const char* charactersOf(const FilePath& path)
 {
     const char* text = nullptr;

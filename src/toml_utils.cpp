@@ -112,7 +112,7 @@ bool matches(const regex_t& regex, const std::string& text)
 {
     errno = 0;
     const bool matched = regexec(&regex, text.c_str(), 0, nullptr, 0) == 0;
-    // glibc answers the same where nothing matches and where memory is gone; the form that is
+    // glibc returns the same where nothing matches and where memory is gone; the form that is
     // tried next might read the text as another time.
     if (!matched && errno == ENOMEM)
     {
@@ -202,8 +202,8 @@ std::string processMultilineString(std::string text)
     dropFirstLineFeed(text);
 
     std::string value;
-    std::size_t rest = 0; // what has not been copied yet begins here
-    std::size_t from = 0; // where the next search begins
+    std::size_t rest = 0; // what has not been copied yet starts here
+    std::size_t from = 0; // where the next search starts
     for (;;)
     {
         const std::size_t backslash = text.find("\\\n", from);

@@ -2,7 +2,7 @@
 // makes the visitor calls, children left to right, in document order.
 //
 // The runtime's own match comes first: where one node is missing or one is too many it
-// reports that, which counts it, and goes on as if the tree were right.  To what it does
+// reports that, which counts it, and goes on as if the tree were well-formed.  To what it does
 // not repair, two kinds of rule react differently:
 //  - Structural rules stop.  They set the walk's flag `ok` to false and return with the
 //    recogniser's error still set, and so does every rule above them; nothing is

@@ -6,7 +6,7 @@ namespace vorn::parsers::toml
 {
 
 // The calling thread is not cancelled while this lives; a request waits.  Cancelling unwinds
-// the stack like an exception that nobody may catch, and must not begin above frames of C.
+// the stack like an exception that nobody may catch, and must not start above frames of C.
 class DeferredCancellation
 {
 public:

@@ -24,7 +24,7 @@ public:
         case Event::beginArray:
         case Event::beginInlineTable:
             ++open_;
-            most_ = std::max(most_, open_);
+            max_ = std::max(max_, open_);
             break;
         case Event::endArray:
         case Event::endInlineTable:
@@ -37,11 +37,11 @@ public:
     void text(Event, std::string_view) noexcept {}
     void lineEnd(const char*) noexcept {}
 
-    unsigned most() const noexcept { return most_; }
+    unsigned max() const noexcept { return max_; }
 
 private:
     unsigned open_ = 0;
-    unsigned most_ = 0;
+    unsigned max_ = 0;
 };
 
 } // namespace
@@ -58,7 +58,7 @@ unsigned documentDepth(std::string_view text)
     NestingStack nesting(words.begin(), words.begin() != nullptr ? size : 0);
     Levels levels;
     Reader(text.data(), text.data() + text.size(), nesting, levels).lines();
-    return levels.most();
+    return levels.max();
 }
 
 } // namespace vorn::parsers::toml

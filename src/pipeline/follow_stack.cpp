@@ -13,7 +13,7 @@ namespace
 constexpr ANTLR3_UINT32 safeRules = 30;
 
 // An array takes two rules, an inline table three.
-constexpr unsigned mostRulesOfLevel = 3;
+constexpr unsigned maxRulesOfLevel = 3;
 
 // What is to be left of the stack for what the innermost rules call: above all the displays
 // of errors, with the logger, which use half of it.  The walk over the tree is less deep
@@ -59,7 +59,7 @@ const FollowStack& FollowStack::of(pANTLR3_BASE_RECOGNIZER recogniser) noexcept
 
 unsigned FollowStack::levelsWithoutRoom() const noexcept
 {
-    return rulesWithoutRoom_ / mostRulesOfLevel;
+    return rulesWithoutRoom_ / maxRulesOfLevel;
 }
 
 ANTLR3_BOOLEAN FollowStack::pushSet(pANTLR3_STACK stack, void* set, void (*release)(void*))

@@ -24,7 +24,7 @@ constexpr std::size_t fixedNeed =
 
 // What a token leads to, at most: itself, a few nodes with their lists of children, the
 // token of an imaginary node, and the places of all these in the runtime's vectors.  The
-// documents that took most have been seen to take four fifths of this.
+// hungriest documents seen took four fifths of this.
 constexpr std::size_t needOfToken = 2 * sizeof(ANTLR3_COMMON_TOKEN) +
                                     3 * sizeof(ANTLR3_COMMON_TREE) + 2 * sizeof(ANTLR3_VECTOR) +
                                     12 * sizeof(ANTLR3_VECTOR_ELEMENT);

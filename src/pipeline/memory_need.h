@@ -1,5 +1,5 @@
 // The memory that the recognisers need.  The runtime does not survive an allocation that
-// fails, so that what they will need is made sure of before they begin.
+// fails, so that what they will need is checked before they start.
 #pragma once
 
 #include <cstddef>

@@ -38,7 +38,7 @@ std::string_view nodeText(pANTLR3_BASE_TREE node) noexcept
     }
 }
 
-// Hands the parts of a tree's text to `take`, one behind the other.
+// Hands the parts of a tree's text to `take`, one after the other.
 template <typename Take>
 // NOLINTNEXTLINE(misc-no-recursion): not as deep as the parser's rules, which made the tree.
 void forEachPart(pANTLR3_BASE_TREE tree, Take& take)

@@ -2,7 +2,7 @@
 //
 // The runtime's own operations make strings that live as long as the input.  Those here
 // make the same texts without them.  None of them throws, since they are needed below
-// frames of the runtime: where memory runs out, they answer null.
+// frames of the runtime: where memory runs out, they return null.
 #pragma once
 
 #include <antlr3.h>
