@@ -251,7 +251,7 @@ public:
     const std::string& string() const noexcept { return path_; }
 
 private:
-    // The library reads the path through this first member, which begins with a
+    // The library reads the path through this first member, which starts with a
     // pointer to NUL-terminated characters.
     std::string path_;
 };
