@@ -53,8 +53,8 @@ inline void assign(double& member, const Scalar& scalar)
     member = floatValue(scalar.text);
 }
 
-// What parseInteger() cannot represent is out of range here, too: it gives the nearest
-// value of 64 bits, and throws for a binary integer of more than 32.
+// What parseInteger() cannot represent is out of range here, too: it returns the nearest
+// value of 64 bits, and throws for a binary integer of more than 32 bits.
 template <typename Integer>
 std::enable_if_t<std::is_integral_v<Integer>> assign(Integer& member, const Scalar& scalar)
 {

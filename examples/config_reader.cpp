@@ -2,7 +2,7 @@
 //
 // Unknown and duplicate keys and values that do not fit are reported on standard error.
 //
-// Exit status: 0 done, 1 the configuration is not right, 2 wrong usage.
+// Exit status: 0 done, 1 the configuration is wrong, 2 wrong usage.
 #include <cstdio>
 #include <string>
 #include <vector>

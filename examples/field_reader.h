@@ -15,7 +15,7 @@ namespace example
 template <typename Config>
 struct Schema
 {
-    // Called when a table or an array begins, where something must be made to read it into.
+    // Called when a table or an array starts, to make what it is read into.
     using Maker = std::function<void(Config& config)>;
     // Called for scalars.
     using Setter = std::function<void(Config& config, const Path& path, const Scalar& scalar)>;
@@ -24,22 +24,22 @@ struct Schema
     std::map<std::string, Setter> fields; // a `*` as the last key stands for any
 };
 
-// Complains of keys that the schema does not have, and of scalars, arrays and tables that
-// stand in each other's place.
+// Complains about keys that the schema does not have, and about scalars, arrays and tables
+// where another of these is expected.
 template <typename Config>
 class FieldReader : public PathVisitor
 {
 public:
     explicit FieldReader(const Schema<Config>& schema) : schema_(schema) {}
 
-    // For use when the document is known to be right.
+    // Use them once the document is known to be valid.
     const Config& config() const { return config_; }
 
 private:
     bool table(const Path& path) override { return begin(path, "."); }
     bool array(const Path& path) override { return begin(path, "[]"); }
 
-    // `inside` is what follows in the patterns of what is inside.
+    // `inside` is what follows in the patterns of the elements.
     bool begin(const Path& path, const char* inside)
     {
         const std::string pattern = path.pattern();

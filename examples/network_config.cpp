@@ -10,7 +10,7 @@ namespace
 
 using Config = NetworkConfig;
 
-// Where the members are; of lists in the last element, which is the one being read.
+// Where the members are: of a list, in its last element, which is the one being read.
 
 Config& network(Config& config)
 {
@@ -58,7 +58,7 @@ void assignAllowed(Config& config, const Path&, const Scalar& scalar)
     assign(vpn(config).allowed.back(), scalar);
 }
 
-// Assigns to a member of what `owner`, a function or a member of the configuration, gives.
+// Assigns to a member of what `owner` returns: a function, or a member of the configuration.
 template <typename Owner, typename Member>
 Schema<Config>::Setter to(Owner owner, Member member)
 {

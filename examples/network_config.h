@@ -92,7 +92,7 @@ struct NetworkConfig
     std::optional<Vpn> vpn;
 };
 
-// Which keys there may be and where their values go.
+// Which keys there may be, and where their values go.
 const Schema<NetworkConfig>& networkSchema();
 
 } // namespace example

@@ -9,8 +9,8 @@
 namespace example
 {
 
-// The keys that lead to a value and, where they lead into an array, indices.  The paths
-// of the two ports below are `servers`, 0, `port` and `servers`, 1, `port`.
+// The keys that lead to a value and, for elements of arrays, the indices.  The paths of the
+// two ports below are `servers`, 0, `port` and `servers`, 1, `port`.
 //
 //   servers = [ { port = 80 }, { port = 443 } ]
 class Path
@@ -18,14 +18,14 @@ class Path
 public:
     using Step = std::variant<std::string, std::size_t>;
 
-    // What stands in a table under a key, and in an array at an index.
+    // The value in a table under a key, or in an array at an index.
     Path operator/(const std::string& key) const { return with(key); }
     Path operator/(std::size_t index) const { return with(index); }
 
-    // From the document down; the document itself has none.
+    // From the document down.  The document itself has none.
     const std::vector<Step>& steps() const { return steps_; }
 
-    // What this stands in; not for the document.
+    // What this is in.  Not for the document.
     Path parent() const;
 
     // No two paths have the same text: `servers[0].port`, `hosts."gw.local"[1]`.

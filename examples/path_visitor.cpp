@@ -53,7 +53,7 @@ void PathVisitor::beginKey()
     keyIsRight_ = true;
 }
 
-// Goes to the place that a header leads to: pairs up to the next header stand there.
+// Goes to the place that a header leads to: the pairs up to the next header belong there.
 void PathVisitor::beginSection(Place (PathVisitor::*open)(const Path&))
 {
     Place place;
@@ -146,7 +146,7 @@ PathVisitor::Place PathVisitor::dotted(const Place& around, const std::string& k
     return {path, known->wanted};
 }
 
-// The place of the value that begins: in an array the next element, else what the key
+// The place of the value that starts: in an array the next element, otherwise what the key
 // leads to.
 PathVisitor::Place PathVisitor::nextValue()
 {
@@ -208,8 +208,8 @@ bool readFile(const std::string& path, PathVisitor& visitor)
 {
     if (!visitTomlTree(vorn::parsers::toml::FilePath(path), visitor))
     {
-        // The calls for a rejected document may lack some of its lines, so the complaints
-        // may be of things that are not there.
+        // The calls for an invalid document may lack some of its lines, so the complaints
+        // may be about things that are not there.
         return false;
     }
     for (const std::string& complaint : visitor.complaints())

@@ -28,17 +28,17 @@ struct Scalar
     std::string text; // a string's value, escapes resolved; of others the text as written
 };
 
-// Follows headers, dotted keys, arrays and inline tables, and hands every table, array and
-// scalar over with its path, in the order of the document and each before what is in it.
+// Follows headers, dotted keys, arrays and inline tables, and hands over every table, array
+// and scalar with its path, in the order of the document, each before what is in it.
 // An array of tables is an array whose elements are tables, whichever way it is written.
 //
 // Checks what the library leaves to visitors: that nothing is defined twice, and that no
-// table grows in a place where TOML does not let it.  What is wrong becomes a complaint,
-// and neither it nor what is in it is handed over.
+// table grows where TOML does not allow it.  What is wrong becomes a complaint, and is not
+// handed over, nor is anything in it.
 class PathVisitor : public vorn::parsers::toml::TomlTreeVisitor
 {
 public:
-    // In the order of the document, each with the path in front: "dns.port: defined twice".
+    // In the order of the document, each after its path: "dns.port: defined twice".
     const std::vector<std::string>& complaints() const { return complaints_; }
 
     void beginDocument() override;
@@ -66,7 +66,7 @@ public:
     void visitLocalTime(const char* text) override { visitDateTime(text); }
 
 protected:
-    // A table or an array begins.  The answer tells whether what is in it is wanted.
+    // A table or an array starts.  Returns whether what is in it is wanted.
     virtual bool table(const Path& path) = 0;
     virtual bool array(const Path& path) = 0;
     // A BadValue that this throws becomes a complaint.
@@ -123,8 +123,8 @@ private:
     std::vector<std::string> complaints_;
 };
 
-// Reads a file.  Answers true if the document is right, and only then is what the visitor
-// has gathered to be used; else what is wrong has been logged or stands on standard error.
+// Reads a file.  Returns true if the document is valid; use what the visitor has gathered
+// only then.  Otherwise the log or standard error says what is wrong.
 bool readFile(const std::string& path, PathVisitor& visitor);
 
 } // namespace example

@@ -5,9 +5,9 @@
 // are written, the others as "inf", "-inf" and "nan".  Bytes that are not UTF-8 become
 // U+FFFD.
 //
-// Exit status: 0 done, 1 the document is not right, 2 wrong usage.  What is not right is
-// said on standard error: duplicate keys, tables that are defined again, escapes that are
-// no character, integers beyond 64 bits.
+// Exit status: 0 done, 1 the document is wrong, 2 wrong usage.  Standard error says what is
+// wrong: duplicate keys, tables that are defined again, escapes that are no character,
+// integers beyond 64 bits.
 #include <vorn/parsers/toml.h>
 
 #include <nlohmann/json.hpp>
@@ -29,8 +29,8 @@ using example::Path;
 using example::Scalar;
 using Json = nlohmann::ordered_json;
 
-// Any integer of 64 bits.  parseInteger() would give the nearest one for what is beyond,
-// and take no more than 32 bits of a binary one.
+// Any integer of 64 bits.  parseInteger() would return the nearest one for a larger integer,
+// and takes at most 32 bits of a binary one.
 Json integer(std::string text)
 {
     static const std::map<std::string, int> bases = {{"0x", 16}, {"0o", 8}, {"0b", 2}};
@@ -104,7 +104,7 @@ private:
 
     void scalar(const Path& path, const Scalar& scalar) override { at(path) = json(scalar); }
 
-    // What stands at a path; it is made if it is not there.
+    // The value at a path, which is made if it is not there.
     Json& at(const Path& path)
     {
         Json* place = &document_;

@@ -55,7 +55,7 @@ void appendCharacter(std::string& value, const std::string& digits)
     appendUtf8(value, point);
 }
 
-// Appends what an escape stands for.  `at` is behind the backslash; the answer is where
+// Appends what an escape stands for.  `at` is the place after the backslash.  Returns where
 // the text goes on.
 std::size_t appendEscape(std::string& value, const std::string& text, std::size_t at)
 {
@@ -94,8 +94,8 @@ std::size_t appendEscape(std::string& value, const std::string& text, std::size_
     return at + 1;
 }
 
-// All escapes are resolved from left to right in one pass, the backslashes at the ends of
-// lines among them: only so is `\\` at the end of a line a backslash and a line break.
+// Resolves all escapes from left to right in one pass, including backslashes at the ends of
+// lines.  Only so is `\\` at the end of a line a backslash and a line break.
 std::string withoutEscapes(const std::string& text)
 {
     std::string value;

@@ -14,14 +14,14 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// The value of a string of any kind, and the name behind a quoted key, escapes resolved.
+// The value of a string of any kind, or the name in a quoted key, with escapes resolved.
 //
-// Throws BadValue for an escape of a surrogate or of a number above U+10FFFF, which is
-// no character, and for a string with a NUL byte, which reaches visitors cut short.
+// Throws BadValue for an escape that is no character, a surrogate or a number above
+// U+10FFFF, and for a string with a NUL byte, which reaches visitors cut short.
 std::string stringValue(const std::string& text);
 
-// The value of a float, infinities and not-a-number included; a magnitude beyond the range
-// of double gives the largest one, as parseFloat() has it.
+// The value of a float, including infinities and not-a-number.  A magnitude beyond the range
+// of double yields the largest one, as with parseFloat().
 double floatValue(const std::string& text);
 
 } // namespace example

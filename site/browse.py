@@ -86,7 +86,7 @@ class Visit:
         self.complaints.append(f"{page.removeprefix(self.root)}: {what}")
 
     def look(self, page):
-        """Opens a page; answers with the pages that its links lead to."""
+        """Opens a page; returns the pages that its links lead to."""
         self.driver.get(page)
         seen = self.driver.execute_script(LOOK)
         if seen["status"] != 200:

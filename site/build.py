@@ -48,7 +48,7 @@ def title_of(page):
 
 
 def target_of(page):
-    """Where a page stands in the site."""
+    """The place of a page in the site."""
     return "index.html" if page == "README.md" else page.removesuffix(".md") + ".html"
 
 

@@ -6,7 +6,7 @@
 namespace vorn::utils
 {
 
-// vprintf into a string; an unusable format yields an empty one.
+// vprintf into a string.  An unusable format yields an empty one.
 std::string formatList(const char* format, va_list arguments);
 
 } // namespace vorn::utils

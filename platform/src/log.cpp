@@ -19,7 +19,7 @@ const char* levelName(int level)
     return index < names.size() ? names[index] : "unknown";
 }
 
-// A message can hold a whole document; escaped line breaks keep it one line.
+// A message can hold a whole document.  Escaped line breaks keep it on one line.
 std::string onOneLine(const std::string& message)
 {
     std::string line;

@@ -1,9 +1,9 @@
 // vorn_parsers: an event reader for TOML.
 //
-// A client hands visitTomlTree() a document, as a text or as the path of a file,
-// and a visitor.  The library checks the document and calls the visitor once for
-// every header, key, array, inline table and scalar, in document order.  It keeps
-// no document model and no state between calls.
+// You hand visitTomlTree() a document, as a text or as the path of a file, and a
+// visitor.  The library checks the document and calls the visitor for every
+// header, key, array, inline table and scalar, in document order.  It builds no
+// document model and keeps no state between calls.
 //
 // Units used below: a "text" is a NUL-terminated string of UTF-8 bytes.
 #ifndef VORN_PARSERS_TOML_H
@@ -15,7 +15,7 @@
 #include <string>
 #include <utility>
 
-// The version of this header; that of the library is version()'s answer.
+// The version of this header; version() returns that of the library.
 #define VORN_PARSERS_VERSION_MAJOR 0
 #define VORN_PARSERS_VERSION_MINOR 1
 #define VORN_PARSERS_VERSION_PATCH 0
@@ -29,8 +29,7 @@
 namespace vorn::parsers::toml
 {
 
-// The client's side of a reading: one operation for each thing that a document
-// can hold.
+// What you implement: one operation for each thing that a document can hold.
 //
 // Order.  The calls come in document order, depth first:
 //
@@ -45,22 +44,22 @@ namespace vorn::parsers::toml
 //                              endKeyValue
 //                              endDocument
 //
-// A header does not enclose the pairs below it: endTable follows the header's
-// key at once, and the pairs come after it, up to the next header.
+// A header does not enclose the pairs below it: endTable comes right after the
+// header's key, and the pairs come after that, up to the next header.
 //
 // Texts.  A text is the scalar exactly as the document has it: delimiters,
-// escapes, signs, prefixes and underscores included.  It is NUL-terminated UTF-8,
-// never null, and lives for the duration of the call only; copy what you keep.
+// escapes, signs, prefixes and underscores included.  It is NUL-terminated UTF-8
+// and never null.  It lives for the duration of the call only: copy what you keep.
 // (A NUL byte inside a string of the document ends the text early.)
 //
-// Rejected documents.  The calls are made while the document is read, before it
-// is known whether all of it is right.  When visitTomlTree() answers false the
-// visitor may have received any number of calls, and begin calls may lack their
-// end calls: act on what you gathered only when the result is true.
+// Rejected documents.  A visitor gets calls for invalid documents, too: for what
+// the library could make out.  When visitTomlTree() returns false, the visitor may
+// have received any number of calls, and begin calls may lack their end calls.
+// Act on what you gathered only if visitTomlTree() returns true.
 //
 // Exceptions.  An operation may throw.  The exception ends the reading and leaves
-// visitTomlTree() after everything that it holds has been freed.  There is no
-// other way to stop a reading.
+// visitTomlTree(), which frees everything that it holds first.  There is no other
+// way to stop a reading.
 //
 // Threads.  All calls are made on the thread that called visitTomlTree().
 //
@@ -72,12 +71,12 @@ public:
     // Never called by the library, which does not own visitors.
     virtual ~ITomlTreeVisitor();
 
-    // The first call of every reading, also of an empty document.
+    // The first call of every reading, even of an empty document.
     virtual void beginDocument() = 0;
-    // The last call; not made when the reading broke off before the document's end.
+    // The last call; missing if the reading broke off before the document's end.
     virtual void endDocument() = 0;
 
-    // A pair, `key = value`: encloses one key and one value.  Pairs stand at the
+    // A pair, `key = value`: encloses one key and one value.  Pairs occur at the
     // top level and in inline tables.
     virtual void beginKeyValue() = 0;
     virtual void endKeyValue() = 0;
@@ -91,19 +90,19 @@ public:
     virtual void endArrayTable() = 0;
 
     // A dotted key, `a."b".c`: encloses two or more calls of visitBareKey and
-    // visitQuotedKey, one for each part.  A key of one part comes without these.
+    // visitQuotedKey, one for each part.  A key with a single part is not enclosed.
     virtual void beginDottedKey() = 0;
     virtual void endDottedKey() = 0;
 
-    // A bare key or part of a key: letters, digits, '_' and '-'.
+    // A bare key, or a bare part of a key: letters, digits, '_' and '-'.
     // `server = 1` gives "server".
     virtual void visitBareKey(const char* text) = 0;
 
-    // A quoted key or part of a key, with its quotes.
+    // A quoted key, or a quoted part of a key, with its quotes.
     // `"my key" = 1` gives "\"my key\"", `'k' = 1` gives "'k'".
     virtual void visitQuotedKey(const char* text) = 0;
 
-    // An array, `[1, 2]`: encloses its elements, which may be of different kinds.
+    // An array, `[1, 2]`: encloses its elements, which may differ in kind.
     virtual void beginArray() = 0;
     virtual void endArray() = 0;
 
@@ -111,7 +110,7 @@ public:
     virtual void beginInlineTable() = 0;
     virtual void endInlineTable() = 0;
 
-    // Strings, with their delimiters; escapes stay as they are written.
+    // Strings, with their delimiters.  Escapes stay as they are written.
     // `"a\tb"` gives the six characters between these backquotes.
     virtual void visitBasicString(const char* text) = 0;
     // `"""..."""`, line breaks included.
@@ -129,7 +128,7 @@ public:
     // "true" or "false".
     virtual void visitBoolean(const char* text) = 0;
 
-    // Dates and times.  Only their form has been checked: a month 13 passes.
+    // Dates and times.  Only their form has been checked: the month 13 is accepted.
     // "1979-05-27T07:32:00Z", "1979-05-27 00:32:00.5-07:00"
     virtual void visitOffsetDateTime(const char* text) = 0;
     // "1979-05-27T07:32:00"
@@ -152,8 +151,8 @@ public:
 //   Sum visitor;
 //   visitTomlTree("a = [1, 2]\nb = 0x10\n", visitor);   // visitor.sum is 19
 //
-// What you do not override is passed over without a word, a table or a kind of value that
-// you did not think of, too.  StrictTomlTreeVisitor tells you instead.
+// What you do not override is ignored without a word, even a table or a kind of value that
+// you did not think of.  StrictTomlTreeVisitor tells you instead.
 class VORN_PARSERS_API TomlTreeVisitor : public ITomlTreeVisitor
 {
 public:
@@ -186,11 +185,11 @@ public:
     void visitLocalTime(const char*) override {}
 };
 
-// A visitor whose operations refuse: each throws std::logic_error, which says its name,
+// A visitor whose operations all throw: a std::logic_error that names the operation,
 // "visitFloat is not overridden".  Derive from it, and override everything that a document
-// may hold, beginDocument and endDocument too; what is left ends the reading.
+// may hold, including beginDocument and endDocument.  Anything else ends the reading.
 //
-// The exception leaves visitTomlTree() like any other of a visitor.
+// The exception leaves visitTomlTree() like any other that a visitor throws.
 class VORN_PARSERS_API StrictTomlTreeVisitor : public ITomlTreeVisitor
 {
 public:
@@ -232,13 +231,13 @@ private:
     }
 };
 
-// The path of a document's file.  It is a type of its own so that a text and a
-// path cannot be mistaken for each other:
+// The path of a document's file.  It is a type of its own, so that nobody takes a
+// text for a path:
 //
 //   visitTomlTree("a = 1\n", visitor);                   // a text
 //   visitTomlTree(FilePath("/etc/app.toml"), visitor);   // a file
 //
-// The path is used as it is: relative paths start at the working directory.
+// The path is used as it is.  A relative path starts at the working directory.
 class FilePath
 {
 public:
@@ -246,73 +245,79 @@ public:
     explicit FilePath(const char* path) : path_(path) {}
     explicit FilePath(std::string path) : path_(std::move(path)) {}
 
-    // The path, NUL-terminated; lives as long as this object is unchanged.
+    // The path, NUL-terminated.  It is valid as long as this object is unchanged.
     const char* c_str() const noexcept { return path_.c_str(); }
-    // The path as it was given.
+    // The path, as you gave it.
     const std::string& string() const noexcept { return path_; }
 
 private:
-    // The library reads the path through this first member, which begins with a
+    // The library reads the path through this first member, which starts with a
     // pointer to NUL-terminated characters.
     std::string path_;
 };
 
 // Reads a document from memory.
 //
-// `text` holds the whole document as UTF-8; it is read in place and may hold any
-// bytes.  `visitor` is borrowed for the duration of the call.
+// `text` is the whole document in UTF-8.  It is read in place and may hold any bytes.
+// `visitor` is borrowed for the duration of the call.
 //
-// Answers true if the document is right in full.  Otherwise the answer is false,
-// and what is wrong is logged, one line for each error.  An error does not end the
-// reading: the visitor is still called for what could be made out.  A text of
-// 4 GiB or more is refused without a call.
+// Returns true if the document is valid.  Otherwise it returns false and logs what is
+// wrong, one line for each error.  An error does not end the reading: the visitor is
+// still called for what could be made out.  A text of 4 GiB or more is rejected without
+// a call.
 //
-// Every pair and header must end with a line break, the last one too:
+// Every pair and header must end with a line break, including the last one:
 //
 //   visitTomlTree("a = 1\n", visitor);   // true
 //   visitTomlTree("a = 1", visitor);     // false, after the calls for the pair
 //   visitTomlTree("", visitor);          // true: beginDocument, endDocument
 //
-// Arrays and inline tables of a right document may nest without limit.  A document that is
-// not right gets a line that says so, and no calls, where it nests too deeply for the
-// thread's stack, or where the memory to diagnose it is not there: some hundred times its
-// size, two thousand times in the worst case.
+// In a valid document arrays and inline tables may nest without limit.  An invalid one gets
+// no calls and a single log line in two cases:
 //
-// Throws nothing of its own; what the visitor or the logger throws passes through, and
-// std::bad_alloc where memory ends all the same.  A right document takes three
-// allocations at most, and a small one none: up to 512 KB, an eighth of its size, and
-// its longest scalar once more.  Nothing is kept.  Calls on different threads do not
-// disturb each other.
+//   - It nests too deeply to be diagnosed on the thread's stack.  A stack that is not the
+//     thread's own (of a coroutine, or of makecontext()) counts as 32 KB, so the limit is
+//     lower there.
+//   - There is not enough memory to diagnose it: some hundred times its size, and two
+//     thousand times in the worst case.
+//
+// Throws nothing of its own but std::bad_alloc, where memory ends all the same.  What the
+// visitor or the logger throws passes through.  If the thread is cancelled
+// (pthread_cancel()) while the library displays an error, the cancellation waits until
+// the display has returned.
+//
+// Reading a valid document takes at most three allocations, and none for a small one: at
+// most 512 KB, an eighth of the document's size, and its longest scalar once more.
+// Nothing is kept.  Calls on different threads do not disturb each other.
 VORN_PARSERS_API bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor);
 
-// Reads a document from a file: the whole file first, then as above.
+// Reads a document from a file: first the whole file, then as above.
 //
-// Answers false, with one log line and no call of the visitor, if there is no such
-// file, or if it cannot be opened or read to its end.
+// Returns false, with one log line and without a call, if there is no such file, or if it
+// cannot be opened or read to its end.
 //
 //   visitTomlTree(FilePath("/etc/app.toml"), visitor);
 //
-// Throws and allocates like the other overload; the file's content is held in
-// memory until the call returns.  Where there is no memory for it, std::bad_alloc is
-// thrown.
+// Throws and allocates like the other overload.  The file's content stays in memory until
+// the call returns; if there is no memory for it, std::bad_alloc is thrown.
 VORN_PARSERS_API bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visitor);
 
 // ---------------------------------------------------------------------------------
 // Values of scalar texts
 //
-// Functions for visitors: each turns the text of a scalar into a value.  Nothing in
-// the library calls them.  They do not check their argument, since the texts of a
-// visitor have been checked; what they make of other texts is said all the same.
+// Functions for your visitor: each turns the text of a scalar into a value.  Nothing in
+// the library calls them.  They do not check their argument, since a visitor's texts have
+// been checked.  What they make of other texts is stated all the same.
 //
-// All take the text as it stands in the document, delimiters, prefixes and
-// underscores included, allocate for their work and may throw std::bad_alloc.
+// All take the text as the document has it, delimiters, prefixes and underscores
+// included.  All allocate and may throw std::bad_alloc.
 // ---------------------------------------------------------------------------------
 
-// Takes one quote off each end: the value of a basic or a literal string, and the name
-// behind a quoted key.
+// Takes one quote off each end: the value of a basic or a literal string, or the name
+// in a quoted key.
 //
-// Escapes stay as they are written: resolving them is left to the visitor.  A text
-// whose ends are not the same quote (' or ") is returned unchanged.
+// Escapes stay as they are written: your visitor resolves them.  A text whose ends are
+// not the same quote (' or ") is returned unchanged.
 //
 //   unquote("\"red\"")        // red
 //   unquote("'C:\\temp'")     // C:\temp
@@ -321,9 +326,8 @@ VORN_PARSERS_API bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visi
 //   unquote("\"")             // empty: the one quote is both ends
 VORN_PARSERS_API std::string unquote(std::string text);
 
-// Takes a delimiter off both ends, if it stands at both; otherwise the text is
-// returned unchanged.  Where the two overlap the end goes first, then what is left of
-// the start.
+// Takes a delimiter off both ends if both have it; otherwise returns the text unchanged.
+// Where the two overlap, the end goes first, then what is left of the start.
 //
 //   unquote("'''x'''", "'''")   // x
 //   unquote("--x-", "--")       // --x-, unchanged
@@ -338,36 +342,36 @@ VORN_PARSERS_API std::string enquote(const std::string& text, const std::string&
 
 // The content of a multi-line basic string.
 //
-// Takes the delimiters off, then a line feed right behind the opening one, then every
+// Removes the delimiters, then a line feed right after the opening one, then every
 // line-ending backslash with its line feed and the blanks and line breaks that follow.
 // Other escapes stay as they are written.  Three things to know:
 //
-//   - Line ends are line feeds.  A carriage return right behind the delimiter stays,
-//     and a backslash before a carriage return is not a line-ending one.
-//   - An escaped backslash at the end of a line is taken for a line-ending one.
-//   - Of two line-ending backslashes with only blanks between them the second stays.
+//   - Lines end with line feeds.  A carriage return right after the delimiter stays,
+//     and a backslash before a carriage return does not count as line-ending.
+//   - An escaped backslash at the end of a line counts as line-ending.
+//   - Of two line-ending backslashes with only blanks between them, the second stays.
 //
 //   processMultilineString("\"\"\"\none\\\n   two\"\"\"")   // onetwo
 //   processMultilineString("\"\"\"a\\tb\"\"\"")             // a\tb, the escape stays
 //   processMultilineString("\"\"\"\r\nx\"\"\"")             // CR, LF, x
 VORN_PARSERS_API std::string processMultilineString(std::string text);
 
-// The content of a multi-line literal string: without the delimiters and without a line
-// feed right behind the opening one.
+// The content of a multi-line literal string: without the delimiters, and without a line
+// feed right after the opening one.
 //
 //   processMultilineLiteralString("'''\nC:\\temp\\\n'''")   // C:\temp\ and a line feed
 VORN_PARSERS_API std::string processMultilineLiteralString(std::string text);
 
 // The functions parseBoolean(), parseInteger() and parseFloat() read through a string stream
-// in the global C++ locale, the classic one unless the program has set another.  Where the
-// global locale has names for true and false, a decimal comma or digit grouping of its own,
-// they apply:
+// in the global C++ locale, which is the classic one unless your program has set another.
+// If that locale has its own names for true and false, decimal comma or digit grouping, they
+// apply:
 //
 //   std::locale::global(std::locale("de_DE.UTF-8"));
 //   parseFloat("3.5")       // 35: the point is German digit grouping
 //
-// Blanks before a value are skipped, and what follows it is not looked at.  A text that
-// does not convert, an empty or a blank one among them, yields false, 0 or 0.0.
+// Blanks before a value are skipped, and what follows it is ignored.  A text that does not
+// convert, such as an empty or a blank one, yields false, 0 or 0.0.
 
 // The value of a boolean.
 //
@@ -375,12 +379,12 @@ VORN_PARSERS_API std::string processMultilineLiteralString(std::string text);
 //   parseBoolean("True")    // false: the names are in lower case
 VORN_PARSERS_API bool parseBoolean(const std::string& text);
 
-// The value of an integer, with its sign or prefix, and underscores anywhere.
+// The value of an integer, with a sign or a prefix, and underscores anywhere.
 //
 // Decimal, hexadecimal and octal values beyond 64 bits yield the nearest long long.
-// Binary ones are limited to 32 bits, on every platform: of the digits behind "0b" the
-// first 64 are read; one that is neither 0 nor 1 throws std::invalid_argument
-// ("bitset::_M_copy_from_ptr"), a value above 4294967295 throws std::overflow_error
+// Binary values are limited to 32 bits on every platform.  Of the digits after "0b" the
+// first 64 are read.  One that is neither 0 nor 1 throws std::invalid_argument
+// ("bitset::_M_copy_from_ptr"), and a value above 4294967295 throws std::overflow_error
 // ("_Base_bitset::_M_do_to_ulong").  Nothing else is thrown.
 //
 //   parseInteger("-1_000")                // -1000
@@ -393,10 +397,10 @@ VORN_PARSERS_API bool parseBoolean(const std::string& text);
 //   parseInteger("")                      // 0
 VORN_PARSERS_API long long parseInteger(std::string text);
 
-// The value of a float, underscores anywhere.
+// The value of a float, with underscores anywhere.
 //
-// Infinities and not-a-numbers yield 0.0: tell them by their text.  A magnitude beyond
-// the range of double yields the largest finite one.
+// Infinities and not-a-numbers yield 0.0: recognise them by their text.  A magnitude
+// beyond the range of double yields the largest finite one.
 //
 //   parseFloat("6.626e-34")   // 6.626e-34
 //   parseFloat("1_000.5")     // 1000.5
@@ -405,15 +409,16 @@ VORN_PARSERS_API long long parseInteger(std::string text);
 //   parseFloat("1e")          // 0.0: an exponent has digits
 VORN_PARSERS_API double parseFloat(std::string text);
 
-// The point in time of an offset or a local date-time: seconds since the epoch;
-// microseconds are always 0.
+// The point in time of an offset or a local date-time: seconds since the epoch.
+// Microseconds are always 0.
 //
 // The date and time are always read as local time, in the zone of the process (TZ):
 //
 //   - A zone letter or an offset is not applied.
-//   - The fraction of a second is not carried over.
-//   - Daylight saving time is taken into account where a zone letter follows the seconds;
-//     the other forms, a fraction with a letter too, are read as standard time.
+//   - The fraction of a second is dropped.
+//   - Daylight saving time is taken into account only where a zone letter follows the
+//     seconds.  The other forms, including a fraction with a letter, are read as standard
+//     time.
 //
 // With TZ=UTC:
 //
@@ -424,18 +429,20 @@ VORN_PARSERS_API double parseFloat(std::string text);
 //   parseDateTime("1979-05-27T25:00:00Z")          // 296611200: the day's midnight
 //   parseDateTime("1979-13-01T07:32:00Z")          // -2209075200: 1899-12-31 00:00:00
 //
-// A text without a date and time, joined by 'T' or a blank, yields zero and the log line
-// "Failed to parse date-time: ...": so do local dates, local times and date-times with a
-// lower-case 't'.  Otherwise the text is read from its start, as far as it fits.
+// The last one gives -1 where time_t has 32 bits, as on 32-bit ARM.
 //
-// A day up to 31 that the month has not is carried over, and so are the seconds 60 and 61.
-// With another field out of range a time is read as midnight, and a date with its time as
-// the midnight of 1899-12-31; but of a day from 40 on and of a second from 70 on the first
-// digit is taken (the time of such a day is midnight).  The result is what mktime()
-// answers, which is -1 also for a time that time_t cannot hold.
+// A text without a date and a time, joined by 'T' or a blank, yields zero and the log line
+// "Failed to parse date-time: ...".  Local dates, local times and date-times with a
+// lower-case 't' are such texts.  Any other text is read from its start, as far as it fits.
+//
+// A day up to 31 that the month does not have is carried over, and so are the seconds 60 and
+// 61.  If another field is out of range, a time is read as midnight, and a date with its time
+// as the midnight of 1899-12-31.  There are two exceptions: of a day from 40 on and of a second
+// from 70 on, the first digit is taken (the time of such a day is midnight).  The result is
+// what mktime() returns: -1 also stands for a time that time_t cannot hold.
 VORN_PARSERS_API timeval parseDateTime(const std::string& text);
 
-// The version of the library that the program runs with, "0.1.0": it may be newer than the
+// The version of the library that your program runs with, "0.1.0".  It may be newer than the
 // header that the program was compiled with.
 VORN_PARSERS_API const char* version() noexcept;
 

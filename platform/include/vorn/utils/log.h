@@ -5,7 +5,7 @@
 //
 // `module` and `function` name the caller, `sourceFile` and `line` the place of
 // the call.  `level` is syslog's: 3 is an error.  The two integers after it are
-// reserved and 0.
+// reserved: the library passes 0.
 __attribute__((visibility("default"), format(printf, 8, 9))) void
 logInternal(const char* module, const char* sourceFile, const char* function, int line, int level,
             int, int, const char* format, ...);
