@@ -22,3 +22,19 @@ endif()
 if(NOT result EQUAL 0 OR said MATCHES "error\\(")
     message(FATAL_ERROR "antlr3 could not make the recognisers from ${GRAMMAR}")
 endif()
+
+# The names of token types are pointers that the loader fills in, and that nobody changes
+# afterwards: in this section they are read-only once it has.  (The runtime's interface takes
+# them as pointers to what is not const.)
+get_filename_component(name ${GRAMMAR} NAME_WE)
+set(recogniser ${OUTPUT}/${name}Parser.c)
+if(NOT EXISTS ${recogniser})
+    set(recogniser ${OUTPUT}/${name}.c)
+endif()
+file(READ ${recogniser} text)
+string(REGEX REPLACE "\n(pANTLR3_UINT8 +[A-Za-z]+TokenNames\\[)"
+    "\n__attribute__((section(\".data.rel.ro\"))) \\1" changed "${text}")
+if(changed STREQUAL text)
+    message(FATAL_ERROR "${recogniser} does not define the names of token types")
+endif()
+file(WRITE ${recogniser} "${changed}")

@@ -30,7 +30,7 @@ def check_library(options, directory):
     build = directory / "build"
     program = build_with_cmake(
         build, f"-DVORN_PARSERS_SOURCE={options.source}", f"-DVORN_UTILS_LIBRARY={utils}",
-        "-DBUILD_TESTING=OFF", "-DCMAKE_BUILD_TYPE=Debug", "-DVORN_WARNINGS_AS_ERRORS=ON")
+        "-DCMAKE_BUILD_TYPE=Debug", "-DVORN_WARNINGS_AS_ERRORS=ON")
     check_run(program, options.version, "the device's log: vorn_parsers 3 ")
 
     (library,) = build.rglob("libvorn_parsers.so")

@@ -14,8 +14,8 @@ file(WRITE "${DIRECTORY}/source/CMakeLists.txt" "cmake_minimum_required(VERSION 
 project(my_service CXX)
 add_executable(my_service main.cpp)
 ${block}")
-# Without the library's tests; the service itself is compiled, which needs its header.
+# The service itself is compiled, which needs the library's header.
 execute_process(COMMAND "${CMAKE_COMMAND}" -S "${DIRECTORY}/source" -B "${DIRECTORY}/build"
-    -G "${GENERATOR}" -DBUILD_TESTING=OFF COMMAND_ERROR_IS_FATAL ANY)
+    -G "${GENERATOR}" COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND "${CMAKE_COMMAND}" --build "${DIRECTORY}/build"
     --target CMakeFiles/my_service.dir/main.cpp.o COMMAND_ERROR_IS_FATAL ANY)

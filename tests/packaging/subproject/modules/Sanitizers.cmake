@@ -1,0 +1,1 @@
+message(FATAL_ERROR "This is the client's module, not the library's.")
