@@ -20,6 +20,15 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     Reader(begin, end, nesting, calls).lines();
 }
 
+// Calls the visitor for the recorded lines.  Inlined into readDirectly(), this loop would run
+// out of registers: GCC 12 then stores each event's kind as one byte and loads eight at that
+// place right away, so that the look-up of the operation waits for the store.  On its own it
+// takes 3 % less of the whole time: 1.49 instead of 1.54 ns a byte (20 KB of services, x86-64).
+[[gnu::noinline]] void visitRecorded(const EventRecord& record, VisitorCalls calls)
+{
+    record.repeat(calls);
+}
+
 } // namespace
 
 // With everything inlined, the places in the text and in the record are kept in registers.
@@ -51,7 +60,7 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     }
     VisitorCalls calls(visitor, buffer.begin(), end);
     visitor.beginDocument();
-    record.repeat(calls);
+    visitRecorded(record, calls);
     if (record.position() != end)
     {
         visitLines(record.position(), end, NestingStack(words.begin(), size), calls);
