@@ -6,6 +6,7 @@
 
 #include <antlr3.h>
 
+#include "decisions.h"
 #include "scan/character_class.h"
 #include "scan/token_type.h"
 
@@ -50,8 +51,9 @@ bool skip(pANTLR3_LEXER lexer, CharacterClass kind);
 // Always false: a loop found nothing where it needs one thing.
 bool failEarly(pANTLR3_LEXER lexer);
 
-// Always false: no alternative of a choice fits.  Choices have the grammar's numbers.
-bool failChoice(pANTLR3_LEXER lexer, ANTLR3_UINT32 decision, ANTLR3_UINT32 state = 0,
+// Always false: no alternative of a choice fits.  Where a choice looks at one
+// character only, the state is its start.
+bool failChoice(pANTLR3_LEXER lexer, Decision decision, DecisionState state = states::start,
                 const char* description = "");
 
 // Always true: a token has been matched.

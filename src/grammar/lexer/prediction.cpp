@@ -1,6 +1,5 @@
 #include "prediction.h"
 
-#include <array>
 #include <string_view>
 
 #include "lookahead.h"
@@ -12,7 +11,7 @@ namespace
 
 using rules::Rule;
 
-Rule chooseString(Lookahead& ahead, Rule line, Rule lines, ANTLR3_UINT32 state)
+Rule chooseString(Lookahead& ahead, Rule line, Rule lines, DecisionState state)
 {
     const ANTLR3_UCHAR quote = ahead.next();
     ahead.advance();
@@ -100,19 +99,19 @@ Rule chooseBehindTime(const Lookahead& ahead)
 Rule chooseDateTime(Lookahead& ahead, unsigned index)
 {
     constexpr std::string_view shape = "00:00:00";
-    constexpr std::array<unsigned char, shape.size()> states = {93, 95, 97, 98, 99, 100, 101, 102};
+    static_assert(states::inTime.size() == shape.size());
     for (; index < shape.size(); ++index)
     {
         if (!(shape[index] == ':' ? ahead.take(':') : ahead.take(digit)))
         {
-            return ahead.fail(states[index]);
+            return ahead.fail(states::inTime[index]);
         }
     }
     if (ahead.take('.'))
     {
         if (!ahead.take(digit))
         {
-            return ahead.fail(105);
+            return ahead.fail(states::afterPointOfTime);
         }
         ahead.takeAll(digit);
     }
@@ -225,14 +224,14 @@ Rule choosePlus(Lookahead& ahead)
     {
         if (!ahead.take(digit))
         {
-            return ahead.fail(20);
+            return ahead.fail(states::afterPlus);
         }
         ahead.takeAll(digit);
         while (ahead.take('_'))
         {
             if (!ahead.take(digit))
             {
-                return ahead.fail(62);
+                return ahead.fail(states::afterUnderscoreOfPlus);
             }
             ahead.takeAll(digit);
         }
@@ -264,7 +263,7 @@ Rule chooseWord(Lookahead& ahead)
     {
         return chooseNumber(ahead);
     }
-    return is(ahead.next(), keyCharacter) ? rules::bareKey : ahead.fail(0);
+    return is(ahead.next(), keyCharacter) ? rules::bareKey : ahead.fail(states::start);
 }
 
 } // namespace
@@ -297,9 +296,11 @@ Rule predictToken(pANTLR3_LEXER lexer)
     case '#':
         return rules::comment;
     case '"':
-        return chooseString(ahead, rules::basicString, rules::mlBasicString, 0);
+        return chooseString(ahead, rules::basicString, rules::mlBasicString,
+                            states::afterQuotationMark);
     case '\'':
-        return chooseString(ahead, rules::literalString, rules::mlLiteralString, 1);
+        return chooseString(ahead, rules::literalString, rules::mlLiteralString,
+                            states::afterApostrophe);
     case '+':
         return choosePlus(ahead);
     default:

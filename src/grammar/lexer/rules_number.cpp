@@ -53,7 +53,7 @@ bool floating(pANTLR3_LEXER lexer)
     const ANTLR3_UCHAR c = peek(lexer);
     if (!isExponentMark(c) && c != '.')
     {
-        return failChoice(lexer, 20);
+        return failChoice(lexer, Decision::floating);
     }
     if (c == '.' && !fraction(lexer))
     {
@@ -98,7 +98,7 @@ bool decInt(pANTLR3_LEXER lexer)
     const ANTLR3_UCHAR first = peek(lexer);
     if (!is(first, digit))
     {
-        return failChoice(lexer, 25);
+        return failChoice(lexer, Decision::decInt);
     }
     if (first == '0')
     {

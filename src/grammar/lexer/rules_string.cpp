@@ -141,7 +141,7 @@ bool escape(pANTLR3_LEXER lexer)
     const ANTLR3_UCHAR c = peek(lexer);
     if (!isEscapeLetter(c))
     {
-        return failChoice(lexer, 35);
+        return failChoice(lexer, Decision::escape);
     }
     consume(lexer);
     return c == 'u' ? fourHexDigits(lexer) : c == 'U' ? eightHexDigits(lexer) : true;
@@ -151,7 +151,7 @@ bool mlEscape(pANTLR3_LEXER lexer)
 {
     if (peek(lexer) != '\\')
     {
-        return failChoice(lexer, 34);
+        return failChoice(lexer, Decision::mlEscape);
     }
     const ANTLR3_UCHAR c = peek(lexer, 2);
     if (isEscapeLetter(c))
@@ -160,7 +160,7 @@ bool mlEscape(pANTLR3_LEXER lexer)
     }
     if (c != '\n' && c != '\r')
     {
-        return failChoice(lexer, 34, 1);
+        return failChoice(lexer, Decision::mlEscape, states::afterBackslash);
     }
     consume(lexer);
     return (c == '\n' || match(lexer, '\r')) && match(lexer, '\n');
