@@ -1,5 +1,7 @@
 #include "direct_reader.h"
 
+#include "scan/utf8.h"
+
 #include "event_record.h"
 #include "reader.h"
 #include "scratch.h"
@@ -9,8 +11,6 @@ namespace vorn::parsers::toml
 {
 namespace
 {
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 // Reads lines that are known to be right and calls the visitor: the way of documents that
 // are too long to be recorded whole, not worth its size inlined.
@@ -37,8 +37,7 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     const std::size_t size = text.size();
     const char* const end = text.data() + size;
     // A byte order mark at the very beginning is no part of the document.
-    const bool isMarked = text[0] == byteOrderMark[0] && text.rfind(byteOrderMark, 0) == 0;
-    const char* const begin = text.data() + (isMarked ? byteOrderMark.size() : 0);
+    const char* const begin = text.data() + byteOrderMarkLength(text);
 
     const Scratch<NestingStack::Word, 64> words(NestingStack::wordsFor(size));
     const Scratch<EventRecord::Byte, 2048> bytes(EventRecord::bytesFor(size));

@@ -3,9 +3,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 #include "character_class.h"
+#include "packed_bytes.h"
 
 namespace vorn::parsers::toml
 {
@@ -15,13 +15,6 @@ namespace
 constexpr std::ptrdiff_t dateLength = 10;      // 0000-00-00
 constexpr std::ptrdiff_t timeLength = 8;       // 00:00:00
 constexpr std::ptrdiff_t hourMinuteLength = 5; // 00:00
-
-std::uint64_t load(const char* at) noexcept
-{
-    std::uint64_t bytes = 0;
-    std::memcpy(&bytes, at, sizeof(bytes));
-    return bytes;
-}
 
 // Whether eight bytes have a shape, in which '0' stands for any digit.
 //
@@ -34,8 +27,9 @@ bool haveShape(const char* at, const char (&shape)[9]) noexcept
     {
         reach[index] = shape[index] == '0' ? 0x06 : 0x0F;
     }
-    const std::uint64_t difference = load(at) ^ load(shape);
-    return ((difference | (difference + load(reach.data()))) & 0xF0F0F0F0F0F0F0F0U) == 0;
+    const auto difference = loadBytes<std::uint64_t>(at) ^ loadBytes<std::uint64_t>(shape);
+    const auto beyond = difference + loadBytes<std::uint64_t>(reach.data());
+    return ((difference | beyond) & 0xF0F0F0F0F0F0F0F0U) == 0;
 }
 
 bool areHourAndColon(const char* at, const char* end) noexcept

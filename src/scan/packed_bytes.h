@@ -21,9 +21,10 @@ constexpr PackedBytes highBits = everywhere(0x80);
 // Whether the first byte in memory is the lowest one of the word.
 constexpr bool littleEndian = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__;
 
-inline PackedBytes loadBytes(const char* at) noexcept
+template <typename Word = PackedBytes>
+Word loadBytes(const char* at) noexcept
 {
-    PackedBytes word = 0;
+    Word word = 0;
     std::memcpy(&word, at, sizeof(word));
     return word;
 }

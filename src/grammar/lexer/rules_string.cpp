@@ -2,6 +2,7 @@
 #include "rules.h"
 
 #include "matching.h"
+#include "scan/escape.h"
 
 namespace vorn::parsers::toml::rules
 {
@@ -90,26 +91,6 @@ bool matchLines(pANTLR3_LEXER lexer, ANTLR3_UCHAR quote)
     return match(lexer, delimiter);
 }
 
-bool isEscapeLetter(ANTLR3_UCHAR c)
-{
-    switch (c)
-    {
-    case '"':
-    case '\'':
-    case '\\':
-    case 'b':
-    case 'f':
-    case 'n':
-    case 'r':
-    case 't':
-    case 'u':
-    case 'U':
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
 bool basicString(pANTLR3_LEXER lexer)
@@ -138,13 +119,13 @@ bool escape(pANTLR3_LEXER lexer)
     {
         return false;
     }
-    const ANTLR3_UCHAR c = peek(lexer);
-    if (!isEscapeLetter(c))
+    const int digits = escapeDigits(peek(lexer));
+    if (digits == unknownEscape)
     {
         return failChoice(lexer, Decision::escape);
     }
     consume(lexer);
-    return c == 'u' ? fourHexDigits(lexer) : c == 'U' ? eightHexDigits(lexer) : true;
+    return match(lexer, hexDigit, digits);
 }
 
 bool mlEscape(pANTLR3_LEXER lexer)
@@ -154,7 +135,7 @@ bool mlEscape(pANTLR3_LEXER lexer)
         return failChoice(lexer, Decision::mlEscape);
     }
     const ANTLR3_UCHAR c = peek(lexer, 2);
-    if (isEscapeLetter(c))
+    if (escapeDigits(c) != unknownEscape)
     {
         return escape(lexer);
     }
