@@ -121,12 +121,12 @@ std::size_t countCharacters(std::string_view text)
 
 std::size_t characterBegin(std::string_view text, std::size_t at)
 {
-    for (std::size_t behind = 0; behind < 4 && behind <= at; ++behind)
+    for (std::size_t offset = 0; offset < 4 && offset <= at; ++offset)
     {
-        const Character character = characterAt(text, at - behind);
+        const Character character = characterAt(text, at - offset);
         if (character.isWellFormed)
         {
-            return character.length > behind ? at - behind : at;
+            return character.length > offset ? at - offset : at;
         }
     }
     return at;

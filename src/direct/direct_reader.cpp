@@ -1,9 +1,8 @@
 #include "direct_reader.h"
 
-#include "scan/utf8.h"
-
 #include "event_record.h"
 #include "reader.h"
+#include "scan/utf8.h"
 #include "scratch.h"
 #include "visitor_calls.h"
 
@@ -12,8 +11,8 @@ namespace vorn::parsers::toml
 namespace
 {
 
-// Reads lines that are known to be right and calls the visitor: the way of documents that
-// are too long to be recorded whole, not worth its size inlined.
+// Reads lines that are known to be valid and calls the visitor: for documents that are too
+// long to be recorded whole, which do not need it inlined.
 [[gnu::noinline]] void visitLines(const char* begin, const char* end, NestingStack nesting,
                                   VisitorCalls calls)
 {
@@ -31,7 +30,7 @@ namespace
 
 } // namespace
 
-// With everything inlined, the places in the text and in the record are kept in registers.
+// With everything inlined, the positions in the text and in the record stay in registers.
 [[gnu::flatten]] DirectReading readDirectly(const std::string& text, ITomlTreeVisitor& visitor)
 {
     const std::size_t size = text.size();

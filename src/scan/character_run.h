@@ -1,5 +1,5 @@
-// Finds the end of runs of characters of one class, without a branch for each of them:
-// the lengths of words and numbers are hard to predict.
+// Finds the end of a run of characters without a branch for each of them: processors cannot
+// predict the lengths of words and numbers.
 #pragma once
 
 #include "character_class.h"
@@ -8,7 +8,7 @@
 namespace vorn::parsers::toml
 {
 
-// Has a bit set in the first byte that is no digit, and in none before.
+// Marks, by some of its bits, at least the first byte that is no digit, and none before it.
 constexpr PackedBytes nonDigits(PackedBytes word)
 {
     // Digits differ from '0' by 0 to 9: adding 6 leaves the upper half of the byte empty.

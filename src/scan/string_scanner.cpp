@@ -14,15 +14,14 @@ namespace
 
 constexpr Token notRecognised = {TokenType::none, nullptr};
 
-// What strings and comments are made of, as far as nothing depends on it: ASCII without three
-// characters.
+// ASCII without three characters: what strings and comments are made of for the most part.
 template <char first, char second, char third>
 constexpr bool isPlain(char c)
 {
     return c != first && c != second && c != third && isAscii(c);
 }
 
-// Has the high bit of at least the first byte set that is not plain, and of none before.
+// Marks, by its high bit, at least the first byte that is not plain, and none before it.
 template <char first, char second, char third>
 constexpr PackedBytes nonPlainBytes(PackedBytes word)
 {
@@ -36,13 +35,13 @@ const char* plainEnd(const char* at, const char* end) noexcept
     return runEnd<nonPlainBytes<first, second, third>, isPlain<first, second, third>>(at, end);
 }
 
-// The end of `count` hexadecimal digits.
+// The end of `count` hexadecimal digits; null if there are fewer.
 const char* hexEnd(const char* at, const char* end, std::ptrdiff_t count) noexcept
 {
     return end - at >= count && skip(at, at + count, hexDigit) == at + count ? at + count : nullptr;
 }
 
-// The end of the escape whose backslash stands at `at`.
+// The end of the escape whose backslash is at `at`; null if it is unknown or incomplete.
 const char* escapeEnd(const char* at, const char* end) noexcept
 {
     if (end - at < 2)
@@ -53,7 +52,7 @@ const char* escapeEnd(const char* at, const char* end) noexcept
     return digits != unknownEscape ? hexEnd(at + 2, end, digits) : nullptr;
 }
 
-// The same, or a backslash with one line break behind it.
+// The same, or the end of a backslash and one line break.
 const char* multiLineEscapeEnd(const char* at, const char* end) noexcept
 {
     if (end - at >= 2 && at[1] == '\n')
@@ -67,13 +66,13 @@ const char* multiLineEscapeEnd(const char* at, const char* end) noexcept
     return escapeEnd(at, end);
 }
 
-// How many quotes stand there, up to four.  (Were all of a long run counted for each token
-// within it, the time would grow with the square of its length.)
+// How many quotes come next, up to four.  (To count all of a long run for each token in it
+// would take a time that grows with the square of its length.)
 std::ptrdiff_t countQuotes(const char* at, const char* end, char quote) noexcept
 {
-    const char* const most = end - at > 4 ? at + 4 : end;
+    const char* const limit = end - at > 4 ? at + 4 : end;
     const char* stop = at;
-    while (stop != most && *stop == quote)
+    while (stop != limit && *stop == quote)
     {
         ++stop;
     }

@@ -1,4 +1,4 @@
-// What the choice of a token's rule looks at.
+// What the choice of a token's rule sees.
 #pragma once
 
 #include "input_position.h"
@@ -8,8 +8,7 @@
 namespace vorn::parsers::toml
 {
 
-// The characters from the input's position on.  The input goes back there in the end; an
-// exception tells where the choice failed.
+// The characters from the input's position on, to which the input goes back in the end.
 class Lookahead
 {
 public:

@@ -36,8 +36,8 @@ Rule chooseKeyword(Lookahead& ahead, const char* word, Rule rule)
     return ahead.chooseOrKey(rule);
 }
 
-// Digits with underscores go on, from behind the first: they make a token of the rule, or
-// else belong to a key.
+// Digits with underscores go on after the first: they make a token of the rule, or belong to
+// a key.
 Rule chooseDigits(Lookahead& ahead, CharacterClass kind, Rule rule)
 {
     for (;;)
@@ -55,7 +55,7 @@ Rule chooseDigits(Lookahead& ahead, CharacterClass kind, Rule rule)
 }
 
 // An integer has ended, with or without a minus sign.
-Rule chooseBehindInteger(Lookahead& ahead)
+Rule chooseAfterInteger(Lookahead& ahead)
 {
     const ANTLR3_UCHAR c = ahead.next();
     if (c == '.')
@@ -75,7 +75,7 @@ Rule chooseBehindInteger(Lookahead& ahead)
     return ahead.take(digit) ? chooseDigits(ahead, digit, rules::floating) : rules::bareKey;
 }
 
-// The first digits of an integer that does not begin with zero have ended.
+// The first digits of an integer that does not start with zero have ended.
 Rule chooseInteger(Lookahead& ahead)
 {
     while (ahead.take('_'))
@@ -86,16 +86,16 @@ Rule chooseInteger(Lookahead& ahead)
         }
         ahead.takeAll(digit);
     }
-    return chooseBehindInteger(ahead);
+    return chooseAfterInteger(ahead);
 }
 
-Rule chooseBehindTime(const Lookahead& ahead)
+Rule chooseAfterTime(const Lookahead& ahead)
 {
     const ANTLR3_UCHAR c = ahead.next();
     return isSign(c) || c == 'Z' ? rules::offsetDateTime : rules::localDateTime;
 }
 
-// The time of a date-time, from one of its characters on.
+// The time of a date-time, from the character with this index on.
 Rule chooseDateTime(Lookahead& ahead, unsigned index)
 {
     constexpr std::string_view shape = "00:00:00";
@@ -115,11 +115,11 @@ Rule chooseDateTime(Lookahead& ahead, unsigned index)
         }
         ahead.takeAll(digit);
     }
-    return chooseBehindTime(ahead);
+    return chooseAfterTime(ahead);
 }
 
-// A year and a hyphen have been seen.  A whole date before a blank, and one before an hour
-// with a colon, leave the date-times only.
+// After a year and a hyphen.  A whole date before a blank, and one before an hour with a
+// colon, leave the date-times only.
 Rule chooseDate(Lookahead& ahead)
 {
     const bool whole = ahead.take(digit) && ahead.take(digit) && ahead.take('-') &&
@@ -162,7 +162,7 @@ Rule chooseZero(Lookahead& ahead)
     }
     if (!ahead.take(digit))
     {
-        return chooseBehindInteger(ahead);
+        return chooseAfterInteger(ahead);
     }
     if (ahead.next() == ':')
     {
@@ -193,7 +193,7 @@ Rule chooseMinus(Lookahead& ahead)
     {
     case '0':
         ahead.advance();
-        return chooseBehindInteger(ahead);
+        return chooseAfterInteger(ahead);
     case 'i':
         return chooseKeyword(ahead, "inf", rules::inf);
     case 'n':
@@ -208,7 +208,7 @@ Rule chooseMinus(Lookahead& ahead)
     }
 }
 
-// No key has a plus sign, so a number it must be.
+// No key has a plus sign: only numbers are left.
 Rule choosePlus(Lookahead& ahead)
 {
     ahead.advance();

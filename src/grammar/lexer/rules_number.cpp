@@ -43,7 +43,7 @@ bool matchSpecial(pANTLR3_LEXER lexer, const char* text, TokenType type)
 
 } // namespace
 
-// An integer, whose type is stored for now, with an exponent or a fraction.
+// An integer, which stores its own type first, with an exponent or a fraction.
 bool floating(pANTLR3_LEXER lexer)
 {
     if (!decInt(lexer))

@@ -1,4 +1,4 @@
-// Strings and what stands in them.
+// Strings and their escapes.
 #include "rules.h"
 
 #include "matching.h"
@@ -51,8 +51,8 @@ int quotesAhead(pANTLR3_LEXER lexer, ANTLR3_UCHAR quote, int limit)
     return count;
 }
 
-// A string on several lines.  The content goes on behind one or two quotes, and one more
-// quote belongs to it if four end the string.
+// A string on several lines.  The content goes on after one or two quotes; of four at the
+// end, the first belongs to it.
 bool matchLines(pANTLR3_LEXER lexer, ANTLR3_UCHAR quote)
 {
     const bool basic = quote == basicQuote;

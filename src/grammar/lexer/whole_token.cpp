@@ -18,7 +18,7 @@ struct StreamOperations
     decltype(ANTLR3_INT_STREAM::consume) consume;
 };
 
-// The runtime keeps them to itself, but sets them up in a stream that it is given.
+// The runtime does not export them, but sets them up in any stream that it is given.
 StreamOperations findOperations()
 {
     ANTLR3_INT_STREAM stream = {};
@@ -54,7 +54,7 @@ ANTLR3_INT32 countCharacters(const char* begin, const char* end)
         std::count_if(begin, end, [](char c) { return !isContinuation(c); }));
 }
 
-// The same as to consume each character.
+// Does the same as to consume each character.
 void advance(ANTLR3_INPUT_STREAM& input, const char* begin, const char* end)
 {
     const auto lines = std::count(begin, end, '\n');
