@@ -2,21 +2,14 @@
 
 #include <algorithm>
 
+#include "scan/utf8.h"
+
 #include "utf8.h"
 
 namespace tool
 {
-namespace
-{
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-} // namespace
-
 SourceLines::SourceLines(std::string_view text)
-    : text_(text), begins_{text.substr(0, byteOrderMark.size()) == byteOrderMark
-                               ? byteOrderMark.size()
-                               : 0}
+    : text_(text), begins_{vorn::parsers::toml::byteOrderMarkLength(text)}
 {
     for (std::size_t at = text.find('\n'); at != std::string_view::npos; at = text.find('\n', at))
     {

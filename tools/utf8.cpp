@@ -6,33 +6,17 @@
 #include <cwchar>
 #include <memory>
 
+#include "scan/utf8.h"
+
 namespace tool
 {
+
+using vorn::parsers::toml::isAscii;
+using vorn::parsers::toml::sequenceEnd;
+using vorn::parsers::toml::Utf8Range;
+
 namespace
 {
-
-// How long a well-formed character is that begins with this byte; 0 if none does.
-std::size_t lengthFor(unsigned char byte)
-{
-    if (byte < 0x80)
-    {
-        return 1;
-    }
-    return byte < 0xC2 ? 0 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : byte < 0xF5 ? 4 : 0;
-}
-
-bool isContinuation(char c)
-{
-    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
-}
-
-// Whether a code is the one that is meant by a sequence of that length.
-bool isCodeOf(char32_t code, std::size_t length)
-{
-    constexpr char32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
-    const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
-    return code >= least[length] && code <= 0x10FFFF && !isSurrogate;
-}
 
 // The C library's widths of characters, whatever the locale of the user is.
 class Widths
@@ -87,33 +71,30 @@ std::string escape(const char* format, unsigned value)
 Character characterAt(std::string_view text, std::size_t at)
 {
     const auto first = static_cast<unsigned char>(text[at]);
-    const std::size_t length = lengthFor(first);
-    if (length == 1)
+    if (isAscii(text[at]))
     {
         return {first, 1, true};
     }
-    const Character malformed = {first, 1, false};
-    if (length == 0 || text.size() - at < length)
+    const char* const begin = text.data() + at;
+    const char* const stop = sequenceEnd(begin, text.data() + text.size(), Utf8Range::whole);
+    if (stop == nullptr)
     {
-        return malformed;
+        return {first, 1, false};
     }
+    const auto length = static_cast<std::size_t>(stop - begin);
     char32_t code = first & (0xFFU >> (length + 1));
-    for (std::size_t next = at + 1; next < at + length; ++next)
+    for (const char* next = begin + 1; next != stop; ++next)
     {
-        if (!isContinuation(text[next]))
-        {
-            return malformed;
-        }
-        code = (code << 6U) | (static_cast<unsigned char>(text[next]) & 0x3FU);
+        code = (code << 6U) | (static_cast<unsigned char>(*next) & 0x3FU);
     }
-    return isCodeOf(code, length) ? Character{code, length, true} : malformed;
+    return {code, length, true};
 }
 
 std::size_t findMalformed(std::string_view text, std::size_t from)
 {
     while (from < text.size())
     {
-        if (static_cast<signed char>(text[from]) >= 0)
+        if (isAscii(text[from]))
         {
             ++from;
             continue;
@@ -140,12 +121,12 @@ std::size_t countCharacters(std::string_view text)
 
 std::size_t characterBegin(std::string_view text, std::size_t at)
 {
-    for (std::size_t behind = 0; behind < 4 && behind <= at; ++behind)
+    for (std::size_t offset = 0; offset < 4 && offset <= at; ++offset)
     {
-        const Character character = characterAt(text, at - behind);
+        const Character character = characterAt(text, at - offset);
         if (character.isWellFormed)
         {
-            return character.length > behind ? at - behind : at;
+            return character.length > offset ? at - offset : at;
         }
     }
     return at;

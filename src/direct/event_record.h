@@ -11,25 +11,25 @@
 namespace vorn::parsers::toml
 {
 
-// The events of a document's first lines, as a pass over it has found them, so that they
-// can be repeated without reading those lines again.  It is bounded, whatever the size
-// of the document: a sink that takes all events and keeps what it has room for.
+// A sink that keeps the events of a document's first lines, so that they can be repeated
+// without reading those lines again.  It takes all events and keeps what it has room for,
+// which is bounded whatever the size of the document.
 //
-// An event takes a byte: what it is, and with a text whether it begins or ends a pair, too,
-// which saves time rather than room.  A text takes two more, the gap between it and the
-// text before and its length.  Where those are large, eight more bytes follow.
+// An event takes one byte: its kind and, with a text, whether it begins or ends a pair as
+// well, which saves time rather than room.  A text takes two more: its distance from the text
+// before, and its length.  If one of them is large, eight more bytes follow.
 class EventRecord
 {
 public:
     using Byte = std::uint8_t;
 
-    // The bytes that it takes for a document of this many bytes.
+    // The bytes that the record of a document of this many bytes takes.
     static constexpr std::size_t bytesFor(std::size_t size)
     {
-        return std::min(size, mostBytes) + longEntry;
+        return std::min(size, maxBytes) + longEntry;
     }
 
-    // Writes into as many bytes; the document begins at `begin`.
+    // Writes into as many bytes; the document starts at `begin`.
     EventRecord(Byte* bytes, std::size_t size, const char* begin) noexcept
         : begin_(bytes), last_(bytes), lastLine_(bytes), full_(bytes + size - longEntry),
           text_(begin), textEnd_(begin), lineEnd_(begin)
@@ -59,7 +59,7 @@ public:
         record(static_cast<Byte>(event) | endsPair, text);
     }
 
-    // All events of a line, with the pair or the header that it holds, have come.
+    // All events of the lines before `position` have come.
     void lineEnd(const char* position) noexcept
     {
         if (hasRoom())
@@ -114,7 +114,7 @@ public:
     }
 
 private:
-    // The runtime, too, counts a text's bytes in 32 bits.
+    // Of 32 bits, as the runtime counts the bytes of texts.
     struct Numbers
     {
         std::uint32_t gap;
@@ -125,10 +125,10 @@ private:
     static constexpr Byte beginsPair = 0x40;
     static constexpr Byte endsPair = 0x80;
     static constexpr Byte longGap = 255;
-    static constexpr std::size_t mostLength = 255;
+    static constexpr std::size_t maxLength = 255;
     static constexpr std::size_t shortEntry = 3;
     static constexpr std::size_t longEntry = shortEntry + sizeof(Numbers);
-    static constexpr std::size_t mostBytes = std::size_t{512} * 1024;
+    static constexpr std::size_t maxBytes = std::size_t{512} * 1024;
 
     void record(Byte kind, std::string_view text) noexcept
     {
@@ -141,7 +141,7 @@ private:
         textEnd_ = text.data() + text.size();
         Byte* const entry = last_;
         entry[0] = kind;
-        if (gap < longGap && text.size() <= mostLength)
+        if (gap < longGap && text.size() <= maxLength)
         {
             entry[1] = static_cast<Byte>(gap);
             entry[2] = static_cast<Byte>(text.size());
@@ -160,8 +160,7 @@ private:
         return entry + longEntry;
     }
 
-    // For the longest of entries, so that once there is no room there is none for shorter
-    // ones either.
+    // Room for the longest entry: once there is none, shorter ones are not kept either.
     bool hasRoom() const noexcept { return last_ <= full_; }
 
     const Byte* const begin_;

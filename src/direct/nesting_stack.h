@@ -6,34 +6,33 @@
 namespace vorn::parsers::toml
 {
 
-// What a value stands in.
+// What a value is in.
 enum class Inside : std::uint8_t
 {
-    pair,         // of the top level
+    pair,         // a pair of the top level
     inlineTable,  // a pair of an inline table
     firstElement, // an array, as its first element
-    laterElement, // an array, as another element
+    laterElement, // an array, as a later element
 };
 
-// The arrays and inline tables that enclose a position: two bits a level, the innermost
-// outside of the stack.  Its room is never initialised, so that what a document does not
-// use of it costs no memory.
+// The arrays and inline tables that enclose a position: two bits a level, the innermost kept
+// apart.  The room is never initialised, so that what a document does not use costs no memory.
 class NestingStack
 {
 public:
     using Word = std::uint32_t;
 
-    // The words that all levels take that a document of this many bytes can open and close.
+    // The words for all levels that a document of this many bytes can open and close.
     static constexpr std::size_t wordsFor(std::size_t size) { return size / 2 / levelsPerWord + 1; }
 
-    // Takes the levels of a document of this many bytes, in words for as many.
+    // For a document of this many bytes, in words for as many.
     NestingStack(Word* words, std::size_t size) noexcept : words_(words), room_(size / 2) {}
 
     Inside inside() const noexcept { return inside_; }
     // The innermost level is now this.
     void setInside(Inside inside) noexcept { inside_ = inside; }
 
-    // Whether there has been room.
+    // Returns whether there was room.
     bool enter(Inside inside) noexcept
     {
         if (depth_ == room_)

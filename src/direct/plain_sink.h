@@ -7,10 +7,10 @@
 namespace vorn::parsers::toml
 {
 
-// Sinks take a document's events in order: event(), text() for those with a text, and
-// lineEnd().  Where a pair's key has one part, the pair's begin and the key come as one,
-// keyOfPair(), and so do a scalar and the end of its pair, valueOfPair().  A sink that gains
-// nothing by that takes them apart again.
+// A sink takes a document's events in order: event(), text() for those with a text, and
+// lineEnd().  Two events that come together most of the time come as one call: keyOfPair() is
+// the start of a pair and its key, of one part; valueOfPair() is a scalar and the end of its
+// pair.  A sink that gains nothing by that derives from this one, which takes them apart.
 template <typename Sink>
 class PlainSink
 {

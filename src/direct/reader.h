@@ -62,8 +62,8 @@ constexpr Event scalarEvent(TokenType type)
     }
 }
 
-// Follows the rules of documents token by token.  Each member stops before the first
-// token behind what it has read; false means a refusal.
+// Follows the rules of documents token by token.  Each member stops before the first token
+// after what it has read; it returns false if it cannot read that.
 template <typename Sink>
 class Reader
 {
@@ -180,7 +180,7 @@ private:
         value,   // an element, if not the value of a pair
         end,     // the array or inline table has ended
         nothing, // the pair of the top level has ended
-        refusal,
+        refusal, // cannot be read
     };
 
     // Begins the array or inline table whose bracket has been taken.
@@ -211,7 +211,7 @@ private:
         return afterPair();
     }
 
-    // Behind an array or inline table.
+    // After an array or inline table.
     After afterEnd()
     {
         if (isInArray())
@@ -247,9 +247,9 @@ private:
         return After::end;
     }
 
-    // Behind an element: one line break, but not behind the first one.  Then another
-    // one commits to a comma and a value.  Without it a bracket or a comma may follow,
-    // and behind the comma a bracket, or else a value with one line break before it.
+    // After an element that is not the first there may be a line break.  After any element,
+    // another one commits to a comma and a value.  Without it a bracket or a comma may follow,
+    // and after the comma a bracket, or a value with at most one line break before it.
     After afterElement()
     {
         if (nesting_.inside() == Inside::laterElement)

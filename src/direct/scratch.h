@@ -7,8 +7,8 @@
 namespace vorn::parsers::toml
 {
 
-// Room for elements, never initialised.  A few are within the object itself: small documents
-// are read without asking for memory, which would take a tenth of the time.
+// Room for elements, never initialised.  A few fit the object itself: small documents are
+// read without allocating memory, which would take a tenth of the time.
 template <typename Element, std::size_t few>
 class Scratch
 {

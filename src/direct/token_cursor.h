@@ -16,7 +16,7 @@ struct TakenToken
     std::string_view text;
 };
 
-// What is rare, or long enough, stays a function of its own where the rest is inlined.
+// The reader inlines everything else; what is rare, or long, stays a function of its own.
 
 // The end of line breaks, carriage returns among them; null if there are none.
 [[gnu::noinline]] inline const char* newlineEnd(const char* begin, const char* end) noexcept
@@ -25,8 +25,8 @@ struct TakenToken
     return token.type == TokenType::newline ? token.end : nullptr;
 }
 
-// The end of blanks and of a comment behind them, which ends before a line break.  One that
-// is not recognised stays: no token begins with its character.
+// The end of blanks and of a comment after them, which ends before a line break.  A comment
+// that is not recognised is not skipped: no token starts with its character.
 [[gnu::noinline]] inline const char* skippedEnd(const char* begin, const char* end) noexcept
 {
     const char* const at = skip(begin, end, blank);
@@ -34,10 +34,10 @@ struct TakenToken
     return stop != nullptr ? stop : at;
 }
 
-// Goes over a NUL-terminated text token by token, blanks and comments left out.  Tokens
-// of one character are known by it, the others are scanned when they are taken.
+// Goes over a NUL-terminated text token by token, without blanks and comments.  A token of one
+// character is known by it; the others are scanned when they are taken.
 //
-// No token begins with NUL, so that what asks for the next one need not ask for the end.
+// No token starts with NUL: to ask for a token needs no check for the end.
 class TokenCursor
 {
 public:
@@ -49,7 +49,7 @@ public:
 
     bool atEnd() const noexcept { return at_ == end_; }
 
-    // Whether the next token is, or begins with, this character.
+    // Whether the next token is, or starts with, this character.
     bool isNext(char c) const noexcept { return *at_ == c; }
 
     // Goes over a token of one character, if it is the next.
@@ -67,7 +67,7 @@ public:
     // Goes over line breaks, if they come next.
     bool takeNewline() noexcept
     {
-        // Nothing else begins with characters as low.
+        // No other token starts with a character as low.
         if (byte() > '\r')
         {
             return false;
@@ -90,7 +90,7 @@ public:
         return true;
     }
 
-    // Goes over the next token, whatever it is; stays where none is recognised.
+    // Goes over the next token, whatever it is; stays if none is recognised.
     TakenToken take() noexcept
     {
         const char* const begin = at_;
@@ -110,7 +110,7 @@ public:
 private:
     unsigned char byte() const noexcept { return static_cast<unsigned char>(*at_); }
 
-    // Also goes over a comment.  Most often one blank is all that there is.
+    // Also goes over a comment.  Mostly there is just one blank.
     void skipBlanks() noexcept
     {
         if (isNext(' '))

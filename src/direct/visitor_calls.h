@@ -14,11 +14,11 @@
 namespace vorn::parsers::toml
 {
 
-// A sink that calls the visitor.  Texts are handed over NUL-terminated, from one buffer.
+// A sink that calls the visitor.  It hands over texts NUL-terminated, from one buffer.
 class VisitorCalls : public PlainSink<VisitorCalls>
 {
 public:
-    // The bytes that texts up to a length take.
+    // The bytes of a buffer for texts up to this length.
     static constexpr std::size_t bytesFor(std::size_t longestText)
     {
         return std::max(longestText, block) + 1;
@@ -61,7 +61,7 @@ private:
     static_assert(static_cast<std::size_t>(Event::none) ==
                   operations.size() + textOperations.size());
 
-    // Most texts are short, and a block of fixed size is copied fastest.
+    // Most texts are short, and a block of a fixed size is copied fastest.
     static constexpr std::size_t block = 32;
 
     const char* terminated(std::string_view text) noexcept

@@ -5,13 +5,12 @@
 #include "direct/plain_sink.h"
 #include "direct/reader.h"
 #include "direct/scratch.h"
+#include "scan/utf8.h"
 
 namespace vorn::parsers::toml
 {
 namespace
 {
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 // A sink that counts the levels of nesting.
 class Levels : public PlainSink<Levels>
@@ -48,10 +47,7 @@ private:
 
 unsigned documentDepth(std::string_view text)
 {
-    if (text.substr(0, byteOrderMark.size()) == byteOrderMark)
-    {
-        text.remove_prefix(byteOrderMark.size());
-    }
+    text.remove_prefix(byteOrderMarkLength(text));
     // Levels that are never closed count as well.
     const std::size_t size = 2 * text.size();
     const Scratch<NestingStack::Word, 64> words(NestingStack::wordsFor(size));

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "scan/token_type.h"
+
 namespace vorn::parsers::toml
 {
 
@@ -35,7 +37,7 @@ public:
 
 private:
     // The types of Toml.g fit two words.
-    static constexpr std::size_t typeCount = 76;
+    static constexpr std::size_t typeCount = tokenTypeCount;
     using Types = std::array<ANTLR3_BITWORD, 2>;
 
     FollowStack(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_INT_STREAM tokens) noexcept;

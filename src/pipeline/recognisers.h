@@ -10,6 +10,7 @@
 #include "grammar/tree_actions.h"
 
 #include "grammar/lexer/toml_lexer.h"
+#include "scan/token_type.h"
 
 #include "TomlParser.h"
 #include "TomlTree.h"
@@ -19,8 +20,8 @@ extern "C"
     // The names of the token and node types, indexed by type, for the runtime's
     // messages.  Both tables hold the same names.
     // NOLINTBEGIN(*-avoid-non-const-global-variables): the tool makes them like that.
-    extern pANTLR3_UINT8 TomlParserTokenNames[76];
-    extern pANTLR3_UINT8 TomlTreeTokenNames[76];
+    extern pANTLR3_UINT8 TomlParserTokenNames[vorn::parsers::toml::tokenTypeCount];
+    extern pANTLR3_UINT8 TomlTreeTokenNames[vorn::parsers::toml::tokenTypeCount];
     // NOLINTEND(*-avoid-non-const-global-variables)
 }
 

@@ -16,7 +16,7 @@ enum CharacterClass : std::uint8_t
     letter = 16,
     keyCharacter = 32, // what bare keys are made of
     blank = 64,
-    skipped = 128, // blanks, and what comments begin with
+    skipped = 128, // blanks and the start of comments
 };
 
 constexpr bool isFrom(unsigned c, char first, char last)

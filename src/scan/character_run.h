@@ -1,5 +1,5 @@
-// Finds the end of runs of characters of one class, without a branch for each of them:
-// the lengths of words and numbers are hard to predict.
+// Finds the end of a run of characters without a branch for each of them: processors cannot
+// predict the lengths of words and numbers.
 #pragma once
 
 #include "character_class.h"
@@ -8,7 +8,7 @@
 namespace vorn::parsers::toml
 {
 
-// Has a bit set in the first byte that is no digit, and in none before.
+// Marks, by some of its bits, at least the first byte that is no digit, and none before it.
 constexpr PackedBytes nonDigits(PackedBytes word)
 {
     // Digits differ from '0' by 0 to 9: adding 6 leaves the upper half of the byte empty.
@@ -32,32 +32,43 @@ constexpr PackedBytes nonKeyCharacters(PackedBytes word)
     return (~found | word) & highBits;
 }
 
-// The first position from `at` on that is not of the class.
-template <PackedBytes (*others)(PackedBytes), CharacterClass kind>
+// The first position from `at` on whose character does not belong to the run.  Of a word,
+// `others` marks at least the first such byte, and none before.
+template <PackedBytes (*others)(PackedBytes), bool (*belongs)(char)>
 const char* runEnd(const char* at, const char* end) noexcept
 {
-    if constexpr (littleEndian)
+    for (; end - at >= static_cast<std::ptrdiff_t>(sizeof(PackedBytes)); at += sizeof(PackedBytes))
     {
-        for (; end - at >= static_cast<std::ptrdiff_t>(sizeof(PackedBytes));
-             at += sizeof(PackedBytes))
+        if (const PackedBytes found = others(loadBytes(at)); found != 0)
         {
-            if (const PackedBytes found = others(loadBytes(at)); found != 0)
+            if constexpr (littleEndian)
             {
                 return at + lowestByte(found);
             }
+            break;
         }
     }
-    return skip(at, end, kind);
+    while (at != end && belongs(*at))
+    {
+        ++at;
+    }
+    return at;
+}
+
+template <CharacterClass kind>
+constexpr bool isOf(char c)
+{
+    return is(c, kind);
 }
 
 inline const char* skipDigits(const char* at, const char* end) noexcept
 {
-    return runEnd<nonDigits, digit>(at, end);
+    return runEnd<nonDigits, isOf<digit>>(at, end);
 }
 
 inline const char* skipKeyCharacters(const char* at, const char* end) noexcept
 {
-    return runEnd<nonKeyCharacters, keyCharacter>(at, end);
+    return runEnd<nonKeyCharacters, isOf<keyCharacter>>(at, end);
 }
 
 } // namespace vorn::parsers::toml

@@ -3,9 +3,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 #include "character_class.h"
+#include "packed_bytes.h"
 
 namespace vorn::parsers::toml
 {
@@ -16,17 +16,10 @@ constexpr std::ptrdiff_t dateLength = 10;      // 0000-00-00
 constexpr std::ptrdiff_t timeLength = 8;       // 00:00:00
 constexpr std::ptrdiff_t hourMinuteLength = 5; // 00:00
 
-std::uint64_t load(const char* at) noexcept
-{
-    std::uint64_t bytes = 0;
-    std::memcpy(&bytes, at, sizeof(bytes));
-    return bytes;
-}
-
 // Whether eight bytes have a shape, in which '0' stands for any digit.
 //
-// Digits differ from '0' by 0 to 9, separators from themselves by 0.  What is added
-// makes a difference beyond that reach the upper half of its byte.
+// Digits differ from '0' by 0 to 9, separators from themselves by 0.  The addition makes
+// any larger difference reach the upper half of its byte.
 bool haveShape(const char* at, const char (&shape)[9]) noexcept
 {
     std::array<char, 8> reach = {};
@@ -34,8 +27,9 @@ bool haveShape(const char* at, const char (&shape)[9]) noexcept
     {
         reach[index] = shape[index] == '0' ? 0x06 : 0x0F;
     }
-    const std::uint64_t difference = load(at) ^ load(shape);
-    return ((difference | (difference + load(reach.data()))) & 0xF0F0F0F0F0F0F0F0U) == 0;
+    const auto difference = loadBytes<std::uint64_t>(at) ^ loadBytes<std::uint64_t>(shape);
+    const auto beyond = difference + loadBytes<std::uint64_t>(reach.data());
+    return ((difference | beyond) & 0xF0F0F0F0F0F0F0F0U) == 0;
 }
 
 bool areHourAndColon(const char* at, const char* end) noexcept
@@ -65,7 +59,7 @@ const char* partialTimeEnd(const char* at, const char* end) noexcept
     return stop != at + 1 ? stop : nullptr;
 }
 
-// The date-time whose time begins at `at`.
+// The date-time whose time starts at `at`.
 Token scanDateTime(const char* at, const char* end) noexcept
 {
     at = partialTimeEnd(at, end);
@@ -98,8 +92,8 @@ bool beginsWithDate(const char* at, const char* end) noexcept
     return end - at >= dateLength && haveShape(at, "0000-00-") && haveShape(at + 2, "00-00-00");
 }
 
-// A date before a blank, and one before an hour with a colon, has begun a date-time:
-// that must be whole, there is no way back to the date alone.
+// A date before a blank, and one before an hour with a colon, starts a date-time.  That must
+// be whole: there is no way back to the date alone.
 Token scanDate(const char* begin, const char* end) noexcept
 {
     const char* const at = begin + dateLength;

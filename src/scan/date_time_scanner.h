@@ -6,10 +6,10 @@
 namespace vorn::parsers::toml
 {
 
-// Whether the text at `at` begins with a date.
+// Whether the text at `at` starts with a date.
 bool beginsWithDate(const char* at, const char* end) noexcept;
 
-// The token that begins with the date at `begin`: a date, a date-time or a bare key.
+// The token that starts with the date at `begin`: a date, a date-time or a bare key.
 Token scanDate(const char* begin, const char* end) noexcept;
 
 // The time at `begin`.

@@ -1,4 +1,4 @@
-// Looks at as many bytes at a time as fit a machine word.
+// Machine words whose bytes are looked at all at once.
 #pragma once
 
 #include <cstddef>
@@ -21,21 +21,22 @@ constexpr PackedBytes highBits = everywhere(0x80);
 // Whether the first byte in memory is the lowest one of the word.
 constexpr bool littleEndian = __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__;
 
-inline PackedBytes loadBytes(const char* at) noexcept
+template <typename Word = PackedBytes>
+Word loadBytes(const char* at) noexcept
 {
-    PackedBytes word = 0;
+    Word word = 0;
     std::memcpy(&word, at, sizeof(word));
     return word;
 }
 
-// The number of the lowest byte with a bit set.
+// The place of the lowest byte with a bit set, from 0.
 inline std::ptrdiff_t lowestByte(PackedBytes marked) noexcept
 {
     static_assert(sizeof(PackedBytes) <= sizeof(unsigned long));
     return __builtin_ctzl(marked) / 8;
 }
 
-// Has the high bit of at least the first byte that equals `c` set, and of none before.
+// Marks, by its high bit, at least the first byte that equals `c`, and none before it.
 constexpr PackedBytes bytesEqual(PackedBytes word, char c)
 {
     const PackedBytes difference = word ^ everywhere(static_cast<unsigned char>(c));

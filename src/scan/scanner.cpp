@@ -10,7 +10,6 @@ namespace
 {
 
 // A run of line breaks, each a line feed with or without a carriage return before it.
-// A carriage return alone ends the run if one break has been seen.
 Token scanNewlines(const char* begin, const char* end) noexcept
 {
     const char* at = begin;
@@ -29,7 +28,7 @@ Token scanNewlines(const char* begin, const char* end) noexcept
             break;
         }
     }
-    // A carriage return that no line feed follows is taken for a line break that fails.
+    // The lexer takes a carriage return without a line feed for a line break that fails.
     const bool broken = at == begin || (at != end && *at == '\r');
     return broken ? Token{TokenType::none, nullptr} : Token{TokenType::newline, at};
 }

@@ -1,9 +1,9 @@
 // Finds tokens in bytes.
 //
-// A position is scanned for the one token that begins there, by the grammar's own
-// precedence: the longest text that any rule can go on with, then the first rule.  The
-// scanner recognises whole, well-formed tokens only.  Whatever the lexer would report
-// as an error, and a few rarities besides, it does not recognise.
+// The scanner looks for the one token that starts at a position, by the grammar's own
+// precedence: the longest text that any rule can go on with, then the first rule.  It
+// recognises whole, well-formed tokens only: not what the lexer would report as an error,
+// nor a few rarities.
 #pragma once
 
 #include "character_class.h"
@@ -13,12 +13,10 @@
 namespace vorn::parsers::toml
 {
 
-// A token that begins with a mark: not with what words and numbers without a plus sign
-// begin with.
+// A token that starts with none of the characters of bare keys.
 Token scanMark(const char* begin, const char* end) noexcept;
 
-// The token that begins at `begin`, which is before `end`.  Reads nothing at or behind
-// `end`.
+// The token that starts at `begin`, which is before `end`.  Reads nothing from `end` on.
 inline Token scanToken(const char* begin, const char* end) noexcept
 {
     if (is(*begin, digit))

@@ -1,9 +1,11 @@
 #include "string_scanner.h"
 
-#include "character_class.h"
-#include "packed_bytes.h"
-
 #include <cstddef>
+
+#include "character_class.h"
+#include "character_run.h"
+#include "escape.h"
+#include "utf8.h"
 
 namespace vorn::parsers::toml
 {
@@ -12,92 +14,45 @@ namespace
 
 constexpr Token notRecognised = {TokenType::none, nullptr};
 
-// The first position from `at` on that holds one of the three characters or a byte
-// that is not ASCII.
+// ASCII without three characters: what strings and comments are made of for the most part.
+template <char first, char second, char third>
+constexpr bool isPlain(char c)
+{
+    return c != first && c != second && c != third && isAscii(c);
+}
+
+// Marks, by its high bit, at least the first byte that is not plain, and none before it.
+template <char first, char second, char third>
+constexpr PackedBytes nonPlainBytes(PackedBytes word)
+{
+    return (bytesEqual(word, first) | bytesEqual(word, second) | bytesEqual(word, third) | word) &
+           highBits;
+}
+
 template <char first, char second, char third>
 const char* plainEnd(const char* at, const char* end) noexcept
 {
-    for (; end - at >= static_cast<std::ptrdiff_t>(sizeof(PackedBytes)); at += sizeof(PackedBytes))
-    {
-        const PackedBytes word = loadBytes(at);
-        const PackedBytes found =
-            (bytesEqual(word, first) | bytesEqual(word, second) | bytesEqual(word, third) | word) &
-            highBits;
-        if (found != 0)
-        {
-            // The lowest byte that is marked has been found for sure.
-            if constexpr (littleEndian)
-            {
-                return at + lowestByte(found);
-            }
-            break;
-        }
-    }
-    while (at != end && *at != first && *at != second && *at != third &&
-           static_cast<signed char>(*at) >= 0)
-    {
-        ++at;
-    }
-    return at;
+    return runEnd<nonPlainBytes<first, second, third>, isPlain<first, second, third>>(at, end);
 }
 
-bool isContinuation(char c) noexcept
-{
-    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
-}
-
-// The end of the well-formed UTF-8 sequence, up to U+FFFF and not ASCII, at `at`.
-const char* sequenceEnd(const char* at, const char* end) noexcept
-{
-    const auto lead = static_cast<unsigned char>(*at);
-    if (lead >= 0xC2 && lead <= 0xDF)
-    {
-        return end - at >= 2 && isContinuation(at[1]) ? at + 2 : nullptr;
-    }
-    if ((lead & 0xF0) != 0xE0 || end - at < 3 || !isContinuation(at[1]) || !isContinuation(at[2]))
-    {
-        return nullptr;
-    }
-    const auto second = static_cast<unsigned char>(at[1]);
-    const bool overlong = lead == 0xE0 && second < 0xA0;
-    const bool surrogate = lead == 0xED && second >= 0xA0;
-    return overlong || surrogate ? nullptr : at + 3;
-}
-
-// The end of `count` hexadecimal digits.
+// The end of `count` hexadecimal digits; null if there are fewer.
 const char* hexEnd(const char* at, const char* end, std::ptrdiff_t count) noexcept
 {
     return end - at >= count && skip(at, at + count, hexDigit) == at + count ? at + count : nullptr;
 }
 
-// The end of the escape whose backslash stands at `at`.
+// The end of the escape whose backslash is at `at`; null if it is unknown or incomplete.
 const char* escapeEnd(const char* at, const char* end) noexcept
 {
     if (end - at < 2)
     {
         return nullptr;
     }
-    switch (at[1])
-    {
-    case '"':
-    case '\'':
-    case '\\':
-    case 'b':
-    case 'f':
-    case 'n':
-    case 'r':
-    case 't':
-        return at + 2;
-    case 'u':
-        return hexEnd(at + 2, end, 4);
-    case 'U':
-        return hexEnd(at + 2, end, 8);
-    default:
-        return nullptr;
-    }
+    const int digits = escapeDigits(static_cast<unsigned char>(at[1]));
+    return digits != unknownEscape ? hexEnd(at + 2, end, digits) : nullptr;
 }
 
-// The same, or a backslash with one line break behind it.
+// The same, or the end of a backslash and one line break.
 const char* multiLineEscapeEnd(const char* at, const char* end) noexcept
 {
     if (end - at >= 2 && at[1] == '\n')
@@ -111,13 +66,13 @@ const char* multiLineEscapeEnd(const char* at, const char* end) noexcept
     return escapeEnd(at, end);
 }
 
-// How many quotes stand there, up to four.  (Were all of a long run counted for each token
-// within it, the time would grow with the square of its length.)
+// How many quotes come next, up to four.  (To count all of a long run for each token in it
+// would take a time that grows with the square of its length.)
 std::ptrdiff_t countQuotes(const char* at, const char* end, char quote) noexcept
 {
-    const char* const most = end - at > 4 ? at + 4 : end;
+    const char* const limit = end - at > 4 ? at + 4 : end;
     const char* stop = at;
-    while (stop != most && *stop == quote)
+    while (stop != limit && *stop == quote)
     {
         ++stop;
     }
@@ -140,7 +95,7 @@ Token scanLine(const char* at, const char* end) noexcept
         {
             return {type, at + 1};
         }
-        at = *at == '\\' ? escapeEnd(at, end) : sequenceEnd(at, end);
+        at = *at == '\\' ? escapeEnd(at, end) : sequenceEnd(at, end, Utf8Range::upToFFFF);
         if (at == nullptr)
         {
             return notRecognised;
@@ -171,7 +126,7 @@ Token scanLines(const char* at, const char* end) noexcept
             at += quotes;
             continue;
         }
-        at = *at == '\\' ? multiLineEscapeEnd(at, end) : sequenceEnd(at, end);
+        at = *at == '\\' ? multiLineEscapeEnd(at, end) : sequenceEnd(at, end, Utf8Range::upToFFFF);
         if (at == nullptr)
         {
             return notRecognised;
@@ -211,7 +166,7 @@ const char* commentEnd(const char* begin, const char* end) noexcept
         {
             return at;
         }
-        at = sequenceEnd(at, end);
+        at = sequenceEnd(at, end, Utf8Range::upToFFFF);
     }
     return nullptr;
 }

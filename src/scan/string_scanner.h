@@ -6,12 +6,12 @@
 namespace vorn::parsers::toml
 {
 
-// The string that begins at `begin` with a quotation mark or an apostrophe.
+// The string that starts at `begin`: with a quotation mark, or with an apostrophe.
 Token scanBasic(const char* begin, const char* end) noexcept;
 Token scanLiteral(const char* begin, const char* end) noexcept;
 
-// The end of the comment that begins at `begin`: its line feed or the end of the text.
-// Null if it is not recognised.
+// The end of the comment that starts at `begin`: its line feed or the end of the text.
+// Null if the comment is not recognised.
 const char* commentEnd(const char* begin, const char* end) noexcept;
 
 } // namespace vorn::parsers::toml

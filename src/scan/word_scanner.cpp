@@ -12,8 +12,7 @@ namespace vorn::parsers::toml
 namespace
 {
 
-// The end of digits with single underscores between them; null if there is no digit
-// where one must be.
+// The end of digits with single underscores between them; null if a digit is missing.
 const char* digitsEnd(const char* at, const char* end, CharacterClass kind) noexcept
 {
     for (;;)
@@ -42,7 +41,7 @@ bool isExponentMark(const char* at, const char* end) noexcept
     return at != end && (*at == 'e' || *at == 'E');
 }
 
-// The end of the exponent whose mark stands at `at`.
+// The end of the exponent whose mark is at `at`.
 const char* exponentEnd(const char* at, const char* end) noexcept
 {
     ++at;
@@ -58,7 +57,7 @@ Token token(TokenType type, const char* end) noexcept
     return {end != nullptr ? type : TokenType::none, end};
 }
 
-// A number goes on with the point at `at`: nothing but a float can follow.
+// A number goes on with the point at `at`: it must be a float.
 Token scanFraction(const char* at, const char* end) noexcept
 {
     at = digitsEnd(at + 1, end, digit);
@@ -90,8 +89,8 @@ Radix radixOf(char mark) noexcept
     }
 }
 
-// The word from `begin` to `stop` starts with a digit or a minus sign, and none of the
-// longer tokens goes on behind it: it is a number or else a bare key.
+// The word from `begin` to `stop` starts with a digit or a minus sign, and no longer token
+// goes on after it: it is a number or a bare key.
 TokenType classifyNumber(const char* begin, const char* stop) noexcept
 {
     const bool isSigned = *begin == '-';
@@ -134,8 +133,8 @@ TokenType classifyKeyword(std::string_view word) noexcept
     }
 }
 
-// A number, with its minus sign if it has one, or a bare key that looks like one at
-// first.  Where a float has begun it must be whole: there is no way back to the word.
+// A number, perhaps with a minus sign, or a bare key that starts like one.  Once a float has
+// started it must be whole: there is no way back to the word.
 Token scanNumber(const char* begin, const char* end) noexcept
 {
     const char* const stop = skipKeyCharacters(begin, end);
@@ -159,16 +158,16 @@ Token scanNumber(const char* begin, const char* end) noexcept
 Token scanDigit(const char* begin, const char* end) noexcept
 {
     const char* const stop = skipDigits(begin, end);
-    const char behind = stop != end ? *stop : '\0';
-    if (behind == '-' && beginsWithDate(begin, end))
+    const char next = stop != end ? *stop : '\0';
+    if (next == '-' && beginsWithDate(begin, end))
     {
         return scanDate(begin, end);
     }
-    if (behind == ':' && stop - begin == 2)
+    if (next == ':' && stop - begin == 2)
     {
         return scanTime(begin, end);
     }
-    if (is(behind, keyCharacter) || behind == '.')
+    if (is(next, keyCharacter) || next == '.')
     {
         return scanNumber(begin, end);
     }

@@ -6,12 +6,12 @@
 namespace vorn::parsers::toml
 {
 
-// The token that begins at `begin` with a key character: a letter, an underscore or a
-// minus sign in the first case, a digit in the second.
+// The token at `begin` that starts with a letter, an underscore or a minus sign, or with a
+// digit.
 Token scanWord(const char* begin, const char* end) noexcept;
 Token scanDigit(const char* begin, const char* end) noexcept;
 
-// The token that begins at `begin` with a plus sign.
+// The token at `begin` that starts with a plus sign.
 Token scanPlus(const char* begin, const char* end) noexcept;
 
 } // namespace vorn::parsers::toml

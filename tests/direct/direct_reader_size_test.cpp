@@ -137,7 +137,7 @@ TEST(LargeDocuments, mayHoldALineThatTheRecordCannot)
     expectRead(amongOthers);
 }
 
-// Whatever is left of the record's room, the line behind it is read from its beginning.
+// Whatever is left of the record's room, the line after it is read from its start.
 TEST(LargeDocuments, giveTheSameCallsWhereverTheRecordEnds)
 {
     for (int elements = 0; elements < 9; elements += VORN_TEST_STEP)

@@ -159,7 +159,7 @@ TEST(EventRecord, leavesOutALineThatHasNotEnded)
     EXPECT_EQ(recording.record.longestText(), 50u);
 }
 
-// Whatever there is room for, it is whole lines from the beginning on, and no line behind
+// Whatever there is room for, it is whole lines from the start on, and no line after
 // one that did not fit, however short it is.
 TEST(EventRecord, isCutOffAtTheEndOfALine)
 {
@@ -195,7 +195,7 @@ TEST(EventRecord, isCutOffAtTheEndOfALine)
 TEST(EventRecord, isBounded)
 {
     constexpr std::size_t lines = 200000;
-    constexpr std::size_t most = 256 * 1024;
+    constexpr std::size_t limit = 256 * 1024;
     const std::string document(lines * 6, 'x');
     Record record(document);
     const char* at = document.data();
@@ -210,13 +210,13 @@ TEST(EventRecord, isBounded)
     test::EventSink repeated;
     record.repeat(repeated);
     const std::size_t count = repeated.events.size();
-    EXPECT_LE(count, most);
-    EXPECT_GE(count, most - 16);
+    EXPECT_LE(count, limit);
+    EXPECT_GE(count, limit - 16);
     EXPECT_EQ(count % 4, 0u);
     EXPECT_EQ(record.position(), document.data() + count / 4 * 6);
     EXPECT_EQ(repeated.texts.back().data(), record.position() - 2);
 
-    // A text behind the record counts all the same.
+    // A text after the record counts all the same.
     EXPECT_EQ(record.longestText(), 1u);
     record.text(Event::visitBareKey, {document.data(), 5000});
     EXPECT_EQ(record.longestText(), 5000u);

@@ -143,7 +143,7 @@ TEST(Reader, readsArraysWithLineBreaksWhereTheyMayBe)
                 {"a = [\n1\n,\n2\n,]\n", both},
                 {"a = [1, 2\n, 1]\n", all},
                 {"a = [1, 2\n,\n1\n]\n", all},
-                // Behind an element that is not the first there may be two.
+                // After an element that is not the first there may be two.
                 {"a = [1, 2\n \n, 1]\n", all},
                 {"a = [1, 2 # c\n# d\n,\n1 # e\n] # f\n", all},
                 {"a = [1,\n2,\n1,]\n", all}});
@@ -170,7 +170,7 @@ TEST(Reader, readsNestedArraysAndInlineTables)
                 inlineTable({pair(bare("b"), array({inlineTable({bIsOne})}))})})}});
 }
 
-// What an inner array is like says nothing about the outer one behind it.
+// What an inner array is like says nothing about the outer one after it.
 TEST(Reader, goesBackToTheRulesOfTheEnclosingArray)
 {
     expectRead({{"a = [[1, 2]\n, 1]\n", list({array({one, two}), one})},
@@ -213,17 +213,17 @@ TEST(Reader, tellsWhereItsLinesEnd)
     const std::string text = "\n[t] # c\n\na = 1\n # c\n b = [1,\n2\n] \r\n\n[[u]]\n";
     const Outcome outcome = readLines(text);
     ASSERT_TRUE(outcome.read);
-    std::vector<std::string> behind;
+    std::vector<std::string> after;
     for (const char* const position : outcome.sink.lineEnds)
     {
-        behind.emplace_back(position, text.data() + text.size());
+        after.emplace_back(position, text.data() + text.size());
     }
-    // A line's end takes along the run of line breaks behind it, and what is no token.
-    EXPECT_EQ(behind, std::vector<std::string>({"a = 1\n # c\n b = [1,\n2\n] \r\n\n[[u]]\n",
-                                                "\n b = [1,\n2\n] \r\n\n[[u]]\n", "[[u]]\n", ""}));
+    // A line's end includes the run of line breaks after it, blanks and comments.
+    EXPECT_EQ(after, std::vector<std::string>({"a = 1\n # c\n b = [1,\n2\n] \r\n\n[[u]]\n",
+                                               "\n b = [1,\n2\n] \r\n\n[[u]]\n", "[[u]]\n", ""}));
 }
 
-// More brackets than could be closed are refused as soon as that is sure.
+// More brackets than the rest of the text could close are not read to the end.
 TEST(Reader, refusesWhatCannotBeClosed)
 {
     for (const std::string opening : {"[", "{a=", "[{a="})

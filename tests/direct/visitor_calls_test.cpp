@@ -65,7 +65,7 @@ TEST(VisitorCalls, areNotMadeForTheEndOfALine)
     EXPECT_EQ(visitor.events(), test::Events());
 }
 
-// The text is right before a page that cannot be read, or some bytes before it.
+// The text is just before a page that cannot be read, or some bytes before that.
 TEST(VisitorCalls, handTextsOverThatEndAnywhereBeforeTheDocument)
 {
     std::string bytes;
@@ -77,11 +77,11 @@ TEST(VisitorCalls, handTextsOverThatEndAnywhereBeforeTheDocument)
     memory.hold(bytes);
     for (std::size_t length = 0; length <= 260; ++length)
     {
-        for (std::size_t behind = 0; behind <= 40; ++behind)
+        for (std::size_t after = 0; after <= 40; ++after)
         {
-            const char* const begin = memory.end() - behind - length;
+            const char* const begin = memory.end() - after - length;
             ASSERT_EQ(handedOver(begin, length, memory.end()), std::string(begin, length))
-                << length << " bytes, " << behind << " behind them";
+                << length << " bytes, " << after << " after them";
         }
     }
 }

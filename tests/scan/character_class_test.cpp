@@ -51,13 +51,13 @@ TEST(CharacterClass, isSkippedUpToTheFirstOtherByteOrTheEnd)
     for (const auto& [name, kind, members] : classes)
     {
         SCOPED_TRACE(name);
-        for (const char* const behind : {"", "!", "\xff", "!0a "})
+        for (const char* const after : {"", "!", "\xff", "!0a "})
         {
-            const std::string text = members + behind;
+            const std::string text = members + after;
             const char* const end = text.data() + text.size();
             EXPECT_EQ(skip(text.data(), end, kind) - text.data(),
                       static_cast<std::ptrdiff_t>(members.size()))
-                << behind;
+                << after;
             EXPECT_EQ(skip(text.data(), text.data() + 1, kind), text.data() + 1);
             EXPECT_EQ(skip(text.data(), text.data(), kind), text.data());
             EXPECT_EQ(skip(end, end, kind), end);

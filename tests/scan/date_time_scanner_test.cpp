@@ -135,7 +135,7 @@ TEST(DateTimeScanner, takesDatesWithKeyCharactersBehindThemAsBareKeys)
                                        {"1979-05-27-", "+"}});
 }
 
-// A blank behind a date, and an hour with a colon, have begun a date-time.
+// A blank after a date, and an hour with a colon, start a date-time.
 TEST(DateTimeScanner, doesNotGoBackFromADateTimeThatFails)
 {
     std::vector<std::string> texts;
@@ -214,8 +214,8 @@ TEST(DateTimeScanner, knowsADateTimeByEveryByte)
     forEveryByteInEveryPlace("-07:32:00+23:59",
                              [](const std::string& text, bool fits)
                              {
-                                 // Three marks may stand between a date and a time, and
-                                 // two before an offset.
+                                 // Any of three marks may stand between a date and a time,
+                                 // and of two before an offset.
                                  if (text[0] != '-' || text[9] == '-')
                                  {
                                      return;

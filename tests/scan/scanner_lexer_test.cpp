@@ -122,7 +122,7 @@ bool isSkipped(TokenType type)
 }
 
 // Follows the scanner through the text as far as it recognises tokens, while the lexer's
-// token source emits those that it does not skip; answers with how many these are.
+// token source emits those that it does not skip; returns how many these are.
 int followBoth(const std::string& text)
 {
     const Lexer lexer(text);

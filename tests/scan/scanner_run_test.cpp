@@ -32,8 +32,8 @@ const Form forms[] = {
     {"'''", TokenType::mlLiteralString, "'''"},
 };
 
-// What the scanner finds at an address that is `alignment` behind a multiple of 16; the
-// bytes before it and behind the text would make a difference if they were looked at.
+// What the scanner finds at an address that is `alignment` bytes after a multiple of 16; the
+// bytes before and after the text would make a difference if they were looked at.
 FoundToken scanAt(std::size_t alignment, const std::string& text)
 {
     alignas(alignments) char memory[256];
@@ -64,8 +64,8 @@ void forEveryPlace(const Form& form, char filler, const std::string& special, Ch
         for (std::size_t place = 0; place <= length; ++place)
         {
             const std::string before(place, filler);
-            const std::string behind(length - place, filler);
-            check(form.opening + before + special, behind);
+            const std::string after(length - place, filler);
+            check(form.opening + before + special, after);
         }
     }
 }
@@ -94,10 +94,10 @@ TEST(ScannerRun, endsAtTheClosingDelimiterWhereverItStands)
         for (const char filler : {'a', '\x7f', '\x01', '!', ' ', '\0'})
         {
             forEveryPlace(form, filler, form.closing,
-                          [&form](const std::string& token, const std::string& behind)
+                          [&form](const std::string& token, const std::string& after)
                           {
                               const std::size_t length = token.size() - (isComment(form) ? 1 : 0);
-                              expectAtEveryAlignment(token + behind, {form.type, length});
+                              expectAtEveryAlignment(token + after, {form.type, length});
                           });
         }
     }
@@ -128,9 +128,9 @@ TEST(ScannerRun, goesOverBytesThatAreNextToTheDelimiters)
         for (const std::string& content : contents)
         {
             forEveryPlace(form, 'a', content,
-                          [&form](const std::string& token, const std::string& behind)
+                          [&form](const std::string& token, const std::string& after)
                           {
-                              const std::string text = token + behind + form.closing;
+                              const std::string text = token + after + form.closing;
                               const std::size_t length = text.size() - (isComment(form) ? 1 : 0);
                               expectAtEveryAlignment(text + "a", {form.type, length});
                           });
@@ -155,8 +155,8 @@ TEST(ScannerRun, findsWhatDoesNotBelongWhereverItStands)
         for (const std::string& bytes : wrong)
         {
             forEveryPlace(form, 'a', bytes,
-                          [&form](const std::string& token, const std::string& behind)
-                          { expectAtEveryAlignment(token + behind + form.closing, FoundToken()); });
+                          [&form](const std::string& token, const std::string& after)
+                          { expectAtEveryAlignment(token + after + form.closing, FoundToken()); });
         }
     }
 }
@@ -168,7 +168,7 @@ TEST(ScannerRun, doesNotGoOnBehindTheEnd)
         for (std::size_t length = 0; length <= longest; ++length)
         {
             const std::string text = form.opening + std::string(length, 'a');
-            // The delimiters behind the text would close the basic strings.
+            // The delimiters after the text would close the basic strings.
             expectAtEveryAlignment(text, isComment(form) ? FoundToken{form.type, text.size()}
                                                          : FoundToken());
             EXPECT_EQ(scan(text), scanAt(0, text)) << text;

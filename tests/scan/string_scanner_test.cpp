@@ -83,12 +83,12 @@ TEST(StringScanner, takesStringsWithPlainContent)
 
 TEST(StringScanner, takesEmptyStrings)
 {
-    for (const std::string& behind : {""s, "\n"s, "a"s, " "s, "\x80"s})
+    for (const std::string& after : {""s, "\n"s, "a"s, " "s, "\x80"s})
     {
-        expectScanned(TokenType::basicString, {{"\"\"", behind}, {"\"\"", "'" + behind}});
-        expectScanned(TokenType::literalString, {{"''", behind}, {"''", '"' + behind}});
-        expectScanned(TokenType::mlBasicString, {{"\"\"\"\"\"\"", behind}});
-        expectScanned(TokenType::mlLiteralString, {{"''''''", behind}});
+        expectScanned(TokenType::basicString, {{"\"\"", after}, {"\"\"", "'" + after}});
+        expectScanned(TokenType::literalString, {{"''", after}, {"''", '"' + after}});
+        expectScanned(TokenType::mlBasicString, {{"\"\"\"\"\"\"", after}});
+        expectScanned(TokenType::mlLiteralString, {{"''''''", after}});
     }
 }
 

@@ -1,6 +1,7 @@
 // The scanner's token types have the grammar's numbers.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <regex>
 #include <string>
@@ -55,6 +56,19 @@ TEST(TokenType, hasTheNumbersOfTheVocabulary)
     }
     EXPECT_EQ(static_cast<int>(TokenType::endOfInput), -1);
     EXPECT_EQ(static_cast<int>(TokenType::none), 0);
+}
+
+TEST(TokenType, isCountedUpToTheLastOfTheVocabulary)
+{
+    const std::string vocabulary = test::generatedFile("Toml.tokens");
+    const std::regex line("=([0-9]+)\n");
+    int last = 0;
+    for (std::sregex_iterator match(vocabulary.begin(), vocabulary.end(), line), end; match != end;
+         ++match)
+    {
+        last = std::max(last, std::stoi((*match)[1]));
+    }
+    EXPECT_EQ(vorn::parsers::toml::tokenTypeCount, last + 1);
 }
 
 TEST(TokenType, hasEveryTokenOfTheLexer)

@@ -12,13 +12,13 @@ namespace
 {
 
 // The texts as tokens of this type, whatever may follow a token.
-void expectScannedBefore(const std::vector<std::string>& behind, TokenType type,
+void expectScannedBefore(const std::vector<std::string>& after, TokenType type,
                          const std::vector<std::string>& tokens)
 {
     std::vector<ScannedCase> cases;
     for (const std::string& token : tokens)
     {
-        for (const std::string& rest : behind)
+        for (const std::string& rest : after)
         {
             cases.push_back({token, rest});
         }

@@ -1,4 +1,4 @@
-// What the choice of a token's rule looks at.
+// What the choice of a token's rule sees.
 #pragma once
 
 #include "input_position.h"
@@ -8,8 +8,7 @@
 namespace vorn::parsers::toml
 {
 
-// The characters from the input's position on.  The input goes back there in the end; an
-// exception tells where the choice failed.
+// The characters from the input's position on, to which the input goes back in the end.
 class Lookahead
 {
 public:
@@ -29,14 +28,9 @@ public:
         return is(next(), keyCharacter) ? rules::bareKey : rule;
     }
 
-    // The states are those of the tool's table for this choice.
-    rules::Rule fail(ANTLR3_UINT32 state) const
+    rules::Rule fail(DecisionState state) const
     {
-        failChoice(lexer_, 36, state,
-                   "1:1: Tokens : ( T__69 | T__70 | T__71 | T__72 | T__73 | T__74 | T__75 | WS | "
-                   "NL | COMMENT | BOOLEAN | BASIC_STRING | ML_BASIC_STRING | LITERAL_STRING | "
-                   "ML_LITERAL_STRING | FLOAT | INF | NAN | DEC_INT | HEX_INT | OCT_INT | BIN_INT "
-                   "| OFFSET_DATE_TIME | LOCAL_DATE_TIME | LOCAL_DATE | LOCAL_TIME | BARE_KEY );");
+        failChoice(lexer_, Decision::tokens, state, tokensDescription);
         return nullptr;
     }
 

@@ -96,13 +96,13 @@ bool failEarly(pANTLR3_LEXER lexer)
     return raise(lexer, ANTLR3_EARLY_EXIT_EXCEPTION, ANTLR3_EARLY_EXIT_NAME);
 }
 
-bool failChoice(pANTLR3_LEXER lexer, ANTLR3_UINT32 decision, ANTLR3_UINT32 state,
+bool failChoice(pANTLR3_LEXER lexer, Decision decision, DecisionState state,
                 const char* description)
 {
     raise(lexer, ANTLR3_NO_VIABLE_ALT_EXCEPTION, ANTLR3_RECOGNITION_EX_NAME);
     ANTLR3_EXCEPTION& exception = *lexer->rec->state->exception;
     exception.message = text(description);
-    exception.decisionNum = decision;
+    exception.decisionNum = static_cast<ANTLR3_UINT32>(decision);
     exception.state = state;
     return false;
 }

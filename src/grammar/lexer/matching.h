@@ -1,11 +1,12 @@
 // What the lexer's rules do with the runtime: look ahead, match, fail.
 //
-// What matches answers whether it did.  When it did not, an exception is pending and the
-// rule must end.
+// What matches returns whether it did.  If it did not, an exception is pending and the rule
+// must end.
 #pragma once
 
 #include <antlr3.h>
 
+#include "decisions.h"
 #include "scan/character_class.h"
 #include "scan/token_type.h"
 
@@ -29,7 +30,7 @@ constexpr bool isExponentMark(ANTLR3_UCHAR c)
     return c == 'e' || c == 'E';
 }
 
-// The character in the given place, 1 being the input's position.
+// The character in the given place; place 1 is the input's position.
 ANTLR3_UCHAR peek(pANTLR3_LEXER lexer, ANTLR3_INT32 place = 1);
 
 void consume(pANTLR3_LEXER lexer);
@@ -41,20 +42,21 @@ bool match(pANTLR3_LEXER lexer, char c);
 bool match(pANTLR3_LEXER lexer, const char* text);
 bool match(pANTLR3_LEXER lexer, CharacterClass kind, int count = 1);
 
-// Matches one character of a set, to which the next one belongs or not.
+// Matches one character of a set; the caller tells whether the next one belongs to it.
 bool matchSet(pANTLR3_LEXER lexer, bool belongs);
 
-// Consumes what is there of a class; answers whether there was any.
+// Consumes all characters of a class that come next; returns whether there were any.
 bool skip(pANTLR3_LEXER lexer, CharacterClass kind);
 
-// Always false: a loop found nothing where it needs one thing.
+// Always returns false: a loop found nothing where it needs at least one character.
 bool failEarly(pANTLR3_LEXER lexer);
 
-// Always false: no alternative of a choice fits.  Choices have the grammar's numbers.
-bool failChoice(pANTLR3_LEXER lexer, ANTLR3_UINT32 decision, ANTLR3_UINT32 state = 0,
+// Always returns false: no alternative of a choice fits.  Where a choice looks at one
+// character only, the state is its start.
+bool failChoice(pANTLR3_LEXER lexer, Decision decision, DecisionState state = states::start,
                 const char* description = "");
 
-// Always true: a token has been matched.
+// Always returns true: a token has been matched.
 bool store(pANTLR3_LEXER lexer, TokenType type);
 
 // The same for a token that the parser does not get.

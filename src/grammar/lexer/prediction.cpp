@@ -1,6 +1,5 @@
 #include "prediction.h"
 
-#include <array>
 #include <string_view>
 
 #include "lookahead.h"
@@ -12,7 +11,7 @@ namespace
 
 using rules::Rule;
 
-Rule chooseString(Lookahead& ahead, Rule line, Rule lines, ANTLR3_UINT32 state)
+Rule chooseString(Lookahead& ahead, Rule line, Rule lines, DecisionState state)
 {
     const ANTLR3_UCHAR quote = ahead.next();
     ahead.advance();
@@ -37,8 +36,8 @@ Rule chooseKeyword(Lookahead& ahead, const char* word, Rule rule)
     return ahead.chooseOrKey(rule);
 }
 
-// Digits with underscores go on, from behind the first: they make a token of the rule, or
-// else belong to a key.
+// Digits with underscores go on after the first: they make a token of the rule, or belong to
+// a key.
 Rule chooseDigits(Lookahead& ahead, CharacterClass kind, Rule rule)
 {
     for (;;)
@@ -56,7 +55,7 @@ Rule chooseDigits(Lookahead& ahead, CharacterClass kind, Rule rule)
 }
 
 // An integer has ended, with or without a minus sign.
-Rule chooseBehindInteger(Lookahead& ahead)
+Rule chooseAfterInteger(Lookahead& ahead)
 {
     const ANTLR3_UCHAR c = ahead.next();
     if (c == '.')
@@ -76,7 +75,7 @@ Rule chooseBehindInteger(Lookahead& ahead)
     return ahead.take(digit) ? chooseDigits(ahead, digit, rules::floating) : rules::bareKey;
 }
 
-// The first digits of an integer that does not begin with zero have ended.
+// The first digits of an integer that does not start with zero have ended.
 Rule chooseInteger(Lookahead& ahead)
 {
     while (ahead.take('_'))
@@ -87,40 +86,40 @@ Rule chooseInteger(Lookahead& ahead)
         }
         ahead.takeAll(digit);
     }
-    return chooseBehindInteger(ahead);
+    return chooseAfterInteger(ahead);
 }
 
-Rule chooseBehindTime(const Lookahead& ahead)
+Rule chooseAfterTime(const Lookahead& ahead)
 {
     const ANTLR3_UCHAR c = ahead.next();
     return isSign(c) || c == 'Z' ? rules::offsetDateTime : rules::localDateTime;
 }
 
-// The time of a date-time, from one of its characters on.
+// The time of a date-time, from the character with this index on.
 Rule chooseDateTime(Lookahead& ahead, unsigned index)
 {
     constexpr std::string_view shape = "00:00:00";
-    constexpr std::array<unsigned char, shape.size()> states = {93, 95, 97, 98, 99, 100, 101, 102};
+    static_assert(states::inTime.size() == shape.size());
     for (; index < shape.size(); ++index)
     {
         if (!(shape[index] == ':' ? ahead.take(':') : ahead.take(digit)))
         {
-            return ahead.fail(states[index]);
+            return ahead.fail(states::inTime[index]);
         }
     }
     if (ahead.take('.'))
     {
         if (!ahead.take(digit))
         {
-            return ahead.fail(105);
+            return ahead.fail(states::afterPointOfTime);
         }
         ahead.takeAll(digit);
     }
-    return chooseBehindTime(ahead);
+    return chooseAfterTime(ahead);
 }
 
-// A year and a hyphen have been seen.  A whole date before a blank, and one before an hour
-// with a colon, leave the date-times only.
+// After a year and a hyphen.  A whole date before a blank, and one before an hour with a
+// colon, leave the date-times only.
 Rule chooseDate(Lookahead& ahead)
 {
     const bool whole = ahead.take(digit) && ahead.take(digit) && ahead.take('-') &&
@@ -163,7 +162,7 @@ Rule chooseZero(Lookahead& ahead)
     }
     if (!ahead.take(digit))
     {
-        return chooseBehindInteger(ahead);
+        return chooseAfterInteger(ahead);
     }
     if (ahead.next() == ':')
     {
@@ -194,7 +193,7 @@ Rule chooseMinus(Lookahead& ahead)
     {
     case '0':
         ahead.advance();
-        return chooseBehindInteger(ahead);
+        return chooseAfterInteger(ahead);
     case 'i':
         return chooseKeyword(ahead, "inf", rules::inf);
     case 'n':
@@ -209,7 +208,7 @@ Rule chooseMinus(Lookahead& ahead)
     }
 }
 
-// No key has a plus sign, so a number it must be.
+// No key has a plus sign: only numbers are left.
 Rule choosePlus(Lookahead& ahead)
 {
     ahead.advance();
@@ -225,14 +224,14 @@ Rule choosePlus(Lookahead& ahead)
     {
         if (!ahead.take(digit))
         {
-            return ahead.fail(20);
+            return ahead.fail(states::afterPlus);
         }
         ahead.takeAll(digit);
         while (ahead.take('_'))
         {
             if (!ahead.take(digit))
             {
-                return ahead.fail(62);
+                return ahead.fail(states::afterUnderscoreOfPlus);
             }
             ahead.takeAll(digit);
         }
@@ -264,7 +263,7 @@ Rule chooseWord(Lookahead& ahead)
     {
         return chooseNumber(ahead);
     }
-    return is(ahead.next(), keyCharacter) ? rules::bareKey : ahead.fail(0);
+    return is(ahead.next(), keyCharacter) ? rules::bareKey : ahead.fail(states::start);
 }
 
 } // namespace
@@ -297,9 +296,11 @@ Rule predictToken(pANTLR3_LEXER lexer)
     case '#':
         return rules::comment;
     case '"':
-        return chooseString(ahead, rules::basicString, rules::mlBasicString, 0);
+        return chooseString(ahead, rules::basicString, rules::mlBasicString,
+                            states::afterQuotationMark);
     case '\'':
-        return chooseString(ahead, rules::literalString, rules::mlLiteralString, 1);
+        return chooseString(ahead, rules::literalString, rules::mlLiteralString,
+                            states::afterApostrophe);
     case '+':
         return choosePlus(ahead);
     default:

@@ -8,10 +8,11 @@
 namespace vorn::parsers::toml
 {
 
-// Null if no token begins here; an exception is pending then.  The input stays where it is.
+// Returns null if no token starts here; then an exception is pending.  The input stays where
+// it is.
 //
-// The longest token wins, then the first in the grammar; the choice is made as soon as one
-// rule is left, whether or not it will match.
+// The longest token wins, then the first in the grammar.  The choice ends as soon as one rule
+// is left, whether or not that will match.
 rules::Rule predictToken(pANTLR3_LEXER lexer);
 
 } // namespace vorn::parsers::toml

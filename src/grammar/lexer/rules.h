@@ -1,8 +1,8 @@
 // The rules of the lexer, exactly as Toml.g has them.
 //
 // They match character by character, through the runtime, and fail as the grammar's rules
-// fail: this is where text ends up that is not the whole, well-formed token of a kind.
-// Each answers whether it matched.
+// fail: they are for text that is no whole, well-formed token.  Each returns whether it
+// matched.
 #pragma once
 
 #include <antlr3.h>

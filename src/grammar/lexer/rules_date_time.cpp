@@ -68,7 +68,7 @@ bool offset(pANTLR3_LEXER lexer)
     {
         return match(lexer, 'Z');
     }
-    return isSign(c) ? numericOffset(lexer) : failChoice(lexer, 30);
+    return isSign(c) ? numericOffset(lexer) : failChoice(lexer, Decision::offset);
 }
 
 bool partialTime(pANTLR3_LEXER lexer)

@@ -43,7 +43,7 @@ bool matchSpecial(pANTLR3_LEXER lexer, const char* text, TokenType type)
 
 } // namespace
 
-// An integer, whose type is stored for now, with an exponent or a fraction.
+// An integer, which stores its own type first, with an exponent or a fraction.
 bool floating(pANTLR3_LEXER lexer)
 {
     if (!decInt(lexer))
@@ -53,7 +53,7 @@ bool floating(pANTLR3_LEXER lexer)
     const ANTLR3_UCHAR c = peek(lexer);
     if (!isExponentMark(c) && c != '.')
     {
-        return failChoice(lexer, 20);
+        return failChoice(lexer, Decision::floating);
     }
     if (c == '.' && !fraction(lexer))
     {
@@ -98,7 +98,7 @@ bool decInt(pANTLR3_LEXER lexer)
     const ANTLR3_UCHAR first = peek(lexer);
     if (!is(first, digit))
     {
-        return failChoice(lexer, 25);
+        return failChoice(lexer, Decision::decInt);
     }
     if (first == '0')
     {

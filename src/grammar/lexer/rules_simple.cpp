@@ -81,7 +81,7 @@ bool boolean(pANTLR3_LEXER lexer)
     const ANTLR3_UCHAR c = peek(lexer);
     if (c != 't' && c != 'f')
     {
-        return failChoice(lexer, 5);
+        return failChoice(lexer, Decision::boolean);
     }
     return match(lexer, c == 't' ? "true" : "false") && store(lexer, TokenType::boolean);
 }

@@ -1,7 +1,8 @@
-// Strings and what stands in them.
+// Strings and their escapes.
 #include "rules.h"
 
 #include "matching.h"
+#include "scan/escape.h"
 
 namespace vorn::parsers::toml::rules
 {
@@ -50,8 +51,8 @@ int quotesAhead(pANTLR3_LEXER lexer, ANTLR3_UCHAR quote, int limit)
     return count;
 }
 
-// A string on several lines.  The content goes on behind one or two quotes, and one more
-// quote belongs to it if four end the string.
+// A string on several lines.  The content goes on after one or two quotes; of four at the
+// end, the first belongs to it.
 bool matchLines(pANTLR3_LEXER lexer, ANTLR3_UCHAR quote)
 {
     const bool basic = quote == basicQuote;
@@ -90,26 +91,6 @@ bool matchLines(pANTLR3_LEXER lexer, ANTLR3_UCHAR quote)
     return match(lexer, delimiter);
 }
 
-bool isEscapeLetter(ANTLR3_UCHAR c)
-{
-    switch (c)
-    {
-    case '"':
-    case '\'':
-    case '\\':
-    case 'b':
-    case 'f':
-    case 'n':
-    case 'r':
-    case 't':
-    case 'u':
-    case 'U':
-        return true;
-    default:
-        return false;
-    }
-}
-
 } // namespace
 
 bool basicString(pANTLR3_LEXER lexer)
@@ -138,29 +119,29 @@ bool escape(pANTLR3_LEXER lexer)
     {
         return false;
     }
-    const ANTLR3_UCHAR c = peek(lexer);
-    if (!isEscapeLetter(c))
+    const int digits = escapeDigits(peek(lexer));
+    if (digits == unknownEscape)
     {
-        return failChoice(lexer, 35);
+        return failChoice(lexer, Decision::escape);
     }
     consume(lexer);
-    return c == 'u' ? fourHexDigits(lexer) : c == 'U' ? eightHexDigits(lexer) : true;
+    return match(lexer, hexDigit, digits);
 }
 
 bool mlEscape(pANTLR3_LEXER lexer)
 {
     if (peek(lexer) != '\\')
     {
-        return failChoice(lexer, 34);
+        return failChoice(lexer, Decision::mlEscape);
     }
     const ANTLR3_UCHAR c = peek(lexer, 2);
-    if (isEscapeLetter(c))
+    if (escapeDigits(c) != unknownEscape)
     {
         return escape(lexer);
     }
     if (c != '\n' && c != '\r')
     {
-        return failChoice(lexer, 34, 1);
+        return failChoice(lexer, Decision::mlEscape, states::afterBackslash);
     }
     consume(lexer);
     return (c == '\n' || match(lexer, '\r')) && match(lexer, '\n');

@@ -1,7 +1,7 @@
 // The lexer of Toml.g, written by hand.
 //
 // It is used like a lexer that the antlr3 tool makes, and does the same to the runtime's
-// objects: the same tokens, errors and recovery.
+// objects: the same tokens, errors and recovery from them.
 #pragma once
 
 #include <antlr3.h>

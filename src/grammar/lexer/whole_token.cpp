@@ -4,6 +4,7 @@
 
 #include "matching.h"
 #include "scan/scanner.h"
+#include "scan/utf8.h"
 
 namespace vorn::parsers::toml
 {
@@ -17,7 +18,7 @@ struct StreamOperations
     decltype(ANTLR3_INT_STREAM::consume) consume;
 };
 
-// The runtime keeps them to itself, but sets them up in a stream that it is given.
+// The runtime does not export them, but sets them up in any stream that it is given.
 StreamOperations findOperations()
 {
     ANTLR3_INT_STREAM stream = {};
@@ -41,19 +42,19 @@ bool hasBytes(const ANTLR3_INPUT_STREAM& input)
            input.istream->consume == operations.consume && input.newlineChar == '\n';
 }
 
-// A character that is not ASCII may go on with the token in a malformed form of one that is.
-bool isAscii(char c)
+// A character that is not ASCII may go on with the token, as a malformed form of one that is.
+bool mayGoOn(const char* at, const char* end)
 {
-    return static_cast<signed char>(c) >= 0;
+    return at != end && !isAscii(*at);
 }
 
 ANTLR3_INT32 countCharacters(const char* begin, const char* end)
 {
     return static_cast<ANTLR3_INT32>(
-        std::count_if(begin, end, [](char c) { return (c & '\xC0') != '\x80'; }));
+        std::count_if(begin, end, [](char c) { return !isContinuation(c); }));
 }
 
-// The same as to consume each character.
+// Does the same as to consume each character.
 void advance(ANTLR3_INPUT_STREAM& input, const char* begin, const char* end)
 {
     const auto lines = std::count(begin, end, '\n');
@@ -84,7 +85,7 @@ bool takeWholeToken(pANTLR3_LEXER lexer)
         return false;
     }
     const Token token = scanToken(begin, end);
-    if (token.type == TokenType::none || (token.end != end && !isAscii(*token.end)))
+    if (token.type == TokenType::none || mayGoOn(token.end, end))
     {
         return false;
     }

@@ -7,7 +7,8 @@ namespace vorn::parsers::toml
 {
 
 // Matches the token at the input's position if the input is bytes of UTF-8 in memory and
-// the scanner recognises it.  Else nothing has happened, and the rules must have their say.
+// the scanner recognises the token.  Otherwise changes nothing; the caller falls back to the
+// rules.
 bool takeWholeToken(pANTLR3_LEXER lexer);
 
 } // namespace vorn::parsers::toml
