@@ -26,7 +26,7 @@ ROOMS = {
     "src/grammar": (),
     "src/direct": ("src/scan",),
     "src/grammar/lexer": ("src/scan", "src/grammar"),
-    "src/pipeline": ("src/scan", "src/grammar", "src/grammar/lexer"),
+    "src/pipeline": ("src/grammar", "src/grammar/lexer"),
     "src/diagnosis": ("src/scan", "src/direct", "src/grammar/lexer", "src/pipeline"),
     "src/config": (),
     "src": ("src/scan", "src/direct", "src/grammar", "src/grammar/lexer", "src/pipeline",
@@ -38,7 +38,7 @@ ROOMS = {
     "examples": (),
 }
 # Single files that may include more: this one reads directly, to count levels of nesting.
-MORE = {"src/pipeline/document_depth.cpp": ("src/direct",)}
+MORE = {"src/pipeline/document_depth.cpp": ("src/direct", "src/scan")}
 # Headers that are not of this project, and where they may be included.
 RUNTIME = "antlr3.h"
 WITHOUT_RUNTIME = ("src/scan", "src/direct", "src/config", "include", "platform", "examples")

@@ -1,7 +1,7 @@
 #include "document_survey.h"
 
 #include "grammar/lexer/input_position.h"
-#include "scan/token_type.h"
+#include "grammar/lexer/matching.h"
 
 namespace vorn::parsers::toml
 {
@@ -30,12 +30,6 @@ private:
     decltype(ANTLR3_BASE_RECOGNIZER::reportError) reportError_;
 };
 
-bool opens(ANTLR3_UINT32 type)
-{
-    return type == static_cast<ANTLR3_UINT32>(TokenType::openBracket) ||
-           type == static_cast<ANTLR3_UINT32>(TokenType::openBrace);
-}
-
 } // namespace
 
 DocumentSurvey survey(pANTLR3_LEXER lexer)
@@ -52,7 +46,7 @@ DocumentSurvey survey(pANTLR3_LEXER lexer)
             break;
         }
         ++seen.tokens;
-        seen.brackets += opens(token->type) ? 1 : 0;
+        seen.brackets += opensLevel(token->type) ? 1 : 0;
         // The next token takes the same place.
         state.tokFactory->reset(state.tokFactory);
     }

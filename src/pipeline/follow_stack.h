@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "scan/token_type.h"
+#include "grammar/type_count.h"
 
 namespace vorn::parsers::toml
 {
@@ -37,7 +37,6 @@ public:
 
 private:
     // The types of Toml.g fit two words.
-    static constexpr std::size_t typeCount = tokenTypeCount;
     using Types = std::array<ANTLR3_BITWORD, 2>;
 
     FollowStack(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_INT_STREAM tokens) noexcept;

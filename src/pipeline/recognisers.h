@@ -10,7 +10,7 @@
 #include "grammar/tree_actions.h"
 
 #include "grammar/lexer/toml_lexer.h"
-#include "scan/token_type.h"
+#include "grammar/type_count.h"
 
 #include "TomlParser.h"
 #include "TomlTree.h"
@@ -20,8 +20,8 @@ extern "C"
     // The names of the token and node types, indexed by type, for the runtime's
     // messages.  Both tables hold the same names.
     // NOLINTBEGIN(*-avoid-non-const-global-variables): the tool makes them like that.
-    extern pANTLR3_UINT8 TomlParserTokenNames[vorn::parsers::toml::tokenTypeCount];
-    extern pANTLR3_UINT8 TomlTreeTokenNames[vorn::parsers::toml::tokenTypeCount];
+    extern pANTLR3_UINT8 TomlParserTokenNames[vorn::parsers::toml::typeCount];
+    extern pANTLR3_UINT8 TomlTreeTokenNames[vorn::parsers::toml::typeCount];
     // NOLINTEND(*-avoid-non-const-global-variables)
 }
 

@@ -37,7 +37,4 @@ enum class TokenType : int
     closeBrace = 75,
 };
 
-// The types from 0 on, those of the parser's nodes among them.
-inline constexpr int tokenTypeCount = 76;
-
 } // namespace vorn::parsers::toml

@@ -58,19 +58,6 @@ TEST(TokenType, hasTheNumbersOfTheVocabulary)
     EXPECT_EQ(static_cast<int>(TokenType::none), 0);
 }
 
-TEST(TokenType, isCountedUpToTheLastOfTheVocabulary)
-{
-    const std::string vocabulary = test::generatedFile("Toml.tokens");
-    const std::regex line("=([0-9]+)\n");
-    int last = 0;
-    for (std::sregex_iterator match(vocabulary.begin(), vocabulary.end(), line), end; match != end;
-         ++match)
-    {
-        last = std::max(last, std::stoi((*match)[1]));
-    }
-    EXPECT_EQ(vorn::parsers::toml::tokenTypeCount, last + 1);
-}
-
 TEST(TokenType, hasEveryTokenOfTheLexer)
 {
     // The alternatives of the dispatch, which follow each other in its comment.

@@ -30,6 +30,13 @@ constexpr bool isExponentMark(ANTLR3_UCHAR c)
     return c == 'e' || c == 'E';
 }
 
+// Whether tokens of this type open an array or an inline table.
+constexpr bool opensLevel(ANTLR3_UINT32 type)
+{
+    return type == static_cast<ANTLR3_UINT32>(TokenType::openBracket) ||
+           type == static_cast<ANTLR3_UINT32>(TokenType::openBrace);
+}
+
 // The character in the given place; place 1 is the input's position.
 ANTLR3_UCHAR peek(pANTLR3_LEXER lexer, ANTLR3_INT32 place = 1);
 
