@@ -2,15 +2,17 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <iostream>
 #include <map>
 #include <new>
+#include <sstream>
 #include <string>
 
 #include "commands.h"
 #include "help.h"
+#include "standard_streams.h"
 
 namespace
 {
@@ -73,21 +75,33 @@ void addCommands(CLI::App& app, Run& run)
               run);
 }
 
-int fail(const char* what, const char* why)
+void print(const char* what, const char* why)
 {
     std::fprintf(stderr, "vorn-toml: %s%s\n", what, why);
-    return tool::unreadable;
 }
 
-// What has been printed must have reached its place.
-int flushOutput()
+// The status of a run, which is another one if its output is not written.
+int ended(int status, tool::StandardStreams& streams)
 {
-    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+    if (const int reason = streams.outputFailure(); reason != 0)
     {
-        return tool::accepted;
+        // NOLINTNEXTLINE(concurrency-mt-unsafe): the tool has one thread.
+        print("standard output: ", std::strerror(reason));
+        return std::max<int>(status, tool::unreadable);
     }
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): the tool has one thread.
-    return fail("standard output: ", std::strerror(errno));
+    return status;
+}
+
+// Prints the help that was asked for, or what is wrong with the arguments.
+int explainUsage(const CLI::App& app, const CLI::ParseError& error, tool::StandardStreams& streams)
+{
+    std::ostringstream help;
+    if (app.exit(error, help, std::cerr) != 0)
+    {
+        return tool::usage;
+    }
+    std::fputs(help.str().c_str(), stdout);
+    return ended(tool::accepted, streams);
 }
 
 } // namespace
@@ -95,9 +109,7 @@ int flushOutput()
 // NOLINTNEXTLINE(bugprone-exception-escape): what is not caught is a lack of memory.
 int main(int argc, char** argv)
 {
-    // Events and the log lines on standard error come out in the order they are made.
-    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
-
+    tool::StandardStreams streams;
     CLI::App app("Reads TOML documents the way the services of the device do.", "vorn-toml");
     app.require_subcommand(1);
     app.footer(tool::mainHelp);
@@ -109,17 +121,16 @@ int main(int argc, char** argv)
     }
     catch (const CLI::ParseError& error)
     {
-        // Asking for help is no error.
-        return app.exit(error) == 0 ? tool::accepted : tool::usage;
+        return explainUsage(app, error, streams);
     }
-    int status = tool::accepted;
+    int status = tool::unreadable;
     try
     {
         status = run.command(run.options);
     }
     catch (const std::bad_alloc&)
     {
-        status = fail("there is not enough memory", "");
+        print("there is not enough memory", "");
     }
-    return std::max(status, flushOutput());
+    return ended(status, streams);
 }

@@ -58,6 +58,7 @@ void Progress::clear()
     if (isThere_)
     {
         std::fputs("\r\x1B[K", stderr);
+        std::fflush(stderr);
         isThere_ = false;
     }
 }

@@ -15,19 +15,10 @@ namespace
 using test::accepted;
 using test::expectRun;
 using test::rejected;
+using test::repeated;
 using test::runTool;
 using test::unreadable;
 using Json = nlohmann::json;
-
-std::string repeated(const std::string& text, int count)
-{
-    std::string all;
-    for (; count > 0; --count)
-    {
-        all += text;
-    }
-    return all;
-}
 
 std::size_t countOf(const std::string& part, const std::string& text)
 {
