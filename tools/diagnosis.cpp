@@ -137,14 +137,15 @@ private:
         {
             return;
         }
-        addFinding(found_.end,
-                   [this]
-                   {
-                       return Finding{
-                           Severity::error, found_.end, found_.end,
-                           "the line break at the end of the file is missing",
-                           "Every pair and every header ends with a line break, the last one too."};
-                   });
+        addFinding(
+            found_.end,
+            [this]
+            {
+                return Finding{
+                    Severity::error, found_.end, found_.end,
+                    "the line break at the end of the file is missing",
+                    "Every pair and every header ends with a line break, including the last one."};
+            });
     }
 
     const Recognition& found_;
@@ -177,8 +178,8 @@ std::vector<Finding> warnings(const Recognition& found, const std::string& text)
     if (found.end < text.size())
     {
         findings.push_back({Severity::warning, found.end, found.end + 1,
-                            "the file is not read beyond these bytes, which are not UTF-8",
-                            "They read as the end of the file. Save the file as UTF-8."});
+                            "the file is only read up to these bytes, which are not valid UTF-8",
+                            "They are read as the end of the file. Save the file as UTF-8."});
     }
     return findings;
 }

@@ -21,7 +21,7 @@ using tool::Options;
 using tool::Status;
 using Command = Status (*)(const Options& options);
 
-// What all subcommands share, and what they are asked for.
+// The subcommand to run, and its options.
 struct Run
 {
     Options options;
@@ -33,7 +33,7 @@ CLI::App& addCommand(CLI::App& app, Run& run, Command command, const std::string
                      const std::string& description, const char* example)
 {
     CLI::App& subcommand = *app.add_subcommand(name, description);
-    subcommand.add_option("FILE", run.options.files, "A document; - stands for standard input")
+    subcommand.add_option("FILE", run.options.files, "A document; - means standard input")
         ->required();
     subcommand.footer(std::string("Example:\n") + example);
     subcommand.callback([&run, command] { run.command = command; });
@@ -57,14 +57,14 @@ void addColour(CLI::App& subcommand, Run& run)
 void addCommands(CLI::App& app, Run& run)
 {
     addCommand(app, run, tool::printEvents, "events",
-               "Print the visitor calls of documents, one a line", tool::eventsExample);
+               "Print the visitor calls of documents, one per line", tool::eventsExample);
     addCommand(app, run, tool::printValues, "values",
-               "Print the visitor calls of documents, with the values of the texts",
+               "Print the visitor calls of documents, with the values of their texts",
                tool::valuesExample);
     CLI::App& check = addCommand(app, run, tool::check, "check",
-                                 "Tell whether documents are accepted, and explain what is wrong",
+                                 "Say whether documents are accepted, and explain their errors",
                                  tool::checkExample);
-    check.add_flag("--json", run.options.json, "Print all as one JSON array, for editors");
+    check.add_flag("--json", run.options.json, "Print everything as one JSON array, for editors");
     addColour(check, run);
     CLI::App& tree = addCommand(app, run, tool::printTrees, "tree",
                                 "Draw the syntax trees of documents", tool::treeExample);
@@ -80,7 +80,7 @@ void print(const char* what, const char* why)
     std::fprintf(stderr, "vorn-toml: %s%s\n", what, why);
 }
 
-// The status of a run, which is another one if its output is not written.
+// The status of a run, raised if some of its output could not be written.
 int ended(int status, tool::StandardStreams& streams)
 {
     if (const int reason = streams.outputFailure(); reason != 0)
@@ -130,7 +130,7 @@ int main(int argc, char** argv)
     }
     catch (const std::bad_alloc&)
     {
-        print("there is not enough memory", "");
+        print("not enough memory", "");
     }
     return ended(status, streams);
 }

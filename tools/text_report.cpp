@@ -107,9 +107,9 @@ std::string textReport(const std::string& name, std::string_view text, const Dia
 std::string refusalMessage(Refusal refusal)
 {
     return refusal == Refusal::tooDeep
-               ? "something is wrong, and arrays or inline tables are nested too deeply to say what"
-               : "something is wrong, and the document is too large to say what: there is not "
-                 "enough memory";
+               ? "the document is invalid, but its arrays or inline tables are nested too deeply "
+                 "to say where"
+               : "the document is too large to diagnose: there is not enough memory";
 }
 
 } // namespace tool
