@@ -18,7 +18,7 @@ std::size_t lineOf(std::size_t offset, const TokenizedText& document)
     return 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
 }
 
-// The array that is open, which may have been left open by mistake lines before.
+// The open array may have been left open by mistake many lines before.
 Words unclosed(const Place& place, const DocumentToken& found, const TokenizedText& document)
 {
     const std::size_t line = lineOf(document.tokens[place.opening].begin, document);

@@ -33,7 +33,7 @@ bool isQuote(char c)
     return c == '"' || c == '\'';
 }
 
-// Whether the text has the shape, in which 0 stands for any digit.
+// Whether the text has the shape, in which 0 means any digit.
 bool hasShape(std::string_view text, std::size_t at, std::string_view shape)
 {
     if (text.size() - at < shape.size())
@@ -150,13 +150,13 @@ Finding inString(const LexicalError& error, std::string_view text)
     return finding;
 }
 
-// Whether an equals sign stands on the same line behind the place, and none before it.
+// Whether the line has an equals sign after the place, and none before it.
 bool isInKey(std::size_t begin, std::string_view text)
 {
     const std::size_t before = text.find_last_of("\n=", begin);
-    const std::size_t behind = text.find_first_of("\n=", begin);
+    const std::size_t after = text.find_first_of("\n=", begin);
     return (before == std::string_view::npos || text[before] == '\n') &&
-           behind != std::string_view::npos && text[behind] == '=';
+           after != std::string_view::npos && text[after] == '=';
 }
 
 constexpr std::string_view timeHint = "A time is written 07:32:00 or 07:32:00.25, with seconds.";
@@ -165,14 +165,14 @@ Finding inDateTime(const LexicalError& error, std::string_view text)
 {
     constexpr std::string_view date = "0000-00-00";
     const bool hasDate = hasShape(text, error.begin, date);
-    const std::size_t behindDate = error.begin + date.size();
-    if (hasDate && byteAt(text, behindDate) == ' ' && error.at == behindDate + 1)
+    const std::size_t afterDate = error.begin + date.size();
+    if (hasDate && byteAt(text, afterDate) == ' ' && error.at == afterDate + 1)
     {
-        return errorAt(behindDate, behindDate + 1, "expected a time after the date and the space",
+        return errorAt(afterDate, afterDate + 1, "expected a time after the date and the space",
                        "A date followed by a space starts a date-time. Remove the space, or write "
                        "a tab instead.");
     }
-    const std::size_t time = hasDate ? behindDate + 1 : error.begin;
+    const std::size_t time = hasDate ? afterDate + 1 : error.begin;
     if (error.at > time + 8 && byteAt(text, time + 8) != '.')
     {
         return errorAt(error.begin, error.at, "the offset of the date-time is incomplete",

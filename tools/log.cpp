@@ -46,8 +46,8 @@ std::string shortened(std::string_view text)
            std::to_string(text.size()) + " bytes in all)";
 }
 
-// The message on one line.  A text of the document in it can be the whole document, for every
-// one of its errors, so it is shortened.
+// The message on one line.  A text in it is shortened: it can be the whole document, and is so
+// for each of its errors.
 std::string messageOf(const char* format, va_list arguments)
 {
     const std::string_view parts(format);

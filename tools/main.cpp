@@ -28,7 +28,7 @@ struct Run
     Command command = nullptr;
 };
 
-// Adds a subcommand that runs over FILE...
+// Adds a subcommand with the argument FILE...
 CLI::App& addCommand(CLI::App& app, Run& run, Command command, const std::string& name,
                      const std::string& description, const char* example)
 {

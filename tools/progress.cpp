@@ -12,7 +12,7 @@ namespace
 constexpr std::chrono::milliseconds patience(500);
 constexpr std::chrono::milliseconds pause(100);
 
-// What takes so long that one looks up.
+// Takes so long that progress is shown at once.
 constexpr std::size_t largeFile = std::size_t{32} * 1024 * 1024;
 
 std::string megabytes(std::size_t bytes)

@@ -9,7 +9,7 @@ namespace tool
 {
 
 // The program's streams, while one lives.  Both of its outputs are written line by line, so that
-// lines that go to the same place are in the order in which they were printed.
+// lines that go to the same place arrive in the order in which they were printed.
 class StandardStreams
 {
 public:

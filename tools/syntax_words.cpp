@@ -26,7 +26,7 @@ Words valueForKey(const DocumentToken& found, const TokenizedText& document)
             "It is read as a value. Quote it to use it as a key: \"" + quotedContent(text) + "\"."};
 }
 
-// A key is expected.
+// Where a key is expected.
 Words forKey(const std::string& expected, const DocumentToken& found, const TokenizedText& document,
              const std::string& hint)
 {
@@ -130,7 +130,7 @@ Words forLineEnd(std::size_t index, const TokenizedText& document)
             "Put each pair and each header on its own line. Strings need quotes."};
 }
 
-// What an inline table that is not closed is told, whatever stands in the place.
+// In an inline table, closed or not.
 Words forTable(const Place& place, const DocumentToken& found, const TokenizedText& document)
 {
     if (isLineEnd(found.type) || place.breaks > 0)
@@ -190,8 +190,8 @@ Words wordsFor(const Place& place, std::size_t index, const TokenizedText& docum
     }
 }
 
-// A token that does not fit is where it is; an end is right behind what stands before it, if
-// that is on the same line.
+// The place of a token that does not fit is its own.  That of an end of line or file is right
+// after the token before it, if that is on the same line.
 Finding placed(std::size_t index, const TokenizedText& document)
 {
     const DocumentToken found = document.at(index);
@@ -202,9 +202,9 @@ Finding placed(std::size_t index, const TokenizedText& document)
     {
         const std::size_t before = index > 0 ? document.tokens[index - 1].end : 0;
         const std::string_view between = document.text.substr(before, found.begin - before);
-        const bool isBehind = index > 0 && between.find('\n') == std::string_view::npos &&
-                              document.tokens[index - 1].type != TokenType::newline;
-        finding.begin = isBehind ? before : found.begin;
+        const bool isAfter = index > 0 && between.find('\n') == std::string_view::npos &&
+                             document.tokens[index - 1].type != TokenType::newline;
+        finding.begin = isAfter ? before : found.begin;
         finding.end = finding.begin;
     }
     return finding;
