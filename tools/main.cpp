@@ -81,7 +81,7 @@ void print(const char* what, const char* why)
 }
 
 // The status of a run, raised if some of its output could not be written.
-int ended(int status, tool::StandardStreams& streams)
+int ended(int status, const tool::StandardStreams& streams)
 {
     if (const int reason = streams.outputFailure(); reason != 0)
     {
@@ -93,7 +93,8 @@ int ended(int status, tool::StandardStreams& streams)
 }
 
 // Prints the help that was asked for, or what is wrong with the arguments.
-int explainUsage(const CLI::App& app, const CLI::ParseError& error, tool::StandardStreams& streams)
+int explainUsage(const CLI::App& app, const CLI::ParseError& error,
+                 const tool::StandardStreams& streams)
 {
     std::ostringstream help;
     if (app.exit(error, help, std::cerr) != 0)

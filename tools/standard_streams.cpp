@@ -56,7 +56,7 @@ StandardStreams::~StandardStreams()
     stdout = output_;
 }
 
-int StandardStreams::outputFailure()
+int StandardStreams::outputFailure() const
 {
     std::fflush(stdout);
     return failure_;

@@ -20,7 +20,7 @@ public:
 
     // Why the first failed write to standard output failed, as an errno; 0 if all that has been
     // printed is written.
-    int outputFailure();
+    int outputFailure() const;
 
 private:
     static ssize_t write(void* streams, const char* bytes, std::size_t size);
