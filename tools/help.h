@@ -11,7 +11,7 @@ constexpr const char* mainHelp =
     "\n"
     "Exit status: 0 accepted, 1 rejected, 2 wrong usage, 3 a file could not be read, or the\n"
     "output could not be written.\n"
-    "Errors of a document go to standard error: check, tree and tokens explain them, events\n"
+    "Errors in a document go to standard error: check, tree and tokens explain them, events\n"
     "and values print what the library logs, with long texts shortened.";
 
 constexpr const char* eventsExample = "  $ printf 'a = 1\\n' | vorn-toml events -\n"
@@ -34,8 +34,8 @@ constexpr const char* valuesExample =
     "their quotes and keep their escapes; infinities and not-a-numbers become 0.\n"
     "Date-times are read as local time, in the zone TZ, and shown with its offset\n"
     "and the seconds since the epoch.  Bare keys, local dates and local times\n"
-    "have no conversion and no arrow.  An exception of a conversion is shown after\n"
-    "the arrow as \"error: ...\".\n";
+    "have no conversion and no arrow.  If a conversion throws, the reason is\n"
+    "shown after the arrow as \"error: ...\".\n";
 
 constexpr const char* checkExample =
     "  $ vorn-toml check network.toml\n"

@@ -94,7 +94,7 @@ Words forValue(const DocumentToken& found, const TokenizedText& document)
         return {"expected a value, found a second '='", "A pair is written key = value."};
     default:
         return {"expected a value, found " + described(found, text),
-                "Strings have quotes. Arrays are written [1, 2], inline tables {a = 1}."};
+                "Strings need quotes. Arrays are written [1, 2], inline tables {a = 1}."};
     }
 }
 

@@ -169,7 +169,7 @@ TEST(DiagnosisOfArrays, inlineTables)
         {"a = {b = }\n",
          false,
          {{"1:10 error: expected a value, found '}'",
-           "Strings have quotes. Arrays are written [1, 2], inline tables {a = 1}."}}},
+           "Strings need quotes. Arrays are written [1, 2], inline tables {a = 1}."}}},
         {"a = {= 1}\n",
          false,
          {{"1:6 error: expected a key in the inline table, found '='", tableForm}}},

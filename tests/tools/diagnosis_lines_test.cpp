@@ -24,7 +24,7 @@ const std::string valueOnLine = "The value must start on the line of its key.";
 const std::string pairForm = "A pair is written key = value.";
 const std::string keyOfWords = "A key of several words needs quotes: \"my key\" = 1.";
 const std::string valueForms =
-    "Strings have quotes. Arrays are written [1, 2], inline tables {a = 1}.";
+    "Strings need quotes. Arrays are written [1, 2], inline tables {a = 1}.";
 const std::string emptyArray = "An array needs at least one element. Leave the key out instead.";
 const std::string unclosed = "Close the string with \" on the same line. A string of several lines "
                              "starts and ends with \"\"\".";
