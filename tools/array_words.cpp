@@ -10,7 +10,7 @@ namespace tool
 namespace
 {
 
-constexpr std::string_view commaHint = "Elements are separated by commas: [1, 2].";
+constexpr std::string_view commaHint = "Separate elements with commas: [1, 2].";
 
 std::size_t lineOf(std::size_t offset, const TokenizedText& document)
 {
@@ -18,13 +18,13 @@ std::size_t lineOf(std::size_t offset, const TokenizedText& document)
     return 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
 }
 
-// The array that is open, which may have been left open by mistake lines before.
+// The open array may have been left open by mistake many lines before.
 Words unclosed(const Place& place, const DocumentToken& found, const TokenizedText& document)
 {
     const std::size_t line = lineOf(document.tokens[place.opening].begin, document);
-    return {"the array that begins in line " + std::to_string(line) + " is not closed before " +
+    return {"the array opened on line " + std::to_string(line) + " is not closed before " +
                 described(found, document.textOf(found)),
-            "It ends with ']', after its last element."};
+            "Close it with ']' after its last element."};
 }
 
 Words forClosing(const Place& place)
@@ -32,16 +32,16 @@ Words forClosing(const Place& place)
     if (place.due == Due::firstElement)
     {
         return {"the array is empty",
-                "An array holds one element or more. Leave the key out instead."};
+                "An array needs at least one element. Leave the key out instead."};
     }
     if (place.due == Due::element)
     {
-        return {"']' stands on another line than the comma before it",
-                "After a trailing comma ']' follows on the same line. Or leave the comma out: "
-                "after two or more elements ']' may have a line of its own."};
+        return {"']' is not on the same line as the comma before it",
+                "After a trailing comma, ']' must be on the same line. Without the comma, it may "
+                "be on its own line after two or more elements."};
     }
-    return {"']' stands on a line of its own after a single element",
-            "Only after two or more elements ']' may have a line of its own. Put it after the "
+    return {"']' is on its own line after a single element",
+            "']' may only be on its own line after two or more elements. Put it on the line of the "
             "element."};
 }
 
@@ -81,11 +81,13 @@ Finding lineWithoutElement(const Place& place, const TokenizedText& document)
     const std::size_t lineEnd = std::min(text.find('\n', begin), text.size());
     const std::size_t first = std::min(text.find_first_not_of(" \t", begin), lineEnd);
     const bool isComment = first < lineEnd && text[first] == '#';
-    return {Severity::error, isComment ? first : begin, lineEnd,
-            isComment ? "a line in an array holds only a comment"
-                      : "a line in an array holds only blanks",
-            isComment ? "In an array a comment stands after an element, a comma or the '['."
-                      : "In an array a line without an element is empty: without blanks."};
+    return {
+        Severity::error, isComment ? first : begin, lineEnd,
+        isComment ? "a line in an array contains only a comment"
+                  : "a line in an array contains only spaces or tabs",
+        isComment
+            ? "In an array, put comments after an element, a comma or the '['."
+            : "In an array, a line without an element must be empty. Remove the spaces and tabs."};
 }
 
 } // namespace tool

@@ -1,4 +1,4 @@
-// Errors of arrays, whose rules of lines surprise most, in words.
+// Errors in arrays, in words.
 #pragma once
 
 #include "finding.h"
@@ -11,7 +11,7 @@ namespace tool
 
 Words forArray(const Place& place, const DocumentToken& found, const TokenizedText& document);
 
-// A line, in an array, with a comment or with blanks only.
+// A line in an array that contains only a comment, or only spaces and tabs.
 Finding lineWithoutElement(const Place& place, const TokenizedText& document);
 
 } // namespace tool

@@ -9,44 +9,43 @@ namespace
 {
 
 constexpr std::string_view bareKeyHint =
-    "Bare keys are made of A-Z a-z 0-9 _ and -. Other keys, and all strings, have quotes.";
+    "Bare keys consist of A-Z a-z 0-9 _ and -. Other keys, and all strings, need quotes.";
 
 std::string hintFor(char32_t code)
 {
     switch (code)
     {
     case ':':
-        return "Between a key and its value stands '='.";
+        return "Write '=' between a key and its value.";
     case ';':
-        return "Each pair has a line of its own, with nothing at its end. A comment begins with "
-               "'#'.";
+        return "Put each pair on its own line, with nothing after it. A comment starts with '#'.";
     case '/':
     case '!':
     case '%':
-        return "A comment begins with '#'. Strings have quotes.";
+        return "A comment starts with '#'. Strings need quotes.";
     case '\\':
-        return "A backslash stands in strings only.";
+        return "A backslash may only appear in strings and comments.";
     case '(':
     case ')':
-        return "Arrays are written [1, 2], inline tables {a = 1}. Strings have quotes.";
+        return "Arrays are written [1, 2], inline tables {a = 1}. Strings need quotes.";
     case 0xA0:
-        return "It looks like a blank. Write a blank or a tab.";
+        return "It looks like a space. Write a space or a tab.";
     case 0xFEFF:
-        return "A byte order mark may stand at the begin of the file only.";
+        return "A byte order mark may only appear at the start of the file.";
     case 0x2018:
     case 0x2019:
     case 0x201A:
     case 0x201C:
     case 0x201D:
     case 0x201E:
-        return "It looks like a quote. Strings have \" or ' around them.";
+        return "It looks like a quote. Write \" or ' instead.";
     default:
         break;
     }
     if (code < 0x20 || code == 0x7F)
     {
-        return "Control characters other than tabs and line breaks stand in strings and comments "
-               "only.";
+        return "Control characters other than tabs and line breaks may only appear in strings and "
+               "comments.";
     }
     return std::string(bareKeyHint);
 }
@@ -59,8 +58,8 @@ Finding highCharacter(std::size_t at, const Character& character)
     std::snprintf(escape, sizeof(escape), "\\U%08X", static_cast<unsigned>(character.code));
     return {Severity::error, at, at + character.length,
             "the character " + codeName(character.code) + " is above U+FFFF",
-            "Emoji and other characters above U+FFFF can stand nowhere, not even in comments. In a "
-            "string with double quotes write " +
+            "Emoji and other characters above U+FFFF are not allowed, not even in comments. In a "
+            "string with double quotes, write " +
                 std::string(escape) + " instead."};
 }
 
@@ -69,9 +68,9 @@ Finding malformedBytes(std::string_view text, std::size_t at, Severity severity)
     char byte[8] = {};
     std::snprintf(byte, sizeof(byte), "%02X",
                   static_cast<unsigned>(static_cast<unsigned char>(text[at])));
-    return {
-        severity, at, at + 1, "the byte " + std::string(byte) + " is not UTF-8",
-        "It may be read as one character together with what follows it. Save the file as UTF-8."};
+    return {severity, at, at + 1, "the byte " + std::string(byte) + " is not valid UTF-8",
+            "It may be read as one character together with the bytes after it. Save the file as "
+            "UTF-8."};
 }
 
 Finding loneCarriageReturn(std::size_t at)
@@ -90,7 +89,7 @@ Finding strayCharacter(std::string_view text, std::size_t at)
                                  ? '\'' + seen + "' (" + codeName(character.code) + ')'
                                  : codeName(character.code);
     return {Severity::error, at, at + character.length,
-            "the character " + name + " cannot stand here", hintFor(character.code)};
+            "the character " + name + " is not allowed here", hintFor(character.code)};
 }
 
 } // namespace tool

@@ -1,4 +1,4 @@
-// Characters that cannot stand where they are, in words.
+// Characters that are not allowed where they are, in words.
 #pragma once
 
 #include <cstddef>
@@ -10,15 +10,15 @@
 namespace tool
 {
 
-// One above U+FFFF.
+// A character above U+FFFF.
 Finding highCharacter(std::size_t at, const Character& character);
 
-// Bytes that are not UTF-8.
+// Bytes that are not valid UTF-8.
 Finding malformedBytes(std::string_view text, std::size_t at, Severity severity);
 
 Finding loneCarriageReturn(std::size_t at);
 
-// One that no token begins with.
+// A character that no token starts with.
 Finding strayCharacter(std::string_view text, std::size_t at);
 
 } // namespace tool

@@ -1,4 +1,4 @@
-// The tool's subcommands.  Each answers with the worst outcome of its files.
+// The tool's subcommands.  Each returns the worst status of its files.
 #pragma once
 
 #include <string>
@@ -21,11 +21,11 @@ struct Options
 // Prints the visitor calls of documents as they come.
 Status printEvents(const Options& options);
 
-// The same with the value behind each text that converts to one.
+// The same, with the value after each text that converts to one.
 Status printValues(const Options& options);
 
-// Prints one line for each document that says whether it is accepted, and on standard error
-// what is wrong with it; or all of this as JSON.
+// Prints a line for each document that says whether it is accepted, and explains its errors on
+// standard error; or prints both as JSON.
 Status check(const Options& options);
 
 // Draws documents as trees.

@@ -15,8 +15,8 @@ namespace
 
 constexpr std::size_t nowhere = std::string::npos;
 
-// Chooses, among the errors of the recognisers in the order of their places, those that do not
-// follow from one before.
+// Takes the errors of the recognisers in document order, and chooses those that do not follow
+// from an earlier one.
 class Choice
 {
 public:
@@ -26,7 +26,7 @@ public:
     {
     }
 
-    // How many there are, and the first of them in words.
+    // Returns the number of errors, and the first of them in words.
     std::size_t make(std::vector<Finding>& findings)
     {
         auto lexical = found_.lexicalErrors.begin();
@@ -47,8 +47,8 @@ public:
     }
 
 private:
-    // A string that is read inside out makes the rest of the document meaningless, and other
-    // errors the rest of their lines.
+    // After an error in a multi-line string the rest of the document means nothing, after
+    // others the rest of the line.
     void add(const LexicalError& error)
     {
         if (insideOut_)
@@ -60,7 +60,7 @@ private:
         hasDamage_ = true;
         damagedTo_ = std::max(damagedTo_, lines_.lineOf(std::min(error.resumed, text_.size())));
         insideOut_ = isInLongString(error, text_);
-        brokenStatement_ = statements_.beginOf(tokenBehind(error.begin));
+        brokenStatement_ = statements_.beginOf(tokenAfter(error.begin));
         if (!follows && !isLastLine(line))
         {
             addFinding(error.begin, [&] { return findingOf(error, text_); });
@@ -72,7 +72,7 @@ private:
         const std::size_t index = std::min(error.token, found_.tokens.size());
         const DocumentToken token = document_.at(index);
         const std::size_t before = index > 0 ? found_.tokens[index - 1].end - 1 : 0;
-        // The line break that a token is behind belongs to the line before.
+        // A line break before the token belongs to the line that it ends.
         const std::size_t firstLine = lines_.lineOf(before);
         const std::size_t statement = document_.beginOf(error);
         const bool isDamaged = insideOut_ || (hasDamage_ && firstLine <= damagedTo_);
@@ -100,7 +100,7 @@ private:
                (before == TokenType::openBrace && type == TokenType::closeBrace);
     }
 
-    std::size_t tokenBehind(std::size_t offset) const
+    std::size_t tokenAfter(std::size_t offset) const
     {
         const auto token = std::lower_bound(found_.tokens.begin(), found_.tokens.end(), offset,
                                             [](const DocumentToken& one, std::size_t place)
@@ -108,23 +108,23 @@ private:
         return static_cast<std::size_t>(token - found_.tokens.begin());
     }
 
-    // Whether the last finding is in this line.
+    // Whether the last finding is on this line.
     bool isLastLine(std::size_t line) const { return line == lastLine_; }
 
-    // Words are found for those only that are shown, since that takes time.
+    // Finding words takes time, so only findings that are shown get them.
     template <typename Words>
     void addFinding(std::size_t place, Words words)
     {
         ++count_;
         lastPlace_ = place;
         lastLine_ = lines_.lineOf(place);
-        if (findings_.size() < mostErrors)
+        if (findings_.size() < maxErrors)
         {
             findings_.push_back(words());
         }
     }
 
-    // The parser does without the last line break, the walk over its tree does not.
+    // The parser accepts a document without the last line break, the walk over its tree does not.
     void addMissingLineBreak()
     {
         if (found_.tokens.empty() || found_.tokens.back().type == TokenType::newline || insideOut_)
@@ -137,14 +137,15 @@ private:
         {
             return;
         }
-        addFinding(found_.end,
-                   [this]
-                   {
-                       return Finding{
-                           Severity::error, found_.end, found_.end,
-                           "the line break at the end of the file is missing",
-                           "Every pair and every header ends with a line break, the last one too."};
-                   });
+        addFinding(
+            found_.end,
+            [this]
+            {
+                return Finding{
+                    Severity::error, found_.end, found_.end,
+                    "the line break at the end of the file is missing",
+                    "Every pair and every header ends with a line break, including the last one."};
+            });
     }
 
     const Recognition& found_;
@@ -177,8 +178,8 @@ std::vector<Finding> warnings(const Recognition& found, const std::string& text)
     if (found.end < text.size())
     {
         findings.push_back({Severity::warning, found.end, found.end + 1,
-                            "the file is not read beyond these bytes, which are not UTF-8",
-                            "They read as the end of the file. Save the file as UTF-8."});
+                            "the file is only read up to these bytes, which are not valid UTF-8",
+                            "They are read as the end of the file. Save the file as UTF-8."});
     }
     return findings;
 }

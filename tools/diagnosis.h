@@ -1,4 +1,4 @@
-// What is wrong with a document, in words for whoever mends it.
+// What is wrong with a document, in words for whoever fixes it.
 #pragma once
 
 #include <cstddef>
@@ -14,18 +14,18 @@ namespace tool
 struct Diagnosis
 {
     Refusal refusal = Refusal::none; // then there are no findings
-    std::size_t errors = 0;          // how many there are
-    std::vector<Finding> findings;   // the first errors, and warnings, in the order of the places
+    std::size_t errors = 0;          // their number
+    std::vector<Finding> findings;   // the first errors, and warnings, in document order
 };
 
-// So many errors are told in words.
-constexpr std::size_t mostErrors = 20;
+// Errors after these are only counted.
+constexpr std::size_t maxErrors = 20;
 
-// Runs the recognisers over a document.  What follows from an error that is reported is left
-// out; there is an error if, and only if, the document is rejected.
+// Runs the recognisers over a document.  Errors that follow from a reported one are left out.
+// There is an error if, and only if, the document is rejected.
 Diagnosis diagnose(const std::string& text);
 
-// The warnings of a document that is accepted.
+// The warnings for an accepted document.
 std::vector<Finding> warningsFor(const std::string& text);
 
 } // namespace tool

@@ -14,7 +14,7 @@ namespace tool
 class DotPrinter : public TreeVisitor
 {
 public:
-    // The graph is complete when the printer is gone.
+    // The destructor completes the graph.
     DotPrinter(std::FILE* output, const std::string& name);
     DotPrinter(const DotPrinter&) = delete;
     DotPrinter& operator=(const DotPrinter&) = delete;

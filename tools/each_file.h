@@ -13,7 +13,7 @@
 namespace tool
 {
 
-// Hands each file to `look`, with the progress, and answers with the worst status.
+// Calls `look` for each file, with the progress, and returns the worst status.
 template <typename Look>
 Status eachFile(const Options& options, bool isShown, Look look)
 {
@@ -26,7 +26,7 @@ Status eachFile(const Options& options, bool isShown, Look look)
     return worst;
 }
 
-// Prints what is wrong with a document on standard error.
+// Explains on standard error what is wrong with a document.
 inline void explain(const std::string& name, const std::string& text, const Diagnosis& diagnosis,
                     const Options& options)
 {

@@ -9,7 +9,7 @@
 namespace tool
 {
 
-// Prints a line for every call: the operation's name and, behind one blank, its text
+// Prints a line for every call: the operation's name and, after a space, its text
 // with \n, \r, \t, \\ and \xHH for every other byte that is not printable ASCII.
 class EventPrinter : public EventVisitor
 {
@@ -20,7 +20,7 @@ private:
     void event(const char* operation) override;
     void event(const char* operation, const char* text) override;
 
-    // What stands behind the text, after an arrow and escaped like it.
+    // What is printed after the text and an arrow, escaped like the text.
     virtual std::optional<std::string> value(const char* operation, const char* text);
 
     std::FILE* output_;

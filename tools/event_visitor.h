@@ -5,7 +5,7 @@
 namespace tool
 {
 
-// Turns every call into an event: the operation's name and, where it has one, its text.
+// Turns every call into an event: the operation's name and, if it has one, its text.
 class EventVisitor : public vorn::parsers::toml::ITomlTreeVisitor
 {
 public:

@@ -46,9 +46,8 @@ Diagnosis diagnosisOf(const std::string& text, Refusal refusal)
     {
         // Not known to happen; but what is rejected is never passed over.
         diagnosis.errors = 1;
-        diagnosis.findings.push_back({Severity::error, 0, 0,
-                                      "the document is rejected, for a reason that is not known",
-                                      ""});
+        diagnosis.findings.push_back(
+            {Severity::error, 0, 0, "the document is rejected for an unknown reason", ""});
     }
     return diagnosis;
 }

@@ -9,13 +9,13 @@ namespace tool
 namespace
 {
 
-// Columns, at most, before and from the place on.
-constexpr std::size_t mostBefore = 60;
-constexpr std::size_t mostBehind = 40;
+// In columns; what is after starts at the place.
+constexpr std::size_t maxBefore = 60;
+constexpr std::size_t maxAfter = 40;
 
 constexpr std::string_view omission = "...";
 
-// The begin of what is shown before a place.
+// Where the excerpt starts.
 std::size_t shownFrom(std::string_view line, std::size_t place)
 {
     std::size_t columns = 0;
@@ -24,7 +24,7 @@ std::size_t shownFrom(std::string_view line, std::size_t place)
     {
         const std::size_t before = characterBegin(line, from - 1);
         columns += shown(line, characterAt(line, before), before).columns;
-        if (columns > mostBefore)
+        if (columns > maxBefore)
         {
             break;
         }
@@ -45,13 +45,13 @@ Excerpt excerptOf(std::string_view line, std::size_t begin, std::size_t end)
         excerpt.source = omission;
         excerpt.marks.assign(omission.size(), ' ');
     }
-    std::size_t behind = 0;
+    std::size_t after = 0;
     for (std::size_t at = from; at < line.size();)
     {
         const Character character = characterAt(line, at);
         const ShownCharacter one = shown(line, character, at);
-        behind += at >= begin ? one.columns : 0;
-        if (behind > mostBehind)
+        after += at >= begin ? one.columns : 0;
+        if (after > maxAfter)
         {
             excerpt.source += omission;
             break;

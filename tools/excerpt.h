@@ -7,14 +7,14 @@
 namespace tool
 {
 
-// A line of source, or a part of it, as a terminal can show it, and the marks below a place.
+// A line of source, or part of it, in a form that is safe for terminals, with marks below a place.
 struct Excerpt
 {
     std::string source;
-    std::string marks; // blanks and ^~~~
+    std::string marks; // spaces and ^~~~
 };
 
-// Offsets count from the begin of the line.
+// Offsets count from the start of the line.
 Excerpt excerptOf(std::string_view line, std::size_t begin, std::size_t end);
 
 } // namespace tool

@@ -12,7 +12,7 @@ enum class Severity
     warning,
 };
 
-// What there is to say about a place of a document.
+// What there is to say about a place in a document.
 struct Finding
 {
     Severity severity = Severity::error;

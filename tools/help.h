@@ -1,4 +1,4 @@
-// The examples that the help shows; the tests run them.
+// The help, with examples; the tests run them.
 #pragma once
 
 namespace tool
@@ -9,10 +9,10 @@ constexpr const char* mainHelp =
     "  $ vorn-toml check network.toml\n"
     "  network.toml: accepted\n"
     "\n"
-    "Exit status: 0 accepted, 1 rejected, 2 wrong usage, 3 a file could not be read or\n"
-    "the output not be written.\n"
-    "What is wrong with a document is said on standard error: explained by check, tree and\n"
-    "tokens, logged as the library does it by events and values.";
+    "Exit status: 0 accepted, 1 rejected, 2 wrong usage, 3 a file could not be read, or the\n"
+    "output could not be written.\n"
+    "Errors in a document go to standard error: check, tree and tokens explain them, events\n"
+    "and values print what the library logs, with long texts shortened.";
 
 constexpr const char* eventsExample = "  $ printf 'a = 1\\n' | vorn-toml events -\n"
                                       "  beginDocument\n"
@@ -30,12 +30,12 @@ constexpr const char* valuesExample =
     "  visitBareKey at\n"
     "  visitLocalDateTime 1979-05-27T07:32:00 -> 1979-05-27T07:32:00+00:00 (296638320)\n"
     "\n"
-    "Values are what the library's conversions give.  Strings and quoted keys lose\n"
-    "their quotes and keep their escapes; infinities and not-a-numbers give 0.\n"
+    "Values are what the library's conversions return.  Strings and quoted keys lose\n"
+    "their quotes and keep their escapes; infinities and not-a-numbers become 0.\n"
     "Date-times are read as local time, in the zone TZ, and shown with its offset\n"
     "and the seconds since the epoch.  Bare keys, local dates and local times\n"
-    "have no conversion and no arrow.  What a conversion throws is shown behind\n"
-    "the arrow as \"error: ...\".\n";
+    "have no conversion and no arrow.  If a conversion throws, the reason is\n"
+    "shown after the arrow as \"error: ...\".\n";
 
 constexpr const char* checkExample =
     "  $ vorn-toml check network.toml\n"
@@ -44,14 +44,14 @@ constexpr const char* checkExample =
     "  -:1:10: error: the array is empty\n"
     "      1 | names = []\n"
     "        |          ^\n"
-    "        = hint: An array holds one element or more. Leave the key out instead.\n"
+    "        = hint: An array needs at least one element. Leave the key out instead.\n"
     "  -: rejected\n"
     "\n"
-    "Explanations go to standard error, 20 errors a file at most; the lines that end with\n"
+    "Explanations go to standard error, at most 20 errors per file; the lines that end with\n"
     "accepted or rejected go to standard output.  Columns count characters.\n"
     "--json prints an array with an object for each file: file, status (accepted, rejected or\n"
     "unreadable), errors (how many), findings (severity, line, column, endLine, endColumn,\n"
-    "message and mostly hint), and refusal where a document is too large or too deep.\n";
+    "message and usually hint), and refusal where a document is too large or too deep.\n";
 
 constexpr const char* treeExample = "  $ printf 'a.b = [1, 2]\\n' | vorn-toml tree -\n"
                                     "  document\n"
@@ -72,6 +72,6 @@ constexpr const char* tokensExample = "  $ printf 'a = true # yes\\n' | vorn-tom
                                       "  1:15     end of the line            \\n\n"
                                       "  2:1      end of the file\n"
                                       "\n"
-                                      "Blanks and comments are no tokens.\n";
+                                      "Spaces, tabs and comments are not tokens.\n";
 
 } // namespace tool

@@ -11,7 +11,7 @@
 namespace tool
 {
 
-// What is known of a file, for editors.
+// The status and the diagnosis of a file, for editors.
 nlohmann::ordered_json jsonReport(const std::string& name, Status status, std::string_view text,
                                   const Diagnosis& diagnosis);
 

@@ -33,7 +33,7 @@ bool isQuote(char c)
     return c == '"' || c == '\'';
 }
 
-// Whether the text has the shape, in which 0 stands for any digit.
+// Whether the text has the shape, in which 0 means any digit.
 bool hasShape(std::string_view text, std::size_t at, std::string_view shape)
 {
     if (text.size() - at < shape.size())
@@ -60,19 +60,19 @@ Finding unclosedString(const LexicalError& error, std::string_view text)
     if (isInLongString(error, text))
     {
         const std::string quotes(longQuotes[isBasic ? 0 : 1]);
-        return errorAt(error.begin, error.begin + 3, "the string that begins here is never closed",
-                       "It ends with " + quotes + ", as it begins.");
+        return errorAt(error.begin, error.begin + 3, "the string that starts here is never closed",
+                       "Close it with " + quotes + '.');
     }
-    std::string hint = isBasic ? "A string ends on its line with \". One that goes over several "
-                                 "lines begins and ends with \"\"\"."
-                               : "A literal string ends on its line with '. One with an apostrophe "
-                                 "in it has double quotes around it.";
+    std::string hint = isBasic ? "Close the string with \" on the same line. A string of several "
+                                 "lines starts and ends with \"\"\"."
+                               : "Close the string with ' on the same line. Put double quotes "
+                                 "around a string with an apostrophe in it.";
     return errorAt(error.begin, error.at, "the string is not closed on its line", std::move(hint));
 }
 
 constexpr std::string_view escapesHint =
-    "The escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX. In 'literal strings' "
-    "a backslash is only a backslash.";
+    "The valid escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX. In 'literal "
+    "strings' a backslash is just a backslash.";
 
 Finding wrongEscape(std::size_t backslash, std::string_view text)
 {
@@ -83,16 +83,15 @@ Finding wrongEscape(std::size_t backslash, std::string_view text)
     const char c = byteAt(text, next);
     if (character.length == 0 || c == '\n')
     {
-        return errorAt(backslash, next, "nothing to escape follows the backslash",
+        return errorAt(backslash, next, "there is nothing to escape after the backslash",
                        "A backslash joins lines only in strings with \"\"\" around them. A "
                        "backslash itself is written \\\\.");
     }
-    const std::string name =
-        "the escape " + printable(text.substr(backslash, end - backslash)) + " does not exist";
+    const std::string name = "unknown escape " + printable(text.substr(backslash, end - backslash));
     if (c == ' ' || c == '\t' || c == '\r')
     {
-        return errorAt(backslash, end, "a blank follows the backslash",
-                       "A backslash that joins lines is the last character of its line. A "
+        return errorAt(backslash, end, "there is whitespace after the backslash",
+                       "A backslash that joins lines must be the last character of its line. A "
                        "backslash itself is written \\\\.");
     }
     if (c == 'x' || c == 'e')
@@ -116,7 +115,7 @@ Finding shortEscape(const LexicalError& error, std::string_view text)
                    std::string("the escape \\") + (isLong ? "U" : "u") + " has too few digits",
                    std::string(isLong ? "Eight hexadecimal digits follow \\U, as in \\U000000E9. "
                                       : "Four hexadecimal digits follow \\u, as in \\u00E9. ") +
-                       "In 'literal strings' a backslash is only a backslash.");
+                       "In 'literal strings' a backslash is just a backslash.");
 }
 
 Finding inStringAlone(const LexicalError& error, std::string_view text)
@@ -146,18 +145,18 @@ Finding inString(const LexicalError& error, std::string_view text)
     Finding finding = inStringAlone(error, text);
     if (isInLongString(error, text) && !isAtEnd(error, text))
     {
-        finding.hint += " What follows is not checked before this string is right.";
+        finding.hint += " The rest is not checked until this string is fixed.";
     }
     return finding;
 }
 
-// Whether an equals sign stands on the same line behind the place, and none before it.
+// Whether the line has an equals sign after the place, and none before it.
 bool isInKey(std::size_t begin, std::string_view text)
 {
     const std::size_t before = text.find_last_of("\n=", begin);
-    const std::size_t behind = text.find_first_of("\n=", begin);
+    const std::size_t after = text.find_first_of("\n=", begin);
     return (before == std::string_view::npos || text[before] == '\n') &&
-           behind != std::string_view::npos && text[behind] == '=';
+           after != std::string_view::npos && text[after] == '=';
 }
 
 constexpr std::string_view timeHint = "A time is written 07:32:00 or 07:32:00.25, with seconds.";
@@ -166,50 +165,49 @@ Finding inDateTime(const LexicalError& error, std::string_view text)
 {
     constexpr std::string_view date = "0000-00-00";
     const bool hasDate = hasShape(text, error.begin, date);
-    const std::size_t behindDate = error.begin + date.size();
-    if (hasDate && byteAt(text, behindDate) == ' ' && error.at == behindDate + 1)
+    const std::size_t afterDate = error.begin + date.size();
+    if (hasDate && byteAt(text, afterDate) == ' ' && error.at == afterDate + 1)
     {
-        return errorAt(behindDate, behindDate + 1,
-                       "a time is missing: the date goes on with a blank",
-                       "A blank after a date begins the time of a date-time. Put nothing or a tab "
-                       "after the date.");
+        return errorAt(afterDate, afterDate + 1, "expected a time after the date and the space",
+                       "A date followed by a space starts a date-time. Remove the space, or write "
+                       "a tab instead.");
     }
-    const std::size_t time = hasDate ? behindDate + 1 : error.begin;
+    const std::size_t time = hasDate ? afterDate + 1 : error.begin;
     if (error.at > time + 8 && byteAt(text, time + 8) != '.')
     {
-        return errorAt(error.begin, error.at, "the offset of the date-time is not complete",
-                       "An offset is Z or written +01:00.");
+        return errorAt(error.begin, error.at, "the offset of the date-time is incomplete",
+                       "An offset is written Z or +01:00.");
     }
     if (error.kind == ErrorKind::noAlternative || error.kind == ErrorKind::recognition ||
         error.kind == ErrorKind::mismatchedSet)
     {
-        return errorAt(error.begin, error.at, "the time is not complete", std::string(timeHint));
+        return errorAt(error.begin, error.at, "the time is incomplete", std::string(timeHint));
     }
-    return errorAt(error.begin, error.at, "digits are missing after the dot of the time",
+    return errorAt(error.begin, error.at, "expected digits after the dot of the time",
                    std::string(timeHint));
 }
 
 Finding inNumber(const LexicalError& error, std::string_view text)
 {
-    const std::string hint = "A float is written 1.5, 1e6 or 1.5e-6: digits stand on both sides of "
-                             "the dot and after the exponent's e.";
+    const std::string hint = "A float is written 1.5, 1e6 or 1.5e-6, with digits on both sides of "
+                             "the dot and after the e.";
     if (byteAt(text, error.begin) == '+' && error.at <= error.begin + 1)
     {
-        return errorAt(error.begin, error.begin + 1, "a number is missing after '+'",
-                       "A plus sign begins numbers only, as +1, +1.5 and +inf.");
+        return errorAt(error.begin, error.begin + 1, "expected a number after '+'",
+                       "A plus sign may only start a number: +1, +1.5 or +inf.");
     }
     const char c = byteAt(text, error.begin + 1);
     if (byteAt(text, error.begin) == '+' && (c == 'i' || c == 'n'))
     {
-        return errorAt(error.begin, error.at, "a number is missing after '+'",
-                       "The words that may follow are +inf and +nan.");
+        return errorAt(error.begin, error.at, "expected a number after '+'",
+                       "The only words that may follow are inf and nan.");
     }
     if (error.at > error.begin && text[error.at - 1] == '_')
     {
-        return errorAt(error.at - 1, error.at, "a digit is missing after '_'",
-                       "Underscores stand between two digits.");
+        return errorAt(error.at - 1, error.at, "expected a digit after '_'",
+                       "An underscore must be between two digits.");
     }
-    return errorAt(error.begin, error.at, "a digit is missing in the number", hint);
+    return errorAt(error.begin, error.at, "the number is missing a digit", hint);
 }
 
 } // namespace
@@ -252,8 +250,8 @@ Finding findingOf(const LexicalError& error, std::string_view text)
     Finding finding = isDate ? inDateTime(error, text) : inNumber(error, text);
     if (isInKey(error.begin, text))
     {
-        finding.hint = "What begins like a number or a date reads as a value. Quoted it is a key, "
-                       "or a part of one.";
+        finding.hint =
+            "What starts like a number or a date is read as a value. Quote it to use it in a key.";
     }
     return finding;
 }

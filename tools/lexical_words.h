@@ -11,7 +11,8 @@ namespace tool
 
 Finding findingOf(const LexicalError& error, std::string_view text);
 
-// Whether the error is in a string of several lines: then all that follows is read inside out.
+// Whether the error is in a multi-line string.  Then strings and the text between them are
+// swapped in the rest of the document.
 bool isInLongString(const LexicalError& error, std::string_view text);
 
 } // namespace tool

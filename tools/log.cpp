@@ -8,6 +8,7 @@
 #include <string>
 
 #include "printed.h"
+#include "utf8.h"
 
 namespace tool
 {
@@ -28,6 +29,30 @@ std::string formatted(const char* format, va_list arguments)
     return text;
 }
 
+std::string shortened(std::string_view text)
+{
+    constexpr std::size_t maxShown = 200;
+    if (text.size() <= maxShown)
+    {
+        return escaped(text);
+    }
+    return escaped(text.substr(0, characterBegin(text, maxShown))) + "... (" +
+           std::to_string(text.size()) + " bytes in all)";
+}
+
+// The message on one line.  A text in it is shortened: it can be the whole document, and is so
+// for each of its errors.
+std::string messageOf(const char* format, va_list arguments)
+{
+    const std::string_view parts(format);
+    const std::size_t text = parts.find('%');
+    const bool isOnlyText = text != std::string_view::npos && parts.substr(text, 2) == "%s" &&
+                            parts.find('%', text + 1) == std::string_view::npos;
+    return isOnlyText ? escaped(parts.substr(0, text)) + shortened(va_arg(arguments, const char*)) +
+                            escaped(parts.substr(text + 2))
+                      : escaped(formatted(format, arguments));
+}
+
 } // namespace
 
 HeldLog::HeldLog()
@@ -42,9 +67,10 @@ HeldLog::~HeldLog()
 
 } // namespace tool
 
-// Takes the place of the utility library's logger, in this program: lines are printed as the
-// host's stand-in prints them, with all that could command a terminal escaped, or held.  While
-// they are held no message is made: those of a document with many errors hold it many times.
+// Takes the place of the utility library's logger in this program.  Lines are printed as the
+// host's stand-in prints them, but with everything escaped that could command a terminal, and
+// with long texts shortened.  While a HeldLog lives, no message is made: those of a document
+// with many errors hold it many times.
 void logInternal(const char* module, const char* sourceFile, const char* function, int line,
                  int level, int, int, const char* format, ...)
 {
@@ -54,10 +80,8 @@ void logInternal(const char* module, const char* sourceFile, const char* functio
     }
     va_list arguments;
     va_start(arguments, format);
-    const std::string message = tool::formatted(format, arguments);
+    const std::string message = tool::messageOf(format, arguments);
     va_end(arguments);
-    std::fprintf(stderr, "%s %s %s:%d %s: ", level == 3 ? "error" : "notice", module, sourceFile,
-                 line, function);
-    tool::printEscaped(stderr, message);
-    std::fputc('\n', stderr);
+    std::fprintf(stderr, "%s %s %s:%d %s: %s\n", level == 3 ? "error" : "notice", module,
+                 sourceFile, line, function, message.c_str());
 }

@@ -2,15 +2,17 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <iostream>
 #include <map>
 #include <new>
+#include <sstream>
 #include <string>
 
 #include "commands.h"
 #include "help.h"
+#include "standard_streams.h"
 
 namespace
 {
@@ -19,19 +21,19 @@ using tool::Options;
 using tool::Status;
 using Command = Status (*)(const Options& options);
 
-// What all subcommands share, and what they are asked for.
+// The subcommand to run, and its options.
 struct Run
 {
     Options options;
     Command command = nullptr;
 };
 
-// Adds a subcommand that runs over FILE...
+// Adds a subcommand with the argument FILE...
 CLI::App& addCommand(CLI::App& app, Run& run, Command command, const std::string& name,
                      const std::string& description, const char* example)
 {
     CLI::App& subcommand = *app.add_subcommand(name, description);
-    subcommand.add_option("FILE", run.options.files, "A document; - stands for standard input")
+    subcommand.add_option("FILE", run.options.files, "A document; - means standard input")
         ->required();
     subcommand.footer(std::string("Example:\n") + example);
     subcommand.callback([&run, command] { run.command = command; });
@@ -55,14 +57,14 @@ void addColour(CLI::App& subcommand, Run& run)
 void addCommands(CLI::App& app, Run& run)
 {
     addCommand(app, run, tool::printEvents, "events",
-               "Print the visitor calls of documents, one a line", tool::eventsExample);
+               "Print the visitor calls of documents, one per line", tool::eventsExample);
     addCommand(app, run, tool::printValues, "values",
-               "Print the visitor calls of documents, with the values of the texts",
+               "Print the visitor calls of documents, with the values of their texts",
                tool::valuesExample);
     CLI::App& check = addCommand(app, run, tool::check, "check",
-                                 "Tell whether documents are accepted, and explain what is wrong",
+                                 "Say whether documents are accepted, and explain their errors",
                                  tool::checkExample);
-    check.add_flag("--json", run.options.json, "Print all as one JSON array, for editors");
+    check.add_flag("--json", run.options.json, "Print everything as one JSON array, for editors");
     addColour(check, run);
     CLI::App& tree = addCommand(app, run, tool::printTrees, "tree",
                                 "Draw the syntax trees of documents", tool::treeExample);
@@ -73,21 +75,34 @@ void addCommands(CLI::App& app, Run& run)
               run);
 }
 
-int fail(const char* what, const char* why)
+void print(const char* what, const char* why)
 {
     std::fprintf(stderr, "vorn-toml: %s%s\n", what, why);
-    return tool::unreadable;
 }
 
-// What has been printed must have reached its place.
-int flushOutput()
+// The status of a run, raised if some of its output could not be written.
+int ended(int status, const tool::StandardStreams& streams)
 {
-    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+    if (const int reason = streams.outputFailure(); reason != 0)
     {
-        return tool::accepted;
+        // NOLINTNEXTLINE(concurrency-mt-unsafe): the tool has one thread.
+        print("standard output: ", std::strerror(reason));
+        return std::max<int>(status, tool::unreadable);
     }
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): the tool has one thread.
-    return fail("standard output: ", std::strerror(errno));
+    return status;
+}
+
+// Prints the help that was asked for, or what is wrong with the arguments.
+int explainUsage(const CLI::App& app, const CLI::ParseError& error,
+                 const tool::StandardStreams& streams)
+{
+    std::ostringstream help;
+    if (app.exit(error, help, std::cerr) != 0)
+    {
+        return tool::usage;
+    }
+    std::fputs(help.str().c_str(), stdout);
+    return ended(tool::accepted, streams);
 }
 
 } // namespace
@@ -95,9 +110,7 @@ int flushOutput()
 // NOLINTNEXTLINE(bugprone-exception-escape): what is not caught is a lack of memory.
 int main(int argc, char** argv)
 {
-    // Events and the log lines on standard error come out in the order they are made.
-    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
-
+    tool::StandardStreams streams;
     CLI::App app("Reads TOML documents the way the services of the device do.", "vorn-toml");
     app.require_subcommand(1);
     app.footer(tool::mainHelp);
@@ -109,17 +122,16 @@ int main(int argc, char** argv)
     }
     catch (const CLI::ParseError& error)
     {
-        // Asking for help is no error.
-        return app.exit(error) == 0 ? tool::accepted : tool::usage;
+        return explainUsage(app, error, streams);
     }
-    int status = tool::accepted;
+    int status = tool::unreadable;
     try
     {
         status = run.command(run.options);
     }
     catch (const std::bad_alloc&)
     {
-        status = fail("there is not enough memory", "");
+        print("not enough memory", "");
     }
-    return std::max(status, flushOutput());
+    return ended(status, streams);
 }

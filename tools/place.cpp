@@ -5,7 +5,7 @@ namespace tool
 namespace
 {
 
-// An array or an inline table that is open.
+// An open array or inline table.
 struct Enclosing
 {
     std::size_t opening; // cppcheck-suppress unusedStructMember
@@ -36,11 +36,11 @@ public:
             due_ = type == TokenType::openBracket ? Due::header : Due::headerEnd;
             break;
         case Due::headerEnd:
-            takeBehindHeader(type);
+            takeAfterHeader(type);
             break;
         case Due::equals:
         case Due::keyPart:
-            takeBehindKey(type);
+            takeAfterKey(type);
             break;
         case Due::value:
         case Due::firstElement:
@@ -49,7 +49,7 @@ public:
             break;
         case Due::arrayEnd:
         case Due::tableEnd:
-            takeBehindValue(type);
+            takeAfterValue(type);
             break;
         case Due::firstPair:
         case Due::pair:
@@ -78,7 +78,7 @@ public:
     }
 
 private:
-    void takeBehindHeader(TokenType type)
+    void takeAfterHeader(TokenType type)
     {
         if (type == TokenType::dot)
         {
@@ -91,7 +91,7 @@ private:
         }
     }
 
-    void takeBehindKey(TokenType type)
+    void takeAfterKey(TokenType type)
     {
         if (type == TokenType::dot)
         {
@@ -128,18 +128,18 @@ private:
             leave();
             break;
         case TokenType::comma:
-            due_ = behindComma();
+            due_ = afterComma();
             break;
         default:
             endValue();
         }
     }
 
-    void takeBehindValue(TokenType type)
+    void takeAfterValue(TokenType type)
     {
         if (type == TokenType::comma)
         {
-            due_ = behindComma();
+            due_ = afterComma();
         }
         else if (type == TokenType::closeBracket || type == TokenType::closeBrace)
         {
@@ -163,7 +163,7 @@ private:
         }
     }
 
-    Due behindComma() const
+    Due afterComma() const
     {
         return enclosing_.empty()          ? Due::lineEnd
                : enclosing_.back().isTable ? Due::pair

@@ -1,4 +1,4 @@
-// Where in a statement a token stands, for the words about one that does not fit.
+// Where in a statement a token is, to find words for one that does not fit.
 #pragma once
 
 #include <cstddef>
@@ -9,38 +9,38 @@
 namespace tool
 {
 
-// What is due.
+// What is expected next.
 enum class Due
 {
     statement,    // a key or a header
-    equals,       // behind a key
-    keyPart,      // behind a dot
+    equals,       // after a key
+    keyPart,      // after a dot
     header,       // the key of a header
-    headerEnd,    // behind the key of a header
-    value,        // behind an equals sign
+    headerEnd,    // after the key of a header
+    value,        // after an equals sign
     firstElement, // of an array
-    element,      // behind a comma
-    arrayEnd,     // behind an element: a comma or the bracket
+    element,      // after a comma
+    arrayEnd,     // after an element: a comma or the bracket
     firstPair,    // of an inline table
-    pair,         // behind a comma
-    tableEnd,     // behind a pair: a comma or the brace
-    lineEnd,      // behind the statement
+    pair,         // after a comma
+    tableEnd,     // after a pair: a comma or the brace
+    lineEnd,      // after the statement
 };
 
 struct Place
 {
     Due due = Due::statement;
-    std::size_t opening = 0; // the innermost bracket that is open
+    std::size_t opening = 0; // the innermost open bracket
     bool isOpen = false;     // whether there is one
-    bool isInTable = false;  // whether it is that of an inline table
-    unsigned elements = 0;   // before, in the array
-    unsigned breaks = 0;     // of lines, behind the last element, comma or bracket
+    bool isInTable = false;  // whether that is the brace of an inline table
+    unsigned elements = 0;   // of the array, before the place
+    unsigned breaks = 0;     // line breaks since the last element, comma or bracket
     std::size_t newline = 0; // the first of these
-    bool isOfArray = false;  // a header: with two brackets
+    bool isOfArray = false;  // a header with two brackets
 };
 
-// The place of the token `at`, in the statement that begins with the token `begin`.  Tokens
-// before it that do not fit are passed over.
+// The place of the token `at` in the statement that starts with the token `begin`.  Tokens
+// before it that do not fit are skipped.
 Place placeOf(const std::vector<DocumentToken>& tokens, std::size_t begin, std::size_t at);
 
 } // namespace tool

@@ -1,45 +1,62 @@
 #include "printed.h"
 
+#include <algorithm>
+
 namespace tool
 {
 namespace
 {
 
-void printEscaped(std::FILE* output, unsigned char byte)
+void appendEscaped(std::string& line, unsigned char byte)
 {
+    constexpr std::string_view digits = "0123456789ABCDEF";
     switch (byte)
     {
     case '\n':
-        std::fputs("\\n", output);
+        line += "\\n";
         break;
     case '\r':
-        std::fputs("\\r", output);
+        line += "\\r";
         break;
     case '\t':
-        std::fputs("\\t", output);
+        line += "\\t";
         break;
     case '\\':
-        std::fputs("\\\\", output);
+        line += "\\\\";
         break;
     default:
         if (byte >= 0x20 && byte <= 0x7e)
         {
-            std::fputc(byte, output);
+            line += static_cast<char>(byte);
         }
         else
         {
-            std::fprintf(output, "\\x%02X", byte);
+            line += {'\\', 'x', digits[byte / 16], digits[byte % 16]};
         }
     }
 }
 
 } // namespace
 
-void printEscaped(std::FILE* output, std::string_view text)
+std::string escaped(std::string_view text)
 {
+    std::string line;
+    line.reserve(text.size());
     for (const char byte : text)
     {
-        printEscaped(output, static_cast<unsigned char>(byte));
+        appendEscaped(line, static_cast<unsigned char>(byte));
+    }
+    return line;
+}
+
+void printEscaped(std::FILE* output, std::string_view text)
+{
+    // Block by block, since a text can be as large as its document.
+    constexpr std::size_t block = 4096;
+    for (; !text.empty(); text.remove_prefix(std::min(text.size(), block)))
+    {
+        const std::string line = escaped(text.substr(0, block));
+        std::fwrite(line.data(), 1, line.size(), output);
     }
 }
 

@@ -12,7 +12,7 @@ namespace
 constexpr std::chrono::milliseconds patience(500);
 constexpr std::chrono::milliseconds pause(100);
 
-// What takes so long that one looks up.
+// Takes so long that progress is shown at once.
 constexpr std::size_t largeFile = std::size_t{32} * 1024 * 1024;
 
 std::string megabytes(std::size_t bytes)
@@ -58,6 +58,7 @@ void Progress::clear()
     if (isThere_)
     {
         std::fputs("\r\x1B[K", stderr);
+        std::fflush(stderr);
         isThere_ = false;
     }
 }

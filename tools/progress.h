@@ -7,7 +7,7 @@
 namespace tool
 {
 
-// A line on standard error, if that is a terminal, that says how far long work has come.
+// A line on standard error, if that is a terminal, that shows how far slow work has come.
 class Progress
 {
 public:
@@ -16,16 +16,16 @@ public:
     Progress& operator=(const Progress&) = delete;
     ~Progress() { clear(); }
 
-    // The next file is begun.
+    // Starts with the next file.
     void begin(const std::string& name);
 
-    // So many bytes of it have been read.
+    // Called after so many of its bytes have been read.
     void read(std::size_t bytes);
 
-    // Its content, of that size, is being looked at.
+    // Called before its content, of that size, is examined.
     void work(std::size_t bytes);
 
-    // Takes the line away, before anything else is printed.
+    // Removes the line, before anything else is printed.
     void clear();
 
 private:

@@ -5,9 +5,8 @@
 namespace tool
 {
 
-// While one lives, nothing of what is printed on the C library's standard error stream
-// arrives.  The runtime prints there about each error, in words that are of no use here; the
-// descriptor stays as it is.
+// While one lives, everything that is printed on the C library's standard error stream is
+// dropped: the runtime's reports, which are of no use here.  The descriptor stays as it is.
 class SilentErrorStream
 {
 public:

@@ -20,12 +20,12 @@ class SourceLines
 public:
     explicit SourceLines(std::string_view text);
 
-    // From 1.
+    // Counted from 1.
     std::size_t lineOf(std::size_t offset) const;
 
     SourcePlace placeOf(std::size_t offset) const;
 
-    // The first byte of a line, behind a byte order mark.
+    // The first byte of a line, after a byte order mark.
     std::size_t beginOf(std::size_t line) const { return begins_[line - 1]; }
 
     // A line without its line break.

@@ -20,8 +20,8 @@ bool isKey(TokenType type)
            type == TokenType::literalString;
 }
 
-// Behind a key of any number of parts; where it began if there is none.
-std::size_t behindKey(const Tokens& tokens, std::size_t begin)
+// The first token after a key of any number of parts; `begin` if there is no key.
+std::size_t afterKey(const Tokens& tokens, std::size_t begin)
 {
     std::size_t at = begin;
     while (isKey(typeAt(tokens, at)))
@@ -38,11 +38,11 @@ std::size_t behindKey(const Tokens& tokens, std::size_t begin)
 
 bool looksLikePair(const Tokens& tokens, std::size_t begin)
 {
-    const std::size_t at = behindKey(tokens, begin);
+    const std::size_t at = afterKey(tokens, begin);
     return at != begin && typeAt(tokens, at) == TokenType::equals;
 }
 
-// A bare key is no element of an array; a string in brackets may be one.
+// A bare key is not an element of an array; a string in brackets may be one.
 bool looksLikeHeader(const Tokens& tokens, std::size_t begin)
 {
     std::size_t at = begin;
@@ -51,7 +51,7 @@ bool looksLikeHeader(const Tokens& tokens, std::size_t begin)
         ++at;
     }
     return at != begin && typeAt(tokens, at) == TokenType::bareKey &&
-           typeAt(tokens, behindKey(tokens, at)) == TokenType::closeBracket;
+           typeAt(tokens, afterKey(tokens, at)) == TokenType::closeBracket;
 }
 
 bool opens(TokenType type)
@@ -105,7 +105,7 @@ void Statements::findClosings(const Tokens& tokens)
                   (tokens[open.back()].type == TokenType::openBracket &&
                    looksLikePair(tokens, at + 1))))
         {
-            // No such line stands in an array.
+            // There is no such line in an array.
             open.clear();
         }
     }

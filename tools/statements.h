@@ -8,18 +8,18 @@
 namespace tool
 {
 
-// Where the statements of a document (pairs, headers, empty lines) begin, also of one that
-// is broken: brackets that are never closed do not take what follows them along.
+// Where the statements of a document (pairs, headers, empty lines) start.  In an invalid
+// document, a bracket that is never closed does not swallow the statements after it.
 class Statements
 {
 public:
     explicit Statements(const std::vector<DocumentToken>& tokens);
 
-    // The first token of the statement that a token belongs to, that of the last statement
-    // for the end of the document.
+    // The first token of the statement that a token belongs to.  The end of the document
+    // belongs to the last statement.
     std::size_t beginOf(std::size_t token) const;
 
-    // The first token of the statement behind it, or the number of all tokens.
+    // The first token of the next statement, or the number of all tokens.
     std::size_t nextAfter(std::size_t token) const;
 
     // Whether a bracket is closed.

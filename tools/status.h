@@ -3,14 +3,14 @@
 namespace tool
 {
 
-// The tool's exit statuses.  Over several inputs the highest of them counts, but for
-// `usage`, which ends a run before it reads any.
+// The tool's exit statuses.  For several files the highest of them counts.  After
+// `usage` no file has been read.
 enum Status
 {
     accepted = 0,
     rejected = 1,
     usage = 2,
-    unreadable = 3, // or the output cannot be written
+    unreadable = 3, // or the output could not be written
 };
 
 } // namespace tool

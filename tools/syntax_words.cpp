@@ -12,7 +12,7 @@ namespace tool
 namespace
 {
 
-constexpr std::string_view pairHint = "A line holds a pair, key = value, or a header, [key].";
+constexpr std::string_view pairHint = "A line contains a pair, key = value, or a header, [key].";
 
 bool isLineEnd(TokenType type)
 {
@@ -23,10 +23,10 @@ Words valueForKey(const DocumentToken& found, const TokenizedText& document)
 {
     const std::string text(document.textOf(found));
     return {"expected a key, found " + described(found, text),
-            "It reads as a value. Quoted it is a key: \"" + quotedContent(text) + "\"."};
+            "It is read as a value. Quote it to use it as a key: \"" + quotedContent(text) + "\"."};
 }
 
-// A key is expected.
+// Where a key is expected.
 Words forKey(const std::string& expected, const DocumentToken& found, const TokenizedText& document,
              const std::string& hint)
 {
@@ -37,7 +37,7 @@ Words forKey(const std::string& expected, const DocumentToken& found, const Toke
     if (found.type == TokenType::mlBasicString || found.type == TokenType::mlLiteralString)
     {
         return {expected + ", found " + described(found, document.textOf(found)),
-                "A key in quotes stands on one line, in \" or '."};
+                "A quoted key is written on one line, with \" or '."};
     }
     return {expected + ", found " + described(found, document.textOf(found)), hint};
 }
@@ -58,9 +58,9 @@ Words forStatement(const DocumentToken& found, const TokenizedText& document)
 Words forEquals(const Place& place, const DocumentToken& found, const TokenizedText& document)
 {
     const std::string hint = place.isInTable
-                                 ? "In an inline table pairs are written {a = 1, b = 2}."
+                                 ? "In an inline table, pairs are written {a = 1, b = 2}."
                              : found.type == TokenType::bareKey || isValueLikeKey(found.type)
-                                 ? "A key of several words has quotes: \"my key\" = 1."
+                                 ? "A key of several words needs quotes: \"my key\" = 1."
                                  : std::string(pairHint);
     return {"expected '=' after the key, found " + described(found, document.textOf(found)), hint};
 }
@@ -103,18 +103,18 @@ Words forLineEnd(std::size_t index, const TokenizedText& document)
         return {"expected the end of the line after the string, found " +
                     described(found, document.textOf(found)),
                 isBasic ? "A quote in a string is written \\\"."
-                        : "A string with an apostrophe in it has double quotes around it."};
+                        : "Put double quotes around a string with an apostrophe in it."};
     }
     if (found.type == TokenType::closeBracket || found.type == TokenType::closeBrace)
     {
         return {std::string(kindName(found.type)) + " closes nothing here",
-                "Every ']' and '}' belongs to one that opens."};
+                "Every ']' needs a '[' before it, and every '}' a '{'."};
     }
     const bool isNumber = isValueLikeKey(before.type);
     if (found.type == TokenType::comma && isLineEnd(document.at(index + 1).type))
     {
         return {"expected the end of the line, found ','",
-                "No comma stands at the end of a pair or a header."};
+                "Pairs and headers end without a comma."};
     }
     if (isNumber && found.type == TokenType::comma)
     {
@@ -124,38 +124,38 @@ Words forLineEnd(std::size_t index, const TokenizedText& document)
     if (isNumber && found.type == TokenType::dot)
     {
         return {"expected the end of the line, found '.'",
-                "A float has one dot. Versions and addresses are strings, with quotes."};
+                "A float has one dot. Versions and addresses are strings: they need quotes."};
     }
     return {"expected the end of the line, found " + described(found, document.textOf(found)),
-            "Each pair and each header has a line of its own. Strings have quotes."};
+            "Put each pair and each header on its own line. Strings need quotes."};
 }
 
-// What an inline table that is not closed is told, whatever stands in the place.
+// In an inline table, closed or not.
 Words forTable(const Place& place, const DocumentToken& found, const TokenizedText& document)
 {
     if (isLineEnd(found.type) || place.breaks > 0)
     {
-        return {"the inline table does not end on its line",
-                "An inline table stands on one line, up to its '}'. What is longer is a table with "
-                "a header, [key]."};
+        return {"the inline table is not closed on its line",
+                "An inline table must be on one line, up to its '}'. For a longer table, write a "
+                "header, [key]."};
     }
     if (found.type == TokenType::closeBrace)
     {
         return place.due == Due::firstPair
                    ? Words{"the inline table is empty",
-                           "An inline table holds one pair or more. Leave the key out, or use a "
+                           "An inline table needs at least one pair. Leave the key out, or use a "
                            "header, [key], with nothing below it."}
                    : Words{"expected a pair after the comma, found '}'",
-                           "No comma stands before the '}' of an inline table."};
+                           "An inline table has no comma before its '}'."};
     }
     if (place.due == Due::tableEnd)
     {
         return {"expected ',' or '}' after the pair, found " +
                     described(found, document.textOf(found)),
-                "In an inline table pairs are written {a = 1, b = 2}."};
+                "In an inline table, pairs are written {a = 1, b = 2}."};
     }
     return forKey("expected a key in the inline table", found, document,
-                  "In an inline table pairs are written {a = 1, b = 2}.");
+                  "In an inline table, pairs are written {a = 1, b = 2}.");
 }
 
 Words wordsFor(const Place& place, std::size_t index, const TokenizedText& document)
@@ -190,8 +190,8 @@ Words wordsFor(const Place& place, std::size_t index, const TokenizedText& docum
     }
 }
 
-// A token that does not fit is where it is; an end is right behind what stands before it, if
-// that is on the same line.
+// The place of a token that does not fit is its own.  That of an end of line or file is right
+// after the token before it, if that is on the same line.
 Finding placed(std::size_t index, const TokenizedText& document)
 {
     const DocumentToken found = document.at(index);
@@ -202,9 +202,9 @@ Finding placed(std::size_t index, const TokenizedText& document)
     {
         const std::size_t before = index > 0 ? document.tokens[index - 1].end : 0;
         const std::string_view between = document.text.substr(before, found.begin - before);
-        const bool isBehind = index > 0 && between.find('\n') == std::string_view::npos &&
-                              document.tokens[index - 1].type != TokenType::newline;
-        finding.begin = isBehind ? before : found.begin;
+        const bool isAfter = index > 0 && between.find('\n') == std::string_view::npos &&
+                             document.tokens[index - 1].type != TokenType::newline;
+        finding.begin = isAfter ? before : found.begin;
         finding.end = finding.begin;
     }
     return finding;

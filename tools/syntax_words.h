@@ -19,7 +19,7 @@ struct TokenizedText
     const Statements& statements;
     std::size_t end; // where the lexer found the document's end
 
-    // The token at an index; that of the end behind the last one.
+    // The token at an index; after the last one, that of the end.
     DocumentToken at(std::size_t index) const
     {
         return index < tokens.size() ? tokens[index]
@@ -28,7 +28,7 @@ struct TokenizedText
     // The first token of the statement that the parser was in.
     std::size_t beginOf(const SyntaxError& error) const
     {
-        // What looks like another statement is found in an array that is not closed.
+        // In an array that is not closed, the error is found where the next statement starts.
         constexpr std::size_t rulesOfKey = 3;
         const std::size_t begin = statements.beginOf(error.token);
         return error.token == begin && begin > 0 && error.rules > rulesOfKey

@@ -11,7 +11,7 @@ namespace tool
 namespace
 {
 
-// Sequences that change the colour of what follows; nothing where there is to be none.
+// Escape sequences that set the colour of what follows; empty without colours.
 struct Colours
 {
     std::string_view bold;
@@ -91,13 +91,13 @@ std::string textReport(const std::string& name, std::string_view text, const Dia
     {
         report.addMessage("", Severity::error, refusalMessage(diagnosis.refusal));
     }
-    std::size_t told = 0;
+    std::size_t explained = 0;
     for (const Finding& finding : diagnosis.findings)
     {
         report.add(finding);
-        told += finding.severity == Severity::error ? 1 : 0;
+        explained += finding.severity == Severity::error ? 1 : 0;
     }
-    if (const std::size_t more = diagnosis.errors - told; more > 0)
+    if (const std::size_t more = diagnosis.errors - explained; more > 0)
     {
         report.addLine(std::to_string(more) + (more == 1 ? " more error" : " more errors"));
     }
@@ -107,9 +107,9 @@ std::string textReport(const std::string& name, std::string_view text, const Dia
 std::string refusalMessage(Refusal refusal)
 {
     return refusal == Refusal::tooDeep
-               ? "something is wrong, and arrays or inline tables are nested too deeply to say what"
-               : "something is wrong, and the document is too large to say what: there is not "
-                 "enough memory";
+               ? "the document is invalid, but its arrays or inline tables are nested too deeply "
+                 "to say where"
+               : "the document is too large to diagnose: there is not enough memory";
 }
 
 } // namespace tool

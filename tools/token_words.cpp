@@ -7,9 +7,9 @@ namespace tool
 namespace
 {
 
-constexpr std::size_t mostShown = 30;
+constexpr std::size_t maxShown = 30;
 
-// Of one line, and not too much of it.
+// The start of the first line.
 std::string shortened(std::string_view text)
 {
     text = text.substr(0, text.find('\n'));
@@ -17,7 +17,7 @@ std::string shortened(std::string_view text)
     std::size_t count = 0;
     for (std::size_t at = 0; at < text.size(); ++count)
     {
-        if (count == mostShown)
+        if (count == maxShown)
         {
             return result + "...";
         }

@@ -13,7 +13,7 @@ namespace tool
 // "integer", "string", "'='", "end of the line", ...
 std::string_view kindName(TokenType type);
 
-// Whether a token is a value that one could take for a key: true, 123, 2024-01-01.
+// Whether a token is a value that looks like a key: true, 123, 2024-01-01.
 bool isValueLikeKey(TokenType type);
 
 // "the integer 123", "'='", "the end of the line".

@@ -27,7 +27,7 @@ void printLine(const SourcePlace& place, std::string_view kind, std::string_view
     std::fputc('\n', stdout);
 }
 
-// Places come in order, so that columns need not be counted from the line's begin each time.
+// Places come in order, so columns need not be counted from the start of the line each time.
 class Places
 {
 public:
@@ -54,7 +54,7 @@ private:
     std::size_t at_ = 0;
 };
 
-// Tokens, and between them what is none.
+// Prints the tokens, and what is not a token between them.
 void list(const std::string& text, const Recognition& found)
 {
     Places places(text);

@@ -9,7 +9,7 @@ namespace tool
 namespace
 {
 
-constexpr std::size_t deepest = 100;
+constexpr std::size_t maxIndented = 100;
 
 } // namespace
 
@@ -30,8 +30,8 @@ void TreePrinter::leaf(const char* kind, const char* text)
 
 void TreePrinter::printKind(const char* kind)
 {
-    std::fprintf(output_, "%*s", static_cast<int>(2 * std::min(level_, deepest)), "");
-    if (level_ > deepest)
+    std::fprintf(output_, "%*s", static_cast<int>(2 * std::min(level_, maxIndented)), "");
+    if (level_ > maxIndented)
     {
         std::fprintf(output_, "(level %zu) ", level_);
     }

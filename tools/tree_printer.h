@@ -8,8 +8,8 @@
 namespace tool
 {
 
-// Prints a node a line, indented by its level.  Levels beyond the deepest that is indented are
-// numbered, so that lines do not grow with the depth.
+// Prints one node per line, indented by its level.  Deep levels are numbered instead, so that
+// lines do not grow with the depth.
 class TreePrinter : public TreeVisitor
 {
 public:

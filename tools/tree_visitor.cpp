@@ -11,7 +11,7 @@ namespace
 
 struct Kind
 {
-    std::string_view operation; // behind "begin" or "visit"
+    std::string_view operation; // after "begin" or "visit"
     const char* name;           // cppcheck-suppress unusedStructMember
 };
 

@@ -5,12 +5,11 @@
 namespace tool
 {
 
-// Turns the calls into the nodes of a tree, which the calls in pairs enclose.
+// Turns the calls into the nodes of a tree: a pair of calls encloses the nodes below it.
 class TreeVisitor : public EventVisitor
 {
 protected:
-    // A node, and its text, which is null for those with nodes below; these come until
-    // endNode().
+    // A node with nodes below it; these come before its endNode().
     virtual void beginNode(const char* kind) = 0;
     virtual void endNode() = 0;
     virtual void leaf(const char* kind, const char* text) = 0;

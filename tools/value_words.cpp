@@ -38,17 +38,16 @@ std::string numberHint(std::string_view text)
     if (digits.find_first_not_of("0123456789_") == std::string_view::npos)
     {
         return digits[0] == '0' && digits.size() > 1 && digits.find('_') == std::string_view::npos
-                   ? "An integer does not begin with 0. An octal one is written 0o755."
-                   : "In a number underscores stand between two digits.";
+                   ? "An integer must not start with 0. Octal integers are written 0o755."
+                   : "In a number, an underscore must be between two digits.";
     }
     if (digits.find_first_not_of("0123456789-:.TtZ") == std::string_view::npos)
     {
         return "A date is written 2024-01-31, a date-time 2024-01-31T07:32:00, with seconds. "
-               "Strings have quotes.";
+               "Strings need quotes.";
     }
-    return "Integers are written 42, 0xFF, 0o755 or 0b101, floats 1.5 or 1e6. What has a unit or "
-           "is "
-           "a text is a string, with quotes.";
+    return "Integers are written 42, 0xFF, 0o755 or 0b101, floats 1.5 or 1e6. Anything with a unit "
+           "is a string: it needs quotes.";
 }
 
 std::string wordHint(std::string_view text)
@@ -56,18 +55,18 @@ std::string wordHint(std::string_view text)
     const std::string lower = lowerCase(text);
     if (isOneOf(lower, {"true", "false", "inf", "nan"}))
     {
-        return "It is written in small letters: " + lower + '.';
+        return "Write it in lower case: " + lower + '.';
     }
     if (isOneOf(lower, {"yes", "on", "no", "off"}))
     {
-        return "Booleans are true and false. Strings have quotes.";
+        return "The booleans are true and false. Strings need quotes.";
     }
     if (isOneOf(lower, {"null", "nil", "none"}))
     {
-        return "There is no such value. Leave the key out.";
+        return "TOML has no such value. Leave the key out.";
     }
     return isNumeric(text) ? numberHint(text)
-                           : "Strings have quotes: \"" + quotedContent(text) + "\".";
+                           : "Strings need quotes: \"" + quotedContent(text) + "\".";
 }
 
 } // namespace
@@ -86,16 +85,16 @@ Words forValue(const DocumentToken& found, const TokenizedText& document)
     case TokenType::newline:
     case TokenType::endOfInput:
         return {"expected a value, found " + described(found, text),
-                "The value begins on the line of its key."};
+                "The value must start on the line of its key."};
     case TokenType::bareKey:
         return {quoted(text) + " is not a value", wordHint(text)};
     case TokenType::dot:
-        return {"expected a value, found '.'", "A number begins with a digit: 0.5."};
+        return {"expected a value, found '.'", "A number starts with a digit: 0.5."};
     case TokenType::equals:
         return {"expected a value, found a second '='", "A pair is written key = value."};
     default:
         return {"expected a value, found " + described(found, text),
-                "Strings have quotes. Arrays are written [1, 2], inline tables {a = 1}."};
+                "Strings need quotes. Arrays are written [1, 2], inline tables {a = 1}."};
     }
 }
 

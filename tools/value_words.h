@@ -1,4 +1,4 @@
-// What stands where a value is due, in words.
+// Tokens that are not the expected value, in words.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ namespace tool
 
 Words forValue(const DocumentToken& found, const TokenizedText& document);
 
-// A text as the content of a string, shortened.
+// A text, shortened, as the content of a string.
 std::string quotedContent(std::string_view text);
 
 } // namespace tool

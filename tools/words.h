@@ -5,7 +5,7 @@
 namespace tool
 {
 
-// What is said about a place.
+// A message about a place, and a hint how to fix it.
 struct Words
 {
     std::string message;

@@ -9,32 +9,32 @@ namespace
 {
 
 // Hints that are given more than once.
-const std::string readsAsValue = "It reads as a value. Quoted it is a key: \"true\".";
-const std::string readsAsValue1 = "It reads as a value. Quoted it is a key: \"1\".";
+const std::string readsAsValue = "It is read as a value. Quote it to use it as a key: \"true\".";
+const std::string readsAsValue1 = "It is read as a value. Quote it to use it as a key: \"1\".";
 const std::string likeNumber =
-    "What begins like a number or a date reads as a value. Quoted it is a key, or a part of one.";
+    "What starts like a number or a date is read as a value. Quote it to use it in a key.";
 const std::string headerForm = "A header is written [key].";
 const std::string headerOnOneLine = "A header is written [key], on one line.";
-const std::string ownLine = "Each pair and each header has a line of its own. Strings have quotes.";
-const std::string unopened = "Every ']' and '}' belongs to one that opens.";
+const std::string ownLine = "Put each pair and each header on its own line. Strings need quotes.";
+const std::string unopened = "Every ']' needs a '[' before it, and every '}' a '{'.";
 const std::string arrayHeader = "A header of an array of tables is written [[key]], on one line.";
-const std::string quotedKey = "A key in quotes stands on one line, in \" or '.";
-const std::string lineForm = "A line holds a pair, key = value, or a header, [key].";
-const std::string valueOnLine = "The value begins on the line of its key.";
+const std::string quotedKey = "A quoted key is written on one line, with \" or '.";
+const std::string lineForm = "A line contains a pair, key = value, or a header, [key].";
+const std::string valueOnLine = "The value must start on the line of its key.";
 const std::string pairForm = "A pair is written key = value.";
-const std::string keyOfWords = "A key of several words has quotes: \"my key\" = 1.";
+const std::string keyOfWords = "A key of several words needs quotes: \"my key\" = 1.";
 const std::string valueForms =
-    "Strings have quotes. Arrays are written [1, 2], inline tables {a = 1}.";
-const std::string emptyArray = "An array holds one element or more. Leave the key out instead.";
-const std::string unclosed = "A string ends on its line with \". One that goes over several lines "
-                             "begins and ends with \"\"\".";
+    "Strings need quotes. Arrays are written [1, 2], inline tables {a = 1}.";
+const std::string emptyArray = "An array needs at least one element. Leave the key out instead.";
+const std::string unclosed = "Close the string with \" on the same line. A string of several lines "
+                             "starts and ends with \"\"\".";
 const std::string lastLineBreak =
-    "Every pair and every header ends with a line break, the last one too.";
+    "Every pair and every header ends with a line break, including the last one.";
 const std::string lineEnds =
     "Lines end with a line feed (LF), or with a carriage return and a line feed (CR LF).";
-const std::string commas = "Elements are separated by commas: [1, 2].";
+const std::string commas = "Separate elements with commas: [1, 2].";
 const std::string bareKeys =
-    "Bare keys are made of A-Z a-z 0-9 _ and -. Other keys, and all strings, have quotes.";
+    "Bare keys consist of A-Z a-z 0-9 _ and -. Other keys, and all strings, need quotes.";
 
 } // namespace
 
@@ -47,21 +47,21 @@ TEST(DiagnosisOfLines, keysThatReadAsValues)
         {"123 = 1\n",
          false,
          {{"1:1 error: expected a key, found the integer 123",
-           "It reads as a value. Quoted it is a key: \"123\"."}}},
+           "It is read as a value. Quote it to use it as a key: \"123\"."}}},
         {"1.5 = 1\n",
          false,
          {{"1:1 error: expected a key, found the float 1.5",
-           "It reads as a value. Quoted it is a key: \"1.5\"."}}},
+           "It is read as a value. Quote it to use it as a key: \"1.5\"."}}},
         {"inf = 1\n",
          false,
          {{"1:1 error: expected a key, found the float inf",
-           "It reads as a value. Quoted it is a key: \"inf\"."}}},
+           "It is read as a value. Quote it to use it as a key: \"inf\"."}}},
         {"2024-01-31\t= 1\n",
          false,
          {{"1:1 error: expected a key, found the date 2024-01-31",
-           "It reads as a value. Quoted it is a key: \"2024-01-31\"."}}},
+           "It is read as a value. Quote it to use it as a key: \"2024-01-31\"."}}},
         {"a.1 = 1\n", false, {{"1:3 error: expected a key, found the integer 1", readsAsValue1}}},
-        {"a.2.b = 1\n", false, {{"1:3 error: a digit is missing in the number", likeNumber}}},
+        {"a.2.b = 1\n", false, {{"1:3 error: the number is missing a digit", likeNumber}}},
         {"[1]\n", false, {{"1:2 error: expected a key, found the integer 1", readsAsValue1}}},
         {"[[true]]\n",
          false,
@@ -69,18 +69,18 @@ TEST(DiagnosisOfLines, keysThatReadAsValues)
         {"[a.false]\n",
          false,
          {{"1:4 error: expected a key, found the boolean false",
-           "It reads as a value. Quoted it is a key: \"false\"."}}},
+           "It is read as a value. Quote it to use it as a key: \"false\"."}}},
         {"a = {0x1F = 1}\n",
          false,
          {{"1:6 error: expected a key, found the hexadecimal integer 0x1F",
-           "It reads as a value. Quoted it is a key: \"0x1F\"."}}},
+           "It is read as a value. Quote it to use it as a key: \"0x1F\"."}}},
         {"07:32:00 = 1\n",
          false,
          {{"1:1 error: expected a key, found the time 07:32:00",
-           "It reads as a value. Quoted it is a key: \"07:32:00\"."}}},
+           "It is read as a value. Quote it to use it as a key: \"07:32:00\"."}}},
         {"2024-01-31 = 1\n",
          false,
-         {{"1:11 error: a time is missing: the date goes on with a blank", likeNumber}}},
+         {{"1:11 error: expected a time after the date and the space", likeNumber}}},
     });
 }
 
@@ -171,7 +171,7 @@ TEST(DiagnosisOfLines, pairs)
         {"a = 1,\n",
          false,
          {{"1:6 error: expected the end of the line, found ','",
-           "No comma stands at the end of a pair or a header."}}},
+           "Pairs and headers end without a comma."}}},
         {"]\n", false, {{"1:1 error: ']' closes nothing here", lineForm}}},
         {"}\n", false, {{"1:1 error: '}' closes nothing here", lineForm}}},
         {"{a = 1}\n", false, {{"1:1 error: expected a key or a header, found '{'", lineForm}}},
@@ -249,15 +249,15 @@ TEST(DiagnosisOfLines, severalErrors)
          {{"1:6 error: the array is empty", emptyArray},
           {"2:7 error: expected the end of the line, found the integer 2", ownLine},
           {"3:6 error: the inline table is empty",
-           "An inline table holds one pair or more. Leave the key out, or use a header, [key], "
+           "An inline table needs at least one pair. Leave the key out, or use a header, [key], "
            "with nothing below it."}}},
         {"a = [\n1 2,\n3 4,\n[]\n]\n",
          false,
          {{"2:3 error: expected ',' or ']' after the element, found the integer 2", commas}}},
         {"a = @ []\nb = $\n",
          false,
-         {{"1:5 error: the character '@' cannot stand here", bareKeys},
-          {"2:5 error: the character '$' cannot stand here", bareKeys}}},
+         {{"1:5 error: the character '@' is not allowed here", bareKeys},
+          {"2:5 error: the character '$' is not allowed here", bareKeys}}},
         {"a = \"b\nc = $\n\nd = []\n",
          false,
          {{"1:5 error: the string is not closed on its line", unclosed},
@@ -277,7 +277,7 @@ TEST(DiagnosisOfLines, severalErrors)
           {"3:4 error: expected a value, found the end of the line", valueOnLine}}},
         {"a = [@,\n 1,\n # c\n 2]\nb =\n",
          false,
-         {{"1:6 error: the character '@' cannot stand here", bareKeys},
+         {{"1:6 error: the character '@' is not allowed here", bareKeys},
           {"5:4 error: expected a value, found the end of the line", valueOnLine}}},
     });
 }

@@ -11,25 +11,25 @@ namespace
 
 // Hints that are given more than once.
 const std::string highCharacter =
-    "Emoji and other characters above U+FFFF can stand nowhere, not even in comments. In a string "
-    "with double quotes write \\U0001F600 instead.";
-const std::string escapes = "The escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX "
-                            "\\UXXXXXXXX. In 'literal strings' a backslash is only a backslash.";
-const std::string emptyArray = "An array holds one element or more. Leave the key out instead.";
+    "Emoji and other characters above U+FFFF are not allowed, not even in comments. In a string "
+    "with double quotes, write \\U0001F600 instead.";
+const std::string escapes = "The valid escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX "
+                            "\\UXXXXXXXX. In 'literal strings' a backslash is just a backslash.";
+const std::string emptyArray = "An array needs at least one element. Leave the key out instead.";
 const std::string fourDigits = "Four hexadecimal digits follow \\u, as in \\u00E9. In 'literal "
-                               "strings' a backslash is only a backslash.";
-const std::string unclosed = "A string ends on its line with \". One that goes over several lines "
-                             "begins and ends with \"\"\".";
-const std::string unclosedLiteral = "A literal string ends on its line with '. One with an "
-                                    "apostrophe in it has double quotes around it.";
+                               "strings' a backslash is just a backslash.";
+const std::string unclosed = "Close the string with \" on the same line. A string of several lines "
+                             "starts and ends with \"\"\".";
+const std::string unclosedLiteral = "Close the string with ' on the same line. Put double quotes "
+                                    "around a string with an apostrophe in it.";
 const std::string quoteInString = "A quote in a string is written \\\".";
 const std::string bareKeys =
-    "Bare keys are made of A-Z a-z 0-9 _ and -. Other keys, and all strings, have quotes.";
+    "Bare keys consist of A-Z a-z 0-9 _ and -. Other keys, and all strings, need quotes.";
 const std::string controlCharacters =
-    "Control characters other than tabs and line breaks stand in strings and comments only.";
+    "Control characters other than tabs and line breaks may only appear in strings and comments.";
 const std::string malformed =
-    "It may be read as one character together with what follows it. Save the file as UTF-8.";
-const std::string readsAsEnd = "They read as the end of the file. Save the file as UTF-8.";
+    "It may be read as one character together with the bytes after it. Save the file as UTF-8.";
+const std::string readsAsEnd = "They are read as the end of the file. Save the file as UTF-8.";
 
 } // namespace
 
@@ -65,53 +65,52 @@ TEST(DiagnosisOfStrings, escapes)
     expectSaid({
         {"a = \"\\e\"\n",
          false,
-         {{"1:6 error: the escape \\e does not exist",
+         {{"1:6 error: unknown escape \\e",
            "The escape character is written \\u001B. A backslash itself is written \\\\."}}},
         {"a = \"\\x41\"\n",
          false,
-         {{"1:6 error: the escape \\x does not exist",
+         {{"1:6 error: unknown escape \\x",
            "Write \\u0041 instead of \\x41. A backslash itself is written \\\\."}}},
         {"a = \"\\q\"\nb = []\n",
          false,
-         {{"1:6 error: the escape \\q does not exist", escapes},
+         {{"1:6 error: unknown escape \\q", escapes},
           {"2:6 error: the array is empty", emptyArray}}},
-        {"a = \"C:\\dir\"\n", false, {{"1:8 error: the escape \\d does not exist", escapes}}},
+        {"a = \"C:\\dir\"\n", false, {{"1:8 error: unknown escape \\d", escapes}}},
         {"a = \"\\u12\"\n", false, {{"1:6 error: the escape \\u has too few digits", fourDigits}}},
         {"a = \"\\U0001F60\"\n",
          false,
          {{"1:6 error: the escape \\U has too few digits",
            "Eight hexadecimal digits follow \\U, as in \\U000000E9. In 'literal strings' a "
-           "backslash is only a backslash."}}},
+           "backslash is just a backslash."}}},
         {"a = \"\\ud8g0\"\n",
          false,
          {{"1:6 error: the escape \\u has too few digits", fourDigits}}},
         {"a = \"\"\"\\ \n\"\"\"\nb = []\n",
          false,
-         {{"1:8 error: a blank follows the backslash",
-           "A backslash that joins lines is the last character of its line. A backslash itself is "
-           "written \\\\. What follows is not checked before this string is right."}}},
+         {{"1:8 error: there is whitespace after the backslash",
+           "A backslash that joins lines must be the last character of its line. A backslash "
+           "itself is "
+           "written \\\\. The rest is not checked until this string is fixed."}}},
         {"a = \"\"\"\\x41\"\"\"\n",
          false,
-         {{"1:8 error: the escape \\x does not exist",
-           "Write \\u0041 instead of \\x41. A backslash itself is written \\\\. What follows is "
-           "not checked before this string is right."}}},
+         {{"1:8 error: unknown escape \\x",
+           "Write \\u0041 instead of \\x41. A backslash itself is written \\\\. The rest is not "
+           "checked until this string is fixed."}}},
         {"a = \"\"\"\\u12\"\"\"\n",
          false,
          {{"1:8 error: the escape \\u has too few digits",
            "Four hexadecimal digits follow \\u, as in \\u00E9. In 'literal strings' a backslash is "
-           "only a backslash. What follows is not checked before this string is right."}}},
+           "just a backslash. The rest is not checked until this string is fixed."}}},
         {"a = \"\"\"\\\rb\"\"\"\n",
          false,
          {{"1:9 error: a carriage return without a line feed after it",
            "Lines end with a line feed (LF), or with a carriage return and a line feed (CR LF). "
-           "What follows is not checked before this string is right."}}},
-        {"\"\\q\" = 1\n", false, {{"1:2 error: the escape \\q does not exist", escapes}}},
-        {"a = \"\\\xc3\xa9\"\n",
-         false,
-         {{"1:6 error: the escape \\\xc3\xa9 does not exist", escapes}}},
+           "The rest is not checked until this string is fixed."}}},
+        {"\"\\q\" = 1\n", false, {{"1:2 error: unknown escape \\q", escapes}}},
+        {"a = \"\\\xc3\xa9\"\n", false, {{"1:6 error: unknown escape \\\xc3\xa9", escapes}}},
         {"a = \"x\\\n",
          false,
-         {{"1:7 error: nothing to escape follows the backslash",
+         {{"1:7 error: there is nothing to escape after the backslash",
            "A backslash joins lines only in strings with \"\"\" around them. A backslash itself is "
            "written \\\\."}}},
     });
@@ -130,16 +129,14 @@ TEST(DiagnosisOfStrings, stringsThatAreNotClosed)
         {"a = '", false, {{"1:5 error: the string is not closed on its line", unclosedLiteral}}},
         {"a = \"\"\"abc\nb = 1\n",
          false,
-         {{"1:5 error: the string that begins here is never closed",
-           "It ends with \"\"\", as it begins."}}},
+         {{"1:5 error: the string that starts here is never closed", "Close it with \"\"\"."}}},
         {"a = '''abc''\n",
          false,
-         {{"1:5 error: the string that begins here is never closed",
-           "It ends with ''', as it begins."}}},
+         {{"1:5 error: the string that starts here is never closed", "Close it with '''."}}},
         {"a = 'it's'\nbc = 2\n",
          false,
          {{"1:9 error: expected the end of the line after the string, found the word 's'",
-           "A string with an apostrophe in it has double quotes around it."}}},
+           "Put double quotes around a string with an apostrophe in it."}}},
         {"a = \"say \"hi\"\"\n",
          false,
          {{"1:11 error: expected the end of the line after the string, found the word 'hi'",
@@ -160,95 +157,96 @@ TEST(DiagnosisOfStrings, characters)
     expectSaid({
         {"a: 1\n",
          false,
-         {{"1:2 error: the character ':' cannot stand here",
-           "Between a key and its value stands '='."}}},
+         {{"1:2 error: the character ':' is not allowed here",
+           "Write '=' between a key and its value."}}},
         {"a = 1;\n",
          false,
-         {{"1:6 error: the character ';' cannot stand here",
-           "Each pair has a line of its own, with nothing at its end. A comment begins with "
-           "'#'."}}},
-        {"a = @b\n", false, {{"1:5 error: the character '@' cannot stand here", bareKeys}}},
+         {{"1:6 error: the character ';' is not allowed here",
+           "Put each pair on its own line, with nothing after it. A comment starts with '#'."}}},
+        {"a = @b\n", false, {{"1:5 error: the character '@' is not allowed here", bareKeys}}},
         {"// c\n",
          false,
-         {{"1:1 error: the character '/' cannot stand here",
-           "A comment begins with '#'. Strings have quotes."}}},
-        {"a = $b\n", false, {{"1:5 error: the character '$' cannot stand here", bareKeys}}},
+         {{"1:1 error: the character '/' is not allowed here",
+           "A comment starts with '#'. Strings need quotes."}}},
+        {"a = $b\n", false, {{"1:5 error: the character '$' is not allowed here", bareKeys}}},
         {"\xc3\xa9 = 1\n",
          false,
-         {{"1:1 error: the character '\xc3\xa9' (U+00E9) cannot stand here", bareKeys}}},
+         {{"1:1 error: the character '\xc3\xa9' (U+00E9) is not allowed here", bareKeys}}},
         {"a\xc2\xa0= 1\n",
          false,
-         {{"1:2 error: the character U+00A0 cannot stand here",
-           "It looks like a blank. Write a blank or a tab."}}},
+         {{"1:2 error: the character U+00A0 is not allowed here",
+           "It looks like a space. Write a space or a tab."}}},
         {"a = \xe2\x80\x9c"
          "b\xe2\x80\x9d\n",
          false,
-         {{"1:5 error: the character '\xe2\x80\x9c' (U+201C) cannot stand here",
-           "It looks like a quote. Strings have \" or ' around them."}}},
+         {{"1:5 error: the character '\xe2\x80\x9c' (U+201C) is not allowed here",
+           "It looks like a quote. Write \" or ' instead."}}},
         {"a = 1\n\xef\xbb\xbf"
          "b = 2\n",
          false,
-         {{"2:1 error: the character U+FEFF cannot stand here",
-           "A byte order mark may stand at the begin of the file only."}}},
+         {{"2:1 error: the character U+FEFF is not allowed here",
+           "A byte order mark may only appear at the start of the file."}}},
         {"a = \a\n",
          false,
-         {{"1:5 error: the character U+0007 cannot stand here", controlCharacters}}},
+         {{"1:5 error: the character U+0007 is not allowed here", controlCharacters}}},
         {"a = \x1b[31m\n",
          false,
-         {{"1:5 error: the character U+001B cannot stand here", controlCharacters}}},
+         {{"1:5 error: the character U+001B is not allowed here", controlCharacters}}},
         {"a = (1)\n",
          false,
-         {{"1:5 error: the character '(' cannot stand here",
-           "Arrays are written [1, 2], inline tables {a = 1}. Strings have quotes."}}},
+         {{"1:5 error: the character '(' is not allowed here",
+           "Arrays are written [1, 2], inline tables {a = 1}. Strings need quotes."}}},
         {"a = \\b\n",
          false,
-         {{"1:5 error: the character '\\' cannot stand here",
-           "A backslash stands in strings only."}}},
+         {{"1:5 error: the character '\\' is not allowed here",
+           "A backslash may only appear in strings and comments."}}},
         {"\x00\n"s,
          false,
-         {{"1:1 error: the character U+0000 cannot stand here", controlCharacters}}},
+         {{"1:1 error: the character U+0000 is not allowed here", controlCharacters}}},
         {"\xe2\x80\xae"
          "a = 1\n",
          false,
-         {{"1:1 error: the character U+202E cannot stand here", bareKeys}}},
+         {{"1:1 error: the character U+202E is not allowed here", bareKeys}}},
     });
 }
 
 TEST(DiagnosisOfStrings, bytesThatAreNotUtf8)
 {
     expectSaid({
-        {"a = \"\xe9t\xe9\"\n", true, {{"1:6 warning: the byte E9 is not UTF-8", malformed}}},
-        {"# \xe9\nb = 1\n", true, {{"1:3 warning: the byte E9 is not UTF-8", malformed}}},
+        {"a = \"\xe9t\xe9\"\n", true, {{"1:6 warning: the byte E9 is not valid UTF-8", malformed}}},
+        {"# \xe9\nb = 1\n", true, {{"1:3 warning: the byte E9 is not valid UTF-8", malformed}}},
         {"a = 1\n\xc1?\nb =\n",
          true,
-         {{"2:1 warning: the file is not read beyond these bytes, which are not UTF-8",
+         {{"2:1 warning: the file is only read up to these bytes, which are not valid UTF-8",
            readsAsEnd}}},
         {"a = 1\n\xc3",
          true,
-         {{"2:1 warning: the file is not read beyond these bytes, which are not UTF-8",
+         {{"2:1 warning: the file is only read up to these bytes, which are not valid UTF-8",
            readsAsEnd}}},
         {"a = 1\xc3",
          false,
          {{"1:6 error: the line break at the end of the file is missing",
-           "Every pair and every header ends with a line break, the last one too."},
-          {"1:6 warning: the file is not read beyond these bytes, which are not UTF-8",
+           "Every pair and every header ends with a line break, including the last one."},
+          {"1:6 warning: the file is only read up to these bytes, which are not valid UTF-8",
            readsAsEnd}}},
-        {"\x80 = 1\n", false, {{"1:1 error: the byte 80 is not UTF-8", malformed}}},
+        {"\x80 = 1\n", false, {{"1:1 error: the byte 80 is not valid UTF-8", malformed}}},
         {"a = \"\xc1?\"\n",
          false,
-         {{"1:6 error: the byte C1 is not UTF-8", malformed},
-          {"1:6 warning: the file is not read beyond these bytes, which are not UTF-8",
+         {{"1:6 error: the byte C1 is not valid UTF-8", malformed},
+          {"1:6 warning: the file is only read up to these bytes, which are not valid UTF-8",
            readsAsEnd}}},
         {"a = \xe9",
          false,
          {{"1:4 error: expected a value, found the end of the file",
-           "The value begins on the line of its key."},
-          {"1:5 warning: the file is not read beyond these bytes, which are not UTF-8",
+           "The value must start on the line of its key."},
+          {"1:5 warning: the file is only read up to these bytes, which are not valid UTF-8",
            readsAsEnd}}},
         {"# caf\xe9\n",
          true,
-         {{"1:6 warning: the file is not read beyond these bytes, which are not UTF-8",
+         {{"1:6 warning: the file is only read up to these bytes, which are not valid UTF-8",
            readsAsEnd}}},
-        {"a = \"\xed\xa0\x80\"\n", true, {{"1:6 warning: the byte ED is not UTF-8", malformed}}},
+        {"a = \"\xed\xa0\x80\"\n",
+         true,
+         {{"1:6 warning: the byte ED is not valid UTF-8", malformed}}},
     });
 }

@@ -1,4 +1,4 @@
-// What the tool says about documents, beside what the library does with them.
+// What the tool says about documents, and whether the library agrees.
 #pragma once
 
 #include <string>

@@ -37,4 +37,14 @@ inline void expectRun(const ProgramRun& run, int status, const std::string& outp
     EXPECT_EQ(run.standardError, error);
 }
 
+inline std::string repeated(const std::string& text, int count)
+{
+    std::string all;
+    for (; count > 0; --count)
+    {
+        all += text;
+    }
+    return all;
+}
+
 } // namespace test

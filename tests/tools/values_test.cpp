@@ -1,4 +1,4 @@
-// vorn-toml values: the value behind every kind of text.
+// vorn-toml values: the value after every kind of text.
 #include "support/example_files.h"
 #include "support/file_content.h"
 #include "support/time_zone.h"
@@ -196,7 +196,7 @@ TEST(VornTomlValues, ShowsAnErrorOfAConversionAndGoesOn)
               "");
 }
 
-TEST(VornTomlValues, PrintsTheEventsOfTheExamplesWithValuesBehindThem)
+TEST(VornTomlValues, PrintsTheEventsOfTheExamplesWithValuesAfterThem)
 {
     const std::set<std::string> bare = {"visitBareKey", "visitLocalDate", "visitLocalTime"};
     for (const std::string& name : test::exampleNames())

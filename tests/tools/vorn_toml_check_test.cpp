@@ -15,19 +15,10 @@ namespace
 using test::accepted;
 using test::expectRun;
 using test::rejected;
+using test::repeated;
 using test::runTool;
 using test::unreadable;
 using Json = nlohmann::json;
-
-std::string repeated(const std::string& text, int count)
-{
-    std::string all;
-    for (; count > 0; --count)
-    {
-        all += text;
-    }
-    return all;
-}
 
 std::size_t countOf(const std::string& part, const std::string& text)
 {
@@ -43,7 +34,7 @@ const std::string emptyArray =
     ":1:5: error: the array is empty\n"
     "    1 | a= []\n"
     "      |     ^\n"
-    "      = hint: An array holds one element or more. Leave the key out instead.\n";
+    "      = hint: An array needs at least one element. Leave the key out instead.\n";
 
 TEST(VornTomlCheck, ExplainsOnStandardError)
 {
@@ -65,10 +56,10 @@ TEST(VornTomlCheck, TakesSeveralFilesOneByOne)
 TEST(VornTomlCheck, WarnsOfBytesThatAreNotUtf8)
 {
     expectRun(runTool({"check", "-"}, "a = 1\n\xc1?\nb = []\n"), accepted, "-: accepted\n",
-              "-:2:1: warning: the file is not read beyond these bytes, which are not UTF-8\n"
+              "-:2:1: warning: the file is only read up to these bytes, which are not valid UTF-8\n"
               "    2 | \\xC1?\n"
               "      | ^~~~\n"
-              "      = hint: They read as the end of the file. Save the file as UTF-8.\n");
+              "      = hint: They are read as the end of the file. Save the file as UTF-8.\n");
 }
 
 TEST(VornTomlCheck, TellsTwentyErrorsAndCountsTheOthers)
@@ -118,7 +109,7 @@ TEST(VornTomlCheck, HasColoursWhereTheyAreAskedFor)
               "\x1b[1m-:1:5: \x1b[0m\x1b[1;31merror: \x1b[0m\x1b[1mthe array is empty\x1b[0m\n"
               "    1 | a= []\n"
               "      | \x1b[1;32m    ^\x1b[0m\n"
-              "      = \x1b[36mhint: \x1b[0mAn array holds one element or more. Leave the key out "
+              "      = \x1b[36mhint: \x1b[0mAn array needs at least one element. Leave the key out "
               "instead.\n");
 }
 
@@ -126,8 +117,8 @@ TEST(VornTomlCheck, SaysWhatIsTooDeep)
 {
     expectRun(runTool({"check", "-"}, "a = " + std::string(1000000, '[')), rejected,
               "-: rejected\n",
-              "-: error: something is wrong, and arrays or inline tables are nested too deeply to "
-              "say what\n");
+              "-: error: the document is invalid, but its arrays or inline tables are nested too "
+              "deeply to say where\n");
 }
 
 // Runs a subcommand with a limit of the shell's: -s for the stack, -v for addresses.
@@ -170,9 +161,9 @@ TEST(VornTomlCheckWithLimits, SurvivesLittleMemory)
             const test::ProgramRun run =
                 runLimited("-v " + std::to_string(kilobytes), command, text);
             EXPECT_EQ(run.status, rejected);
-            const bool isRefused = run.standardError ==
-                                   "-: error: something is wrong, and the document is too large "
-                                   "to say what: there is not enough memory\n";
+            const bool isRefused =
+                run.standardError ==
+                "-: error: the document is too large to diagnose: there is not enough memory\n";
             ++(isRefused ? refused : explained);
             EXPECT_TRUE(isRefused || countOf(": error: ", run.standardError) == 20);
         }
@@ -201,16 +192,16 @@ TEST(VornTomlCheck, PrintsJson)
             {"column", 1},
             {"endLine", 1},
             {"endColumn", 2},
-            {"message", "the character '\xc3\xa9' (U+00E9) cannot stand here"},
-            {"hint", "Bare keys are made of A-Z a-z 0-9 _ and -. Other keys, and all strings, have "
+            {"message", "the character '\xc3\xa9' (U+00E9) is not allowed here"},
+            {"hint", "Bare keys consist of A-Z a-z 0-9 _ and -. Other keys, and all strings, need "
                      "quotes."}},
            {{"severity", "error"},
             {"line", 3},
             {"column", 1},
             {"endLine", 3},
             {"endColumn", 1},
-            {"message", "the array that begins in line 2 is not closed before the end of the file"},
-            {"hint", "It ends with ']', after its last element."}}}}},
+            {"message", "the array opened on line 2 is not closed before the end of the file"},
+            {"hint", "Close it with ']' after its last element."}}}}},
         {{"file", missing}, {"status", "unreadable"}, {"errors", 0}, {"findings", Json::array()}}};
     EXPECT_EQ(Json::parse(run.standardOutput), expected) << run.standardOutput;
 }

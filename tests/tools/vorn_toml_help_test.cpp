@@ -1,4 +1,4 @@
-// The help of vorn-toml: that it is there, and that its examples are true.
+// The help of vorn-toml: that it exists, and that its examples are true.
 #include "tools/tool_run.h"
 
 #include <gtest/gtest.h>
@@ -53,7 +53,7 @@ struct Example
     std::string output;
 };
 
-// The indented lines behind "Example:": commands, and what each of them prints.
+// The indented lines after "Example:": commands, and what each of them prints.
 std::vector<Example> examplesIn(const std::string& help)
 {
     std::vector<Example> examples;

@@ -83,7 +83,7 @@ TEST(VornTomlTree, DrawsWhatCouldBeMadeOutAndExplainsTheRest)
     const std::string explanation = "-:2:4: error: expected a value, found the end of the line\n"
                                     "    2 | b =\n"
                                     "      |    ^\n"
-                                    "      = hint: The value begins on the line of its key.\n";
+                                    "      = hint: The value must start on the line of its key.\n";
     expectRun(runTool({"tree", "-"}, "a = 1\nb =\nc = 2\n"), rejected,
               "document\n"
               "  pair\n"
@@ -128,7 +128,7 @@ TEST(VornTomlTokens, ListsThemWithTheirPlaces)
         "-:3:2: error: expected a key or a header, found the multi-line literal string '''a\n"
         "    3 |     '''a\n"
         "      |     ^~~~\n"
-        "      = hint: A key in quotes stands on one line, in \" or '.\n");
+        "      = hint: A quoted key is written on one line, with \" or '.\n");
 }
 
 TEST(VornTomlTokens, ListsWhatIsNoToken)
