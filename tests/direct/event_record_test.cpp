@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "support/event_names.h"
+#include "support/event_sink.h"
 
 using vorn::parsers::toml::Event;
 using vorn::parsers::toml::EventRecord;
@@ -108,7 +108,7 @@ TEST(EventRecord, repeatsEveryEvent)
     {
         recording.event(static_cast<Event>(number));
     }
-    for (std::size_t number = test::firstEventWithText; number < test::eventNames.size(); ++number)
+    for (std::size_t number = test::firstEventWithText; number < test::eventCount; ++number)
     {
         recording.text(static_cast<Event>(number), 1, number);
         recording.keyOfPair(static_cast<Event>(number), 0, 300 + number);
@@ -117,7 +117,7 @@ TEST(EventRecord, repeatsEveryEvent)
     recording.lineEnd();
     expectRepeated(recording.record, recording.expected);
     EXPECT_EQ(recording.record.position(), recording.position());
-    EXPECT_EQ(recording.record.longestText(), 300 + test::eventNames.size() - 1);
+    EXPECT_EQ(recording.record.longestText(), 300 + test::eventCount - 1);
 }
 
 TEST(EventRecord, repeatsTextsOfAnyLengthBehindAnyGap)

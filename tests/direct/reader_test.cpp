@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "support/event_lists.h"
-#include "support/event_names.h"
+#include "support/event_sink.h"
 #include "support/refused_documents.h"
 
 using namespace test;

@@ -131,10 +131,11 @@ Outcome convert(IsRight isRight, long number, Failing failing)
 }
 
 // Converts with ever later failures, up to the first that none reaches, and hands the
-// outcomes of the others to `check`.
+// outcomes of the others to `check`.  Returns how many there are.
 template <typename IsRight, typename Check>
-void expectWord(IsRight isRight, Check check)
+int expectWord(IsRight isRight, Check check)
 {
+    int failures = 0;
     // What is made at the first use stays.
     EXPECT_TRUE(isRight());
     for (const Failing failing : {Failing::once, Failing::fromThere})
@@ -148,19 +149,44 @@ void expectWord(IsRight isRight, Check check)
             {
                 EXPECT_EQ(outcome.blocks, 0);
                 EXPECT_TRUE(outcome.isRight);
-                EXPECT_GT(number, 1);
                 break;
             }
             check(outcome);
+            ++failures;
         }
     }
+    return failures;
 }
 
 int compilations = 0; // that the C library has been asked for
 
 const std::vector<std::string> dateTimes = {
-    "1979-05-27T07:32:00Z", "1979-05-27 07:32:00.999999-07:00", "1979-05-27T07:32:00",
-    "x" + std::string(100, ' ') + "1979-05-27"};
+    "1979-05-27T07:32:00Z", "1979-05-27 07:32:00.999999-07:00", "1979-05-27T07:32:00"};
+
+// Of these only the patterns can say what they are.
+const std::string dateTimeAndMore = "1979-05-27T07:32:00Z#";
+const std::vector<std::string> otherTexts = {dateTimeAndMore, "1979-05-27 07:32:00.999999-07:00#",
+                                             "1979-05-27T07:32:00#",
+                                             "x" + std::string(100, ' ') + "1979-05-27"};
+
+bool isRead()
+{
+    return parseDateTime(dateTimeAndMore).tv_sec != 0;
+}
+
+// A form that cannot be compiled is left out, which shows in the log.
+int expectExceptionOrLogLine(const std::string& text)
+{
+    SCOPED_TRACE(text);
+    const time_t seconds = parseDateTime(text).tv_sec;
+    return expectWord([&] { return parseDateTime(text).tv_sec == seconds; },
+                      [](const Outcome& outcome)
+                      {
+                          EXPECT_TRUE(outcome.hasThrown || outcome.isRight ||
+                                      test::loggedLines() > 0);
+                          EXPECT_EQ(outcome.blocks, 0);
+                      });
+}
 
 class ConversionAllocations : public testing::Test
 {
@@ -200,12 +226,11 @@ TEST_F(ConversionAllocations, ofTheDateTimeFormsLeaveThemToTheNextUse)
     regcomp(&regex, "[0-9]{4}", REG_EXTENDED | REG_NOSUB);
     regfree(&regex);
 
-    const auto isRight = [] { return parseDateTime(dateTimes[0]).tv_sec != 0; };
     int thrown = 0;
     for (long number = 1;; ++number)
     {
         SCOPED_TRACE(number);
-        const Outcome outcome = convert(isRight, number, Failing::once);
+        const Outcome outcome = convert(isRead, number, Failing::once);
         // Forms that have been made stay; what fails then is something behind them.
         if (!outcome.hasThrown || outcome.blocks != 0)
         {
@@ -213,8 +238,8 @@ TEST_F(ConversionAllocations, ofTheDateTimeFormsLeaveThemToTheNextUse)
         }
         ++thrown;
     }
-    EXPECT_GT(thrown, 3);
-    const Outcome next = convert(isRight, 0, Failing::once);
+    EXPECT_GT(thrown, 0);
+    const Outcome next = convert(isRead, 0, Failing::once);
     EXPECT_TRUE(next.isRight);
     EXPECT_EQ(next.blocks, 0);
 }
@@ -224,28 +249,26 @@ TEST_F(ConversionAllocations, failWithAnExceptionWhereTheyFail)
     for (const auto& [name, isRight] : conversions)
     {
         SCOPED_TRACE(name);
-        expectWord(isRight,
-                   [](const Outcome& outcome)
-                   {
-                       EXPECT_TRUE(outcome.hasThrown);
-                       EXPECT_EQ(outcome.blocks, 0);
-                   });
+        EXPECT_GT(expectWord(isRight,
+                             [](const Outcome& outcome)
+                             {
+                                 EXPECT_TRUE(outcome.hasThrown);
+                                 EXPECT_EQ(outcome.blocks, 0);
+                             }),
+                  0);
     }
 }
 
-// A form that cannot be compiled is left out, which shows in the log.
+// A date-time as the grammar has it may be read without any memory.
 TEST_F(ConversionAllocations, ofADateTimeFailWithAnExceptionOrALogLine)
 {
     for (const std::string& text : dateTimes)
     {
-        SCOPED_TRACE(text);
-        const time_t seconds = parseDateTime(text).tv_sec;
-        expectWord([&] { return parseDateTime(text).tv_sec == seconds; },
-                   [](const Outcome& outcome)
-                   {
-                       EXPECT_TRUE(outcome.hasThrown || outcome.isRight || test::loggedLines() > 0);
-                       EXPECT_EQ(outcome.blocks, 0);
-                   });
+        expectExceptionOrLogLine(text);
+    }
+    for (const std::string& text : otherTexts)
+    {
+        EXPECT_GT(expectExceptionOrLogLine(text), 0);
     }
 }
 
@@ -253,9 +276,8 @@ TEST_F(ConversionAllocations, ofADateTimeFailWithAnExceptionOrALogLine)
 TEST_F(ConversionAllocations, ofADateTimeAreMadeSureOfBeforeTheCLibraryCompilesAForm)
 {
     compilations = 0;
-    const auto isRight = [] { return parseDateTime(dateTimes[0]).tv_sec != 0; };
-    EXPECT_TRUE(convert(isRight, 1, Failing::once).hasThrown);
+    EXPECT_TRUE(convert(isRead, 1, Failing::once).hasThrown);
     EXPECT_EQ(compilations, 0);
-    EXPECT_TRUE(isRight());
-    EXPECT_EQ(compilations, 1);
+    EXPECT_TRUE(isRead());
+    EXPECT_GT(compilations, 0);
 }

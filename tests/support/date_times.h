@@ -23,7 +23,7 @@ DateTimeMessage failedToCompile(const std::string& pattern);
 DateTimeMessage failedToParse(const std::string& text);
 
 // Checks that `lines` are the lines that are logged for `messages`: module, level, format
-// and all, and the place of the message in the source.
+// and all; of the source line only that there is one.
 void expectDateTimeLog(const std::vector<LogLine>& lines,
                        const std::vector<DateTimeMessage>& messages);
 

@@ -21,7 +21,7 @@ std::string tooDeep(unsigned levels);
 std::string tooLarge(std::size_t bytes);
 
 // Checks that `lines` are the lines that the driver logs for `messages`: module, level,
-// format and all, and the place of the message in the source.
+// format and all; of the source line only that there is one.
 void expectDriverLog(const std::vector<LogLine>& lines, const Messages& messages);
 
 } // namespace test

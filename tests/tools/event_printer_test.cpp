@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "support/operations.h"
+
 namespace
 {
 
@@ -26,60 +28,12 @@ std::string printed(const std::function<void(EventPrinter&)>& calls)
     return text;
 }
 
-TEST(EventPrinter, PrintsTheNamesOfOperationsWithoutText)
+TEST(EventPrinter, PrintsTheNameOfEachOperationAndItsText)
 {
-    struct Case
+    for (const test::Operation& operation : test::operations)
     {
-        void (EventPrinter::*operation)();
-        std::string line;
-    };
-    const std::vector<Case> cases = {
-        {&EventPrinter::beginDocument, "beginDocument\n"},
-        {&EventPrinter::endDocument, "endDocument\n"},
-        {&EventPrinter::beginKeyValue, "beginKeyValue\n"},
-        {&EventPrinter::endKeyValue, "endKeyValue\n"},
-        {&EventPrinter::beginTable, "beginTable\n"},
-        {&EventPrinter::endTable, "endTable\n"},
-        {&EventPrinter::beginArrayTable, "beginArrayTable\n"},
-        {&EventPrinter::endArrayTable, "endArrayTable\n"},
-        {&EventPrinter::beginDottedKey, "beginDottedKey\n"},
-        {&EventPrinter::endDottedKey, "endDottedKey\n"},
-        {&EventPrinter::beginArray, "beginArray\n"},
-        {&EventPrinter::endArray, "endArray\n"},
-        {&EventPrinter::beginInlineTable, "beginInlineTable\n"},
-        {&EventPrinter::endInlineTable, "endInlineTable\n"},
-    };
-    for (const Case& c : cases)
-    {
-        EXPECT_EQ(printed([&](EventPrinter& printer) { (printer.*c.operation)(); }), c.line);
-    }
-}
-
-TEST(EventPrinter, PrintsTheNameAndTheTextOfOperationsWithText)
-{
-    struct Case
-    {
-        void (EventPrinter::*operation)(const char*);
-        std::string line;
-    };
-    const std::vector<Case> cases = {
-        {&EventPrinter::visitBareKey, "visitBareKey a b\n"},
-        {&EventPrinter::visitQuotedKey, "visitQuotedKey a b\n"},
-        {&EventPrinter::visitBasicString, "visitBasicString a b\n"},
-        {&EventPrinter::visitMultilineBasicString, "visitMultilineBasicString a b\n"},
-        {&EventPrinter::visitLiteralString, "visitLiteralString a b\n"},
-        {&EventPrinter::visitMultilineLiteralString, "visitMultilineLiteralString a b\n"},
-        {&EventPrinter::visitInteger, "visitInteger a b\n"},
-        {&EventPrinter::visitFloat, "visitFloat a b\n"},
-        {&EventPrinter::visitBoolean, "visitBoolean a b\n"},
-        {&EventPrinter::visitOffsetDateTime, "visitOffsetDateTime a b\n"},
-        {&EventPrinter::visitLocalDateTime, "visitLocalDateTime a b\n"},
-        {&EventPrinter::visitLocalDate, "visitLocalDate a b\n"},
-        {&EventPrinter::visitLocalTime, "visitLocalTime a b\n"},
-    };
-    for (const Case& c : cases)
-    {
-        EXPECT_EQ(printed([&](EventPrinter& printer) { (printer.*c.operation)("a b"); }), c.line);
+        EXPECT_EQ(printed([&](EventPrinter& printer) { operation.call(printer, "a b"); }),
+                  operation.name + (operation.takesText() ? " a b\n" : "\n"));
     }
 }
 

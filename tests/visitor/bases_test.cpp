@@ -9,8 +9,8 @@
 #include "support/driver_log.h"
 #include "support/event_lists.h"
 #include "support/file_content.h"
+#include "support/operations.h"
 #include "support/reading.h"
-#include "support/visitor_table.h"
 
 using namespace std::string_literals;
 using namespace test;
@@ -111,11 +111,11 @@ TEST(VisitorBases, theDocumentOfTheseTestsHasEveryOperation)
 TEST(TomlTreeVisitor, doesNothingInAnyOperation)
 {
     TomlTreeVisitor visitor;
-    for (std::size_t index = 0; index < operations.size(); ++index)
+    for (const Operation& operation : operations)
     {
-        SCOPED_TRACE(operations[index].name);
+        SCOPED_TRACE(operation.name);
         const StderrCapture standardError;
-        EXPECT_NO_THROW(callOperation(visitor, index, nullptr));
+        EXPECT_NO_THROW(operation.call(visitor, nullptr));
         EXPECT_EQ(standardError.text(), "");
     }
 }
@@ -139,10 +139,10 @@ TEST(TomlTreeVisitor, leavesToOthersWhatTheyOverride)
 TEST(StrictTomlTreeVisitor, refusesEveryOperationByItsName)
 {
     StrictTomlTreeVisitor visitor;
-    for (std::size_t index = 0; index < operations.size(); ++index)
+    for (const Operation& operation : operations)
     {
-        EXPECT_EQ(refused([&] { callOperation(visitor, index, nullptr); }),
-                  operations[index].name + " is not overridden");
+        EXPECT_EQ(refused([&] { operation.call(visitor, nullptr); }),
+                  operation.name + " is not overridden");
     }
 }
 

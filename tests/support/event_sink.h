@@ -3,9 +3,11 @@
 
 #include "direct/event.h"
 #include "direct/plain_sink.h"
+#include "direct/visitor_calls.h"
 
 #include "support/event_recorder.h"
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -14,24 +16,31 @@
 namespace test
 {
 
-// The operations in the order of the events' numbers.
-inline const std::vector<std::string> eventNames = {
-    "beginKeyValue",      "endKeyValue",
-    "beginTable",         "endTable",
-    "beginArrayTable",    "endArrayTable",
-    "beginDottedKey",     "endDottedKey",
-    "beginArray",         "endArray",
-    "beginInlineTable",   "endInlineTable",
-    "visitBareKey",       "visitQuotedKey",
-    "visitBasicString",   "visitMultilineBasicString",
-    "visitLiteralString", "visitMultilineLiteralString",
-    "visitInteger",       "visitFloat",
-    "visitBoolean",       "visitOffsetDateTime",
-    "visitLocalDateTime", "visitLocalDate",
-    "visitLocalTime"};
-
-constexpr std::size_t firstEventWithText =
+constexpr auto eventCount = static_cast<std::size_t>(vorn::parsers::toml::Event::none);
+constexpr auto firstEventWithText =
     static_cast<std::size_t>(vorn::parsers::toml::Event::visitBareKey);
+
+// The operations that the library calls for its events, in the order of their numbers.
+inline const std::vector<std::string> eventNames = []
+{
+    using vorn::parsers::toml::Event;
+    using vorn::parsers::toml::VisitorCalls;
+    EventRecorder visitor;
+    const std::string_view noText("");
+    std::array<char, VisitorCalls::bytesFor(0)> buffer{};
+    VisitorCalls calls(visitor, buffer.data(), noText.data());
+    for (std::size_t number = 0; number < eventCount; ++number)
+    {
+        const auto event = static_cast<Event>(number);
+        number < firstEventWithText ? calls.event(event) : calls.text(event, noText);
+    }
+    std::vector<std::string> names;
+    for (const std::string& event : visitor.events())
+    {
+        names.push_back(event.substr(0, event.find(' ')));
+    }
+    return names;
+}();
 
 // A sink that keeps events as the recorder of visitor calls does.
 class EventSink : public vorn::parsers::toml::PlainSink<EventSink>
