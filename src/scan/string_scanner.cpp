@@ -14,25 +14,24 @@ namespace
 
 constexpr Token notRecognised = {TokenType::none, nullptr};
 
-// ASCII without three characters: what strings and comments are made of for the most part.
-template <char first, char second, char third>
+// ASCII without some characters: what strings and comments are made of for the most part.
+template <char... others>
 constexpr bool isPlain(char c)
 {
-    return c != first && c != second && c != third && isAscii(c);
+    return ((c != others) && ...) && isAscii(c);
 }
 
 // Marks, by its high bit, at least the first byte that is not plain, and none before it.
-template <char first, char second, char third>
+template <char... others>
 constexpr PackedBytes nonPlainBytes(PackedBytes word)
 {
-    return (bytesEqual(word, first) | bytesEqual(word, second) | bytesEqual(word, third) | word) &
-           highBits;
+    return ((bytesEqual(word, others) | ...) | word) & highBits;
 }
 
-template <char first, char second, char third>
+template <char... others>
 const char* plainEnd(const char* at, const char* end) noexcept
 {
-    return runEnd<nonPlainBytes<first, second, third>, isPlain<first, second, third>>(at, end);
+    return runEnd<nonPlainBytes<others...>, isPlain<others...>>(at, end);
 }
 
 // The end of `count` hexadecimal digits; null if there are fewer.
@@ -86,7 +85,7 @@ Token scanLine(const char* at, const char* end) noexcept
     constexpr bool escapes = type == TokenType::basicString;
     for (;;)
     {
-        at = plainEnd < quote, '\n', escapes ? '\\' : quote > (at, end);
+        at = escapes ? plainEnd<quote, '\n', '\\'>(at, end) : plainEnd<quote, '\n'>(at, end);
         if (at == end || *at == '\n')
         {
             return notRecognised;
@@ -111,7 +110,7 @@ Token scanLines(const char* at, const char* end) noexcept
     constexpr bool escapes = type == TokenType::mlBasicString;
     for (;;)
     {
-        at = plainEnd < quote, quote, escapes ? '\\' : quote > (at, end);
+        at = escapes ? plainEnd<quote, '\\'>(at, end) : plainEnd<quote>(at, end);
         if (at == end)
         {
             return notRecognised;
@@ -161,7 +160,7 @@ const char* commentEnd(const char* begin, const char* end) noexcept
     const char* at = begin;
     while (at != nullptr)
     {
-        at = plainEnd<'\n', '\n', '\n'>(at, end);
+        at = plainEnd<'\n'>(at, end);
         if (at == end || *at == '\n')
         {
             return at;
