@@ -13,7 +13,7 @@ using namespace test;
 namespace
 {
 
-constexpr std::size_t behind = 200;       // bytes that the scanner may look at behind a piece
+constexpr std::size_t following = 200;    // bytes that the scanner may look at after a piece
 constexpr std::size_t longestCutOff = 60; // texts of which every beginning is scanned
 
 class ScannerTokens : public testing::TestWithParam<TokenTable>
@@ -25,6 +25,11 @@ bool isRecognised(const Piece& piece)
     return !isError(piece) && piece.kind != "unread" && piece.kind.rfind("rare ", 0) != 0;
 }
 
+bool isMalformed(const Piece& piece)
+{
+    return piece.kind.rfind("malformed ", 0) == 0;
+}
+
 void expectScanned(const Row& row, const std::string& text)
 {
     std::size_t at = 0;
@@ -34,10 +39,20 @@ void expectScanned(const Row& row, const std::string& text)
         {
             break;
         }
-        const std::string_view rest = std::string_view(text).substr(at, piece.text.size() + behind);
+        const std::string_view rest =
+            std::string_view(text).substr(at, piece.text.size() + following);
         const FoundToken expected =
             isRecognised(piece) ? FoundToken{typeOf(piece.kind), piece.text.size()} : FoundToken();
-        ASSERT_EQ(scan(rest), expected) << "at " << at;
+        const FoundToken found = scan(rest);
+        if (isMalformed(piece))
+        {
+            ASSERT_LT(found.length, piece.text.size());
+            ASSERT_LT(static_cast<signed char>(piece.text[found.length]), 0);
+        }
+        else
+        {
+            ASSERT_EQ(found, expected) << "at " << at;
+        }
         at += piece.text.size();
     }
 }
@@ -54,7 +69,7 @@ TEST_P(ScannerTokens, areThoseOfTheTable)
     }
 }
 
-TEST_P(ScannerTokens, areFoundWithoutALookAtWhatIsBehindTheText)
+TEST_P(ScannerTokens, areFoundWithoutALookAfterTheEnd)
 {
     for (const Row& row : GetParam().rows)
     {

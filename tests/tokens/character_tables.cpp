@@ -121,6 +121,13 @@ TokenTables characterTables()
          {
              {{"BARE_KEY", "a"}, {"rare NL", "\xC0\x8A"}, {"BARE_KEY", "b"}},
              {{"rare BARE_KEY", "\xC1\x81\xE0\x81\x82"}},
+             {{"malformed BARE_KEY", "key\xC1\xA1"}},
+             {{"malformed DEC_INT", "1\xC0\xB0"}, comma},
+             {{"malformed NL", "\n\xC0\x8A"}, {"BARE_KEY", "a"}},
+             {{"malformed mismatched character 1:3", "\"\"\xC0\xA2"}},
+             {{"LITERAL_STRING", "'a'"}, {"no token 1:3", "\u00E4"}},
+             {{"rare COMMENT", "#"}, {"no token 1:1", "\U0001F600"}},
+             {{"rare COMMENT", "#"}, {"unread", "\xC3"}},
          }},
         {"Bytes_thatReadAsTheEndOfTheInputEndIt",
          each("unread", {"\xC1?a"}) +

@@ -6,50 +6,44 @@ namespace test
 namespace
 {
 
-// A blank after a date, and an hour with a colon, have started a date-time.
-Rows brokenDateTimes()
-{
-    Rows rows;
-    for (const std::string rest : {" ",
-                                   " \n",
-                                   " # note",
-                                   "  07:32:00",
-                                   " x",
-                                   " \t",
-                                   " 0",
-                                   " 07",
-                                   " 07 ",
-                                   " 07-",
-                                   " 07:",
-                                   "T07:",
-                                   "t07:",
-                                   "T07:x",
-                                   "T07:3",
-                                   "T07:32",
-                                   "T07:32:",
-                                   "T07:32:0",
-                                   "T07:32:0x",
-                                   "t07:32:00.",
-                                   "T07:32:00.x",
-                                   " 07:32:00.",
-                                   "T07:32:00.Z",
-                                   "T07:32:00+",
-                                   "T07:32:00-",
-                                   "T07:32:00+x",
-                                   "T07:32:00+0",
-                                   "T07:32:00+07",
-                                   "T07:32:00+0700",
-                                   "T07:32:00+07:",
-                                   "T07:32:00+07:0",
-                                   "T07:32:00+07:0x",
-                                   "T07:32:00.5+07:x0",
-                                   " 07:32:00-7:00",
-                                   "T07:320:00"})
-    {
-        rows.push_back({{"fails", "1979-05-27" + rest}});
-    }
-    return rows;
-}
+const std::vector<std::string> offsetDateTimes = {
+    "1979-05-27T07:32:00Z", "1979-05-27t07:32:00Z", "1979-05-27 07:32:00Z",
+    "1979-05-27T00:32:00-07:00", "1979-05-27t00:32:00.999999+07:00", "1979-05-27 07:32:00.5Z",
+    "1979-05-27 07:32:00.5-00:00", "1979-05-27T07:32:00+99:99",
+    "1979-05-27T07:32:00.0123456789012345678901234Z", "0000-00-00T00:00:00Z",
+    // Ranges are not checked.
+    "1979-13-45T25:61:61Z", "9999-99-99T99:99:99+99:99"};
+
+const std::vector<std::string> localDateTimes = {
+    "1979-05-27T07:32:00", "1979-05-27t07:32:00", "1979-05-27 07:32:00",
+    "1979-05-27T00:32:00.999999", "1979-05-27 00:32:00.9", "0000-00-00 00:00:00.0",
+    "1979-05-27t00:32:00.0123456789012345678901234",
+    "1979-05-27T07:32:00.123456789012345678901234567890",
+
+    // Ranges are not checked.
+    "2023-02-31 24:60:60", "1979-13-45T25:61:61"};
+
+const std::vector<std::string> localDates = {"1979-05-27", "0000-00-00", "2024-02-29",
+                                             "2023-02-31", "2024-13-45", "9999-99-99"};
+
+const std::vector<std::string> brokenDateTimes = {
+    // A blank after a date has started a date-time,
+    "1979-05-27 ", "1979-05-27 \n", "1979-05-27 # note", "1979-05-27  07:32:00", "1979-05-27 x",
+    "1979-05-27 \t", "1979-05-27 0", "1979-05-27 07", "1979-05-27 07 ", "1979-05-27 07-",
+    "1979-05-27 07:", "1979-05-27 07:32:00.", "1979-05-27 07:32:00-7:00",
+    // and so has an hour with a colon.
+    "1979-05-27T07:", "1979-05-27t07:", "1979-05-27T07:x", "1979-05-27T07:3", "1979-05-27T07:32",
+    "1979-05-27T07:32:", "1979-05-27T07:32:0", "1979-05-27T07:32:0x", "1979-05-27t07:32:00.",
+    "1979-05-27T07:32:00.x", "1979-05-27T07:32:00.Z", "1979-05-27T07:32:00+",
+    "1979-05-27T07:32:00-", "1979-05-27T07:32:00+x", "1979-05-27T07:32:00+0",
+    "1979-05-27T07:32:00+07", "1979-05-27T07:32:00+0700",
+    "1979-05-27T07:32:00+07:", "1979-05-27T07:32:00+07:0", "1979-05-27T07:32:00+07:0x",
+    "1979-05-27T07:32:00.5+07:x0", "1979-05-27T07:320:00"};
+
+// What is left of a date that has lost its first digit.
+const Piece rest = {"BARE_KEY", "979-05-27"};
+const Piece restWithHour = {"BARE_KEY", "979-05-27T07"};
+const Piece colon = {"no token 1:13", ":"};
 
 } // namespace
 
@@ -57,12 +51,8 @@ TokenTables dateTables()
 {
     return {
         {"OffsetDateTimes_endInZOrASignedOffset",
-         words("OFFSET_DATE_TIME",
-               {"1979-05-27T07:32:00Z", "1979-05-27T00:32:00-07:00",
-                "1979-05-27t00:32:00.999999+07:00", "1979-05-27 07:32:00Z",
-                "1979-05-27 07:32:00.5-00:00", "1979-05-27T07:32:00.0123456789012345678901234Z",
-                "0000-00-00T00:00:00Z", "1979-05-27t07:32:00Z", "1979-05-27 07:32:00.5Z",
-                "1979-13-45T25:61:61Z", "1979-05-27T07:32:00+99:99"})},
+         words("OFFSET_DATE_TIME", offsetDateTimes) +
+             before({"x", "Z", "0", ":00", "+07:00"}, each("OFFSET_DATE_TIME", offsetDateTimes))},
         // The sign decides.
         {"OffsetDateTimes_failAtABrokenOffset",
          {
@@ -76,11 +66,9 @@ TokenTables dateTables()
              {{"mismatched set 1:26", "1979-05-27T07:32:00.5+07:0x "}, {"BARE_KEY", "y"}},
          }},
         {"LocalDateTimes_haveNoOffset",
-         words("LOCAL_DATE_TIME",
-               {"1979-05-27T07:32:00", "1979-05-27t07:32:00", "1979-05-27 07:32:00",
-                "1979-05-27T00:32:00.999999", "1979-05-27 00:32:00.9",
-                "1979-05-27t00:32:00.0123456789012345678901234", "0000-00-00 00:00:00.0",
-                "1979-13-45T25:61:61", "1979-05-27T07:32:00.123456789012345678901234567890"})},
+         words("LOCAL_DATE_TIME", localDateTimes) +
+             before({" Z", "z", "x", "_1", ":00", "T"}, each("LOCAL_DATE_TIME", localDateTimes)) +
+             before({"1"}, each("LOCAL_DATE_TIME", {"1979-05-27T07:32:00"}))},
         {"DateTimes_endWhereTheyCannotGoOn",
          {
              {{"LOCAL_DATE_TIME", "1979-05-27T07:32:00"}, {"BARE_KEY", "z"}},
@@ -93,66 +81,27 @@ TokenTables dateTables()
              {{"OFFSET_DATE_TIME", "1979-05-27T07:32:00Z"}, {"BARE_KEY", "x"}},
              {{"OFFSET_DATE_TIME", "1979-05-27T07:32:00+07:00"}, {"DEC_INT", "0"}},
          }},
-        {"DateTimes_areNotCheckedForRanges",
-         words("OFFSET_DATE_TIME", {"9999-99-99T99:99:99+99:99"}) +
-             words("LOCAL_DATE_TIME", {"2023-02-31 24:60:60"}) +
-             each("LOCAL_DATE", {"9999-99-99", "2023-02-31"}) +
-             words("LOCAL_TIME", {"99:99:99.9"})},
         {"DateTimes_fitNoTokenAtACharacterOutOfPlace",
          {
-             {{"no token 1:14", "1"}, {"BARE_KEY", "979-05-27T07"}, {"no token 1:13", ":"}},
-             {{"no token 1:14", "1"},
-              {"BARE_KEY", "979-05-27T07"},
-              {"no token 1:13", ":"},
-              {"BARE_KEY", "x"}},
-             {{"no token 1:16", "1"},
-              {"BARE_KEY", "979-05-27T07"},
-              {"no token 1:13", ":"},
-              {"DEC_INT", "32"}},
-             {{"no token 1:17", "1"},
-              {"BARE_KEY", "979-05-27T07"},
-              {"no token 1:13", ":"},
-              {"mismatched set 1:17", "32:"}},
-             {{"no token 1:18", "1"},
-              {"BARE_KEY", "979-05-27T07"},
-              {"no token 1:13", ":"},
-              {"mismatched set 1:18", "32:0"}},
-             {{"no token 1:18", "1"},
-              {"BARE_KEY", "979-05-27"},
-              space,
-              {"mismatched set 1:18", "07:32:0x,"}},
+             {{"no token 1:14", "1"}, restWithHour, colon},
+             {{"no token 1:14", "1"}, restWithHour, colon, {"BARE_KEY", "x"}},
+             {{"no token 1:16", "1"}, restWithHour, colon, {"DEC_INT", "32"}},
+             {{"no token 1:17", "1"}, restWithHour, colon, {"mismatched set 1:17", "32:"}},
+             {{"no token 1:18", "1"}, restWithHour, colon, {"mismatched set 1:18", "32:0"}},
+             {{"no token 1:18", "1"}, rest, space, {"mismatched set 1:18", "07:32:0x,"}},
+             {{"no token 1:20", "1"}, restWithHour, colon, {"mismatched character 1:19", "32:00."}},
              {{"no token 1:20", "1"},
-              {"BARE_KEY", "979-05-27T07"},
-              {"no token 1:13", ":"},
-              {"mismatched character 1:19", "32:00."}},
-             {{"no token 1:20", "1"},
-              {"BARE_KEY", "979-05-27"},
+              rest,
               space,
               {"early exit 1:20", "07:32:00.x"},
               space,
               {"BARE_KEY", "y"}},
          }},
-        {"DateTimes_endBeforeWhateverFollows",
-         before(
-             {"x", "Z", "0", ":00", "+07:00"},
-             each("OFFSET_DATE_TIME", {"1979-05-27T07:32:00Z", "1979-05-27t07:32:00Z",
-                                       "1979-05-27 07:32:00Z", "1979-05-27T00:32:00-07:00",
-                                       "1979-05-27t00:32:00.999999+07:00", "1979-05-27 07:32:00.5Z",
-                                       "1979-13-45T25:61:61Z", "1979-05-27T07:32:00+99:99"})) +
-             before(
-                 {" Z", "z", "x", "_1", ":00", "T"},
-                 each("LOCAL_DATE_TIME",
-                      {"1979-05-27T07:32:00", "1979-05-27t07:32:00", "1979-05-27 07:32:00",
-                       "1979-05-27T00:32:00.999999", "0000-00-00 00:00:00.0", "1979-13-45T25:61:61",
-                       "1979-05-27T07:32:00.123456789012345678901234567890"})) +
-             before({"1"}, each("LOCAL_DATE_TIME", {"1979-05-27T07:32:00"}))},
-        {"DateTimes_haveNoWayBackToTheDate", brokenDateTimes()},
-        {"LocalDates_endBeforeWhateverFollowsButABlank",
+        {"DateTimes_haveNoWayBackToTheDate", each("fails", brokenDateTimes)},
+        {"LocalDates_areAloneOrBeforeAnythingButABlank",
          before({"", "\n", "\r\n", "\t", "\t07:32:00", ",", "]", "}", "#", ".", "=", "+07:00", ":",
                  "\xc3\xa9"},
-                each("LOCAL_DATE", {"1979-05-27", "0000-00-00", "9999-99-99", "2024-13-45"}))},
-        {"LocalDates_areAloneOrBeforeAnythingButABlank",
-         each("LOCAL_DATE", {"1979-05-27", "0000-00-00", "2024-02-29"}) +
+                each("LOCAL_DATE", localDates)) +
              Rows{
                  {{"LOCAL_DATE", "1979-05-27"}, {"WS", "\t"}, {"COMMENT", "# birthday"}},
                  {{"LOCAL_DATE", "1979-05-27"}, {"WS", "\t"}, {"LOCAL_TIME", "07:32:00"}},
@@ -183,26 +132,24 @@ TokenTables dateTables()
                  {{"BARE_KEY", "1979-05-27T07"}, dot},
                  {{"BARE_KEY", "1979-05-27T0"}, {"no token 1:12", ":"}},
                  {{"BARE_KEY", "1979-05-27T007"}, {"no token 1:14", ":"}, {"BARE_KEY", "00"}},
-                 {{"BARE_KEY", "1979-05-27Tx7"}, {"no token 1:13", ":"}},
+                 {{"BARE_KEY", "1979-05-27Tx7"}, colon},
                  {{"BARE_KEY", "1979-05-27T07x"}, {"no token 1:14", ":"}},
                  {{"BARE_KEY", "1979-05-27T"}, space, {"LOCAL_TIME", "07:32:00"}},
                  {{"BARE_KEY", "1979-05-27a"}, space, {"LOCAL_TIME", "07:32:00"}},
-                 {{"BARE_KEY", "1979-05-27x07"},
-                  {"no token 1:13", ":"},
-                  {"mismatched character 1:19", "32:00"}},
+                 {{"BARE_KEY", "1979-05-27x07"}, colon, {"mismatched character 1:19", "32:00"}},
                  {{"BARE_KEY", "1979-05-27-"}, {"no token 1:12", "+"}},
              }},
         // The first digit goes with the recovery; what is left of the date is a key.
         {"LocalDates_beforeABlankNeedATime",
          {
-             {{"no token 1:11", "1"}, {"BARE_KEY", "979-05-27"}, space},
-             {{"no token 1:11", "1"}, {"BARE_KEY", "979-05-27"}, space, lineFeed},
-             {{"no token 1:11", "1"}, {"BARE_KEY", "979-05-27"}, {"WS", "  "}},
-             {{"no token 1:11", "1"}, {"BARE_KEY", "979-05-27"}, space, {"COMMENT", "# note"}},
-             {{"no token 1:11", "1"}, {"BARE_KEY", "979-05-27"}, {"WS", " \t"}},
-             {{"no token 1:11", "1"}, {"BARE_KEY", "979-05-27"}, space, comma},
+             {{"no token 1:11", "1"}, rest, space},
+             {{"no token 1:11", "1"}, rest, space, lineFeed},
+             {{"no token 1:11", "1"}, rest, {"WS", "  "}},
+             {{"no token 1:11", "1"}, rest, space, {"COMMENT", "# note"}},
+             {{"no token 1:11", "1"}, rest, {"WS", " \t"}},
+             {{"no token 1:11", "1"}, rest, space, comma},
              {{"no token 1:11", "1"},
-              {"BARE_KEY", "979-05-27"},
+              rest,
               space,
               {"BARE_KEY", "T07"},
               {"no token 1:14", ":"},
@@ -213,16 +160,13 @@ TokenTables dateTables()
               equals,
               space,
               {"no token 1:15", "1"},
-              {"BARE_KEY", "979-05-27"},
+              rest,
               space,
               {"COMMENT", "# birthday"},
               lineFeed},
-             {{"no token 1:12", "1"}, {"BARE_KEY", "979-05-27"}, space, {"DEC_INT", "1"}},
-             {{"no token 1:13", "1"}, {"BARE_KEY", "979-05-27"}, space, {"DEC_INT", "12"}},
-             {{"no token 1:13", "1"},
-              {"BARE_KEY", "979-05-27"},
-              space,
-              {"LOCAL_DATE", "1979-05-27"}},
+             {{"no token 1:12", "1"}, rest, space, {"DEC_INT", "1"}},
+             {{"no token 1:13", "1"}, rest, space, {"DEC_INT", "12"}},
+             {{"no token 1:13", "1"}, rest, space, {"LOCAL_DATE", "1979-05-27"}},
          }},
     };
 }

@@ -40,33 +40,21 @@ Rows inQuotes(bool Quotes::*takes, const std::vector<std::string>& contents)
 
 Rows plainContents()
 {
-    return before({"", "\n", "x"}, inQuotes(nullptr, {"a",
-                                                      "a b",
-                                                      "#",
-                                                      "=[]{},.",
-                                                      "\t",
-                                                      "\r",
-                                                      "\r\r",
-                                                      "\x01\x1f\x7f",
-                                                      "a\0b"s,
-                                                      "\0"s,
-                                                      "\xc2\x80",
-                                                      "\xc3\xa9",
-                                                      "\xdf\xbf",
-                                                      "\xe0\xa0\x80",
-                                                      "\xe2\x82\xac",
-                                                      "\xed\x9f\xbf",
-                                                      "\xee\x80\x80",
-                                                      "\xef\xbb\xbf",
-                                                      "\xef\xbf\xbf",
-                                                      "a\u00e9b\u20acc",
-                                                      std::string(1000, 'x')}));
+    return before(
+        {"", "\n", "x"},
+        inQuotes(nullptr, {// ASCII
+                           "a", "a b", "#", "=[]{},.", "\t", "\r", "\r\r", "\x01\x1f\x7f", "a\0b"s,
+                           "\0"s, std::string(1000, 'x'),
+                           // Other characters, the first and the last of each length among them
+                           "\xc2\x80", "\xc3\xa9", "\xdf\xbf", "\xe0\xa0\x80", "\xe2\x82\xac",
+                           "\xed\x9f\xbf", "\xee\x80\x80", "\xef\xbb\xbf", "\xef\xbf\xbf",
+                           "a\u00e9b\u20acc"}));
 }
 
 Rows emptyStrings()
 {
-    Rows rows = before({"'"}, each("BASIC_STRING", {"\"\""})) +
-                before({"\""}, each("LITERAL_STRING", {"''"}));
+    Rows rows = before({"'", "'\n", "'a", "' ", "'\x80"}, each("BASIC_STRING", {"\"\""})) +
+                before({"\"", "\"\n", "\"a", "\" ", "\"\x80"}, each("LITERAL_STRING", {"''"}));
     for (const Quotes& kind : kinds)
     {
         rows =

@@ -21,6 +21,8 @@ namespace test
 // The part of an error ends where the lexer goes on.  Besides these there are
 //
 //   rare TYPE                  a token that the scanner leaves to the lexer
+//   malformed KIND             the scanner finds a token that is shorter, for a malformed
+//                              form of a character goes on with it
 //   unread                     bytes of which the lexer says nothing
 //   rest                       anything: the row is about what comes before
 struct Piece
@@ -49,7 +51,7 @@ std::string textOf(const Row& row);
 // Whole texts of one kind.
 Rows each(const std::string& kind, const std::vector<std::string>& texts);
 
-// The same texts with each of these behind them.
+// The same texts with each of these after them.
 Rows before(const std::vector<std::string>& rests, const Rows& rows);
 
 // Tokens made of key characters, signs, points and colons, with whatever ends all of them.

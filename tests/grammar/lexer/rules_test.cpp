@@ -15,7 +15,7 @@ using namespace test;
 namespace
 {
 
-// Whole, broken and cut off for one rule or another, with something behind.
+// Whole, broken and cut off for one rule or another, with something after it.
 const std::vector<std::string> texts = {
     // Punctuation, blanks and words
     "", ",,", "..", "==", "[[", "]]", "{{", "}}", " \t\n", "\n\r\n ", "# a\r\n", "truex",
