@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr std::size_t following = 200;    // bytes that the scanner may look at after a piece
-constexpr std::size_t longestCutOff = 60; // texts of which every beginning is scanned
+constexpr std::size_t longestCutOff = 60; // texts cut off at every byte
 
 class ScannerTokens : public testing::TestWithParam<TokenTable>
 {

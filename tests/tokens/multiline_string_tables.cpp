@@ -44,7 +44,7 @@ TokenTables multilineStringTables()
               {"\"\"\"one\\\ntwo\"\"\"", "\"\"\"one\\\r\n   two\"\"\"",
                "\"\"\"one\\\n\n\t two\"\"\"", "\"\"\"\\\n\"\"\"",
                "\"\"\"one\\\n\\\n\\\r\ntwo\"\"\"", "\"\"\"one\"\\\n\"\"\\\n\"\"\""})},
-        {"MultilineBasicStrings_failAtALetterThatIsNoEscape",
+        {"MultilineBasicStrings_failAtAnUnknownEscape",
          {
              {{"no escape 34 1:4", R"("""a\)"},
               {"BARE_KEY", "qb"},

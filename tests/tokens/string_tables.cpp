@@ -75,7 +75,7 @@ TokenTables stringTables()
              {{"mismatched character 1:4", R"("a\")"}},
              {{"mismatched character 1:3", R"("a')"}},
          }},
-        {"BasicStrings_failAtALetterThatIsNoEscape",
+        {"BasicStrings_failAtAnUnknownEscape",
          unknownEscapes() +
              Rows{
                  {{"no escape 35 1:3", R"("a\q)"}, {"BARE_KEY", "b"}, {"no token 1:6", R"(")"}},

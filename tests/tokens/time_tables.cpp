@@ -43,7 +43,7 @@ TokenTables timeTables()
              {{"early exit 1:9", "07:32:00.\n"}, {"BARE_KEY", "a"}},
              {{"early exit 1:9", "07:32:00.."}, {"DEC_INT", "5"}},
          }},
-        {"LocalTimes_beginWithTwoDigitsAndColon",
+        {"LocalTimes_startWithTwoDigitsAndAColon",
          {
              {{"DEC_INT", "123"}, {"no token 1:3", ":"}, {"DEC_INT", "45"}},
              {{"BARE_KEY", "-07"}, {"no token 1:3", ":"}, {"DEC_INT", "1"}},

@@ -19,12 +19,12 @@ void addVariants(const std::string& example, std::set<std::string>& variants)
     {
         for (char character = '!'; character <= '~'; ++character)
         {
-            const std::string beginning = example.substr(0, position) + character;
-            variants.insert(beginning);
-            variants.insert(beginning + 'x');
+            const std::string start = example.substr(0, position) + character;
+            variants.insert(start);
+            variants.insert(start + 'x');
             if (position < example.size())
             {
-                variants.insert(beginning + example.substr(position + 1));
+                variants.insert(start + example.substr(position + 1));
             }
         }
     }
