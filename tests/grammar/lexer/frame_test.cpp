@@ -208,6 +208,15 @@ TEST(LexerErrors, areCountedOneByOne)
     EXPECT_EQ(lex(std::string(1000, '@')).errors, 1000U);
 }
 
+TEST(LexerErrors, thatArePendingLetNoTokenBeMatched)
+{
+    const std::string text = "a";
+    const Lexer lexer(text);
+    lexer.state()->error = ANTLR3_TRUE;
+    lexer.get()->mTokens(lexer.get());
+    EXPECT_EQ(lexer.offset(), 0U);
+}
+
 TEST(LexerErrors, arePrintedByTheDisplayOnly)
 {
     const std::string text = "@a 1. \"b\\q";
