@@ -1,9 +1,5 @@
 #include "lexer_run.h"
 
-#include <gtest/gtest.h>
-
-#include <sstream>
-
 #include "lexer.h"
 
 namespace test
@@ -17,34 +13,6 @@ const char* const tokensDescription =
     "| NAN | DEC_INT | HEX_INT | OCT_INT | BIN_INT | OFFSET_DATE_TIME | LOCAL_DATE_TIME | "
     "LOCAL_DATE | LOCAL_TIME | BARE_KEY );";
 
-const char* const unexpected = "Unexpected character"; // the runtime's message
-
-constexpr ANTLR3_UINT32 tokensDecision = 36;
-
-// The runtime counts the characters of the first line from -1, those of others from 0.
-int positionIn(ANTLR3_UINT32 line, ANTLR3_INT32 runtimePosition)
-{
-    return line == 1 ? runtimePosition + 1 : runtimePosition;
-}
-
-// What the display of a run needs.
-struct Recording
-{
-    const Lexer& lexer;
-    std::vector<LexerError>& errors;
-};
-
-void recordError(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8*)
-{
-    const auto recording = static_cast<const Recording*>(recogniser->state->userp);
-    const ANTLR3_EXCEPTION& exception = *recogniser->state->exception;
-    recording->errors.push_back({exception.type, static_cast<const char*>(exception.name),
-                                 static_cast<const char*>(exception.message), exception.decisionNum,
-                                 exception.line,
-                                 positionIn(exception.line, exception.charPositionInLine),
-                                 exception.c, recording->lexer.offset()});
-}
-
 std::string nameOf(ANTLR3_UINT32 type)
 {
     return type < std::size(TomlParserTokenNames)
@@ -52,130 +20,107 @@ std::string nameOf(ANTLR3_UINT32 type)
                : "type " + std::to_string(type);
 }
 
-LexedToken lexedToken(const Lexer& lexer, pANTLR3_COMMON_TOKEN token)
+// The kind of an error, if it is in all else what such an error is.
+std::string kindOf(const ANTLR3_EXCEPTION& exception)
 {
-    const pANTLR3_STRING text = token->getText(token);
-    return {nameOf(token->getType(token)),
-            {reinterpret_cast<const char*>(text->chars), text->len},
-            token->getChannel(token),
-            token->getLine(token),
-            positionIn(token->getLine(token), token->getCharPositionInLine(token)),
-            lexer.offsetOf(token->getStartIndex(token))};
-}
-
-std::string kindOf(const LexerError& error)
-{
-    const std::string& message = error.message;
-    switch (error.type)
+    const std::string name = static_cast<const char*>(exception.name);
+    const std::string message = static_cast<const char*>(exception.message);
+    const bool unexpected = message == "Unexpected character"; // the runtime's
+    const auto is = [&](ANTLR3_UINT32 type, const char* itsName)
+    { return exception.type == type && unexpected && name == itsName; };
+    if (exception.type == ANTLR3_NO_VIABLE_ALT_EXCEPTION)
     {
-    case ANTLR3_NO_VIABLE_ALT_EXCEPTION:
-        if (error.decision == tokensDecision && message == tokensDescription)
+        if (exception.decisionNum == 36 && message == tokensDescription)
         {
             return "no token";
         }
-        return message.empty() ? "no escape " + std::to_string(error.decision) : "";
-    case ANTLR3_RECOGNITION_EXCEPTION:
-        return error.name == "org.antlr.runtime.RecognitionException" && message == unexpected
-                   ? "mismatched character"
-                   : "";
-    case ANTLR3_MISMATCHED_SET_EXCEPTION:
-        return error.name == "org.antlr.runtime.MismatchedSetException" && message == unexpected
-                   ? "mismatched set"
-                   : "";
-    case ANTLR3_EARLY_EXIT_EXCEPTION:
-        return error.name == "org.antlr.runtime.EarlyExitException" && message == unexpected
-                   ? "early exit"
-                   : "";
-    default:
-        return "";
+        if (message.empty())
+        {
+            return "no escape " + std::to_string(exception.decisionNum);
+        }
     }
+    return is(ANTLR3_RECOGNITION_EXCEPTION, "org.antlr.runtime.RecognitionException")
+               ? "mismatched character"
+           : is(ANTLR3_MISMATCHED_SET_EXCEPTION, "org.antlr.runtime.MismatchedSetException")
+               ? "mismatched set"
+           : is(ANTLR3_EARLY_EXIT_EXCEPTION, "org.antlr.runtime.EarlyExitException")
+               ? "early exit"
+               : "type " + std::to_string(exception.type) + ", " + name + ", " + message;
 }
+
+// With its place.  The runtime counts the characters of the first line from -1, those of
+// others from 0.
+std::string summary(const ANTLR3_EXCEPTION& exception)
+{
+    const auto position = exception.charPositionInLine + (exception.line == 1 ? 1 : 0);
+    return kindOf(exception) + ' ' + std::to_string(exception.line) + ':' +
+           std::to_string(position);
+}
+
+// Notes what each call of the token rule makes; the runtime calls it for every part of the
+// text, also for tokens that are skipped.
+class Recorder
+{
+public:
+    Recorder(const Lexer& lexer, const std::string& text, Row& pieces)
+        : lexer_(lexer), text_(text), pieces_(pieces)
+    {
+        lexer.state()->userp = this;
+        lexer.recogniser()->displayRecognitionError = [](pANTLR3_BASE_RECOGNIZER, auto) {};
+        lexer.get()->pLexer->mTokens = [](void* context)
+        {
+            const auto called = static_cast<pTomlLexer>(context);
+            static_cast<Recorder*>(called->pLexer->rec->state->userp)->matchToken(called);
+        };
+    }
+
+    // The part that was begun last ends before an offset; that of `kind` begins there.
+    void begin(std::size_t offset, const std::string& kind)
+    {
+        if (offset != begun_)
+        {
+            pieces_.push_back({kind_, text_.substr(begun_, offset - begun_)});
+        }
+        begun_ = offset;
+        kind_ = kind;
+    }
+
+private:
+    void matchToken(pTomlLexer called)
+    {
+        const pANTLR3_RECOGNIZER_SHARED_STATE state = lexer_.state();
+        const std::size_t offset = lexer_.offsetOf(state->tokenStartCharIndex);
+        called->mTokens(called);
+        begin(offset,
+              state->error == ANTLR3_TRUE ? summary(*state->exception) : nameOf(state->type));
+    }
+
+    const Lexer& lexer_;
+    const std::string& text_;
+    Row& pieces_;
+    std::size_t begun_ = 0;
+    std::string kind_ = "unread";
+};
 
 } // namespace
 
-LexerRun lex(const std::string& text, ErrorDisplay display)
+LexerRun lex(const std::string& text)
 {
     LexerRun run;
     const Lexer lexer(text);
-    Recording recording{lexer, run.errors};
-    if (display == ErrorDisplay::recorded)
-    {
-        lexer.state()->userp = &recording;
-        lexer.recogniser()->displayRecognitionError = recordError;
-    }
+    Recorder recorder(lexer, text, run.pieces);
     pANTLR3_COMMON_TOKEN token = lexer.next();
-    while (token->getType(token) != ANTLR3_TOKEN_EOF)
+    for (; token->getType(token) != ANTLR3_TOKEN_EOF; token = lexer.next())
     {
-        run.tokens.push_back(lexedToken(lexer, token));
-        token = lexer.next();
+        const pANTLR3_STRING matched = token->getText(token);
+        run.tokens.push_back({nameOf(token->getType(token)),
+                              {reinterpret_cast<const char*>(matched->chars), matched->len}});
+        run.channels |= token->getChannel(token);
     }
-    run.end = lexer.offsetOf(token->getStartIndex(token));
-    run.errorCount = lexer.recogniser()->getNumberOfSyntaxErrors(lexer.recogniser());
+    recorder.begin(lexer.offsetOf(token->getStartIndex(token)), "unread");
+    recorder.begin(text.size(), "");
+    run.errors = lexer.recogniser()->getNumberOfSyntaxErrors(lexer.recogniser());
     return run;
-}
-
-std::string summary(const LexerError& error)
-{
-    std::ostringstream text;
-    const std::string kind = kindOf(error);
-    if (kind.empty())
-    {
-        text << "type " << error.type << " (" << error.name << "), decision " << error.decision
-             << ", \"" << error.message << '"';
-    }
-    text << kind << ' ' << error.line << ':' << error.position;
-    return text.str();
-}
-
-Tokens typesAndTexts(const LexerRun& run)
-{
-    Tokens tokens;
-    for (const LexedToken& token : run.tokens)
-    {
-        tokens.emplace_back(token.type, token.text);
-    }
-    return tokens;
-}
-
-Errors summaries(const LexerRun& run)
-{
-    Errors errors;
-    for (const LexerError& error : run.errors)
-    {
-        errors.push_back(summary(error));
-    }
-    return errors;
-}
-
-void expectLexed(const LexerCase& expected)
-{
-    SCOPED_TRACE(testing::PrintToString(expected.text));
-    const LexerRun run = lex(expected.text);
-    EXPECT_EQ(typesAndTexts(run), expected.tokens);
-    EXPECT_EQ(summaries(run), expected.errors);
-    EXPECT_EQ(run.errorCount, expected.errors.size());
-    for (const LexedToken& token : run.tokens)
-    {
-        EXPECT_EQ(token.channel, ANTLR3_TOKEN_DEFAULT_CHANNEL) << token.text;
-        EXPECT_EQ(expected.text.compare(token.offset, token.text.size(), token.text), 0)
-            << token.text << " at " << token.offset;
-    }
-}
-
-void expectLexed(const std::vector<LexerCase>& cases)
-{
-    for (const LexerCase& expected : cases)
-    {
-        expectLexed(expected);
-    }
-}
-
-void expectOneToken(const std::string& type, const std::vector<std::string>& texts)
-{
-    for (const std::string& text : texts)
-    {
-        expectLexed({text, {{type, text}}});
-    }
 }
 
 } // namespace test

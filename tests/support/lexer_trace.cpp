@@ -42,6 +42,13 @@ public:
         {
             stream_->SetNewLineChar(stream_.get(), ';');
         }
+        if (kind == StreamKind::ownLookahead)
+        {
+            static ANTLR3_UCHAR (*lookAhead)(pANTLR3_INT_STREAM, ANTLR3_INT32) = nullptr;
+            lookAhead = stream_->istream->_LA;
+            stream_->istream->_LA = [](pANTLR3_INT_STREAM stream, ANTLR3_INT32 place)
+            { return lookAhead(stream, place); };
+        }
     }
 
     pANTLR3_INPUT_STREAM stream() const { return stream_.get(); }

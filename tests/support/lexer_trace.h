@@ -14,10 +14,15 @@ enum class StreamKind
 {
     utf8,
     eightBit,
-    utf16,        // a code unit for each byte of the text
-    upperCase,    // UTF-8 with the runtime's lookahead for languages without case
-    otherLineEnds // UTF-8 whose lines end with a semicolon
+    utf16,         // a code unit for each byte of the text
+    upperCase,     // UTF-8 with the runtime's lookahead for languages without case
+    otherLineEnds, // UTF-8 whose lines end with a semicolon
+    ownLookahead   // UTF-8 by another lookahead than the runtime's, which does the same
 };
+
+constexpr StreamKind allStreamKinds[] = {StreamKind::utf8,          StreamKind::eightBit,
+                                         StreamKind::utf16,         StreamKind::upperCase,
+                                         StreamKind::otherLineEnds, StreamKind::ownLookahead};
 
 // All that a lexer shows while it reads a text to its end, a line for each thing: the
 // tokens, the errors as a display sees them, the stream after each, the count of errors.

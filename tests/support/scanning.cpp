@@ -7,26 +7,18 @@
 
 #include "support/lexer.h"
 
+extern "C" pTomlLexer referenceTomlLexerNew(pANTLR3_INPUT_STREAM input);
+
 namespace test
 {
 namespace
 {
 
-constexpr std::size_t longestText = 1 << 16;
+constexpr std::size_t longestText = 1 << 18;
 
-void expectBeginningsScanned(const std::string& text)
+std::string nameOf(TokenType type)
 {
-    for (std::size_t length = 1; length < text.size(); ++length)
-    {
-        const FoundToken found = scan(text.substr(0, length));
-        EXPECT_LE(found.length, length);
-    }
-}
-
-void expectNothingFound(const std::string& text)
-{
-    EXPECT_EQ(scan(text), FoundToken());
-    expectBeginningsScanned(text);
+    return reinterpret_cast<const char*>(TomlParserTokenNames[static_cast<std::size_t>(type)]);
 }
 
 } // namespace
@@ -42,8 +34,17 @@ std::ostream& operator<<(std::ostream& stream, const FoundToken& token)
     {
         return stream << "nothing";
     }
-    return stream << TomlParserTokenNames[static_cast<std::size_t>(token.type)] << " of "
-                  << token.length << " bytes";
+    return stream << nameOf(token.type) << " of " << token.length << " bytes";
+}
+
+TokenType typeOf(const std::string& name)
+{
+    auto type = static_cast<int>(std::size(TomlParserTokenNames)) - 1;
+    while (type > 0 && nameOf(static_cast<TokenType>(type)) != name)
+    {
+        --type;
+    }
+    return static_cast<TokenType>(type);
 }
 
 FoundToken scan(std::string_view text)
@@ -59,49 +60,19 @@ FoundToken scan(std::string_view text)
     return {token.type, static_cast<std::size_t>(token.end - begin)};
 }
 
-FoundToken lexOnce(const std::string& text)
+FoundToken lexedByGrammar(const std::string& text)
 {
-    const Lexer lexer(text);
-    const pANTLR3_RECOGNIZER_SHARED_STATE state = lexer.state();
-    lexer.get()->mTokens(lexer.get());
-    if (state->error == ANTLR3_TRUE)
+    const InputStream input = openInput(text);
+    const std::unique_ptr<TomlLexer, FreeRecogniser> lexer(referenceTomlLexerNew(input.get()));
+    lexer->mTokens(lexer.get());
+    const ANTLR3_RECOGNIZER_SHARED_STATE& state = *lexer->pLexer->rec->state;
+    if (state.error == ANTLR3_TRUE)
     {
         return {};
     }
-    return {static_cast<TokenType>(state->type), lexer.offset()};
-}
-
-void expectScanned(TokenType type, const std::vector<ScannedCase>& cases)
-{
-    for (const auto& [token, behind] : cases)
-    {
-        const std::string text = token + behind;
-        SCOPED_TRACE(testing::PrintToString(text));
-        const FoundToken expected = {type, token.size()};
-        EXPECT_EQ(scan(text), expected);
-        EXPECT_EQ(lexOnce(text), expected) << "by the lexer";
-        expectBeginningsScanned(text);
-    }
-}
-
-void expectNotRecognised(const std::vector<std::string>& texts)
-{
-    for (const std::string& text : texts)
-    {
-        SCOPED_TRACE(testing::PrintToString(text));
-        expectNothingFound(text);
-        EXPECT_EQ(lexOnce(text), FoundToken()) << "by the lexer";
-    }
-}
-
-void expectLeftToLexer(const std::vector<std::string>& texts)
-{
-    for (const std::string& text : texts)
-    {
-        SCOPED_TRACE(testing::PrintToString(text));
-        expectNothingFound(text);
-        EXPECT_NE(lexOnce(text).type, TokenType::none);
-    }
+    return {static_cast<TokenType>(state.type),
+            static_cast<std::size_t>(static_cast<const char*>(input->nextChar) -
+                                     static_cast<const char*>(input->data))};
 }
 
 } // namespace test

@@ -1,4 +1,4 @@
-// What the scanner makes of texts, and the lexer at the same place.
+// What the scanner makes of texts, and the lexer of the grammar at the same place.
 #pragma once
 
 #include "scan/token_type.h"
@@ -7,7 +7,6 @@
 #include <ostream>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace test
 {
@@ -24,27 +23,13 @@ struct FoundToken
 bool operator==(const FoundToken& left, const FoundToken& right);
 std::ostream& operator<<(std::ostream& stream, const FoundToken& token);
 
-// What the scanner finds at the beginning of a text behind which nothing can be read.
+// The type that the grammar gives a name.
+TokenType typeOf(const std::string& name);
+
+// What the scanner finds at the start of a text after which nothing can be read.
 FoundToken scan(std::string_view text);
 
-// What the lexer matches there.  It fails with nothing found.
-FoundToken lexOnce(const std::string& text);
-
-// A token with what stands behind it.
-struct ScannedCase
-{
-    std::string token;
-    std::string behind = {};
-};
-
-// Expects this type from the scanner and from the lexer, and that every beginning of the
-// text is scanned without a look at what is behind it.
-void expectScanned(TokenType type, const std::vector<ScannedCase>& cases);
-
-// Expects that the scanner recognises nothing where the lexer fails.
-void expectNotRecognised(const std::vector<std::string>& texts);
-
-// Expects that the scanner recognises nothing where the lexer has a token all the same.
-void expectLeftToLexer(const std::vector<std::string>& texts);
+// What the lexer matches there that the antlr3 tool makes from the grammar; nothing if it fails.
+FoundToken lexedByGrammar(const std::string& text);
 
 } // namespace test

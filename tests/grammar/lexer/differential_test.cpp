@@ -7,28 +7,16 @@
 
 #include "support/lexer_texts.h"
 
-#include "support/lexer_trace.h"
+#include "support/lexer_agreement.h"
 
 using namespace test;
-
-extern "C" pTomlLexer referenceTomlLexerNew(pANTLR3_INPUT_STREAM input);
 
 namespace
 {
 
 using MakeText = std::string (Texts::*)();
 
-// Whether both lexers show the same; says so if they do not.
-bool agree(const std::string& text, StreamKind kind = StreamKind::utf8)
-{
-    const std::string expected = traceTokens(referenceTomlLexerNew, text, kind);
-    const std::string shown = traceTokens(TomlLexerNew, text, kind);
-    EXPECT_EQ(shown, expected) << testing::PrintToString(text) << " in a stream of kind "
-                               << static_cast<int>(kind);
-    return shown == expected;
-}
-
-// Compares them on every VORN_TEST_STEPth text of that length.
+// Compares the lexers on every VORN_TEST_STEPth text of that length.
 bool agreeOnAll(std::string_view alphabet, std::size_t length, const std::string& begin = "")
 {
     static unsigned cases = 0;

@@ -18,8 +18,6 @@ namespace
 
 using LexerPointer = std::unique_ptr<TomlLexer, FreeRecogniser>;
 
-int calls = 0;
-
 } // namespace
 
 TEST(LexerConstruction, fillsEveryMemberOfTheContext)
@@ -97,19 +95,11 @@ TEST(LexerConstruction, knowsTheGrammarFile)
     EXPECT_EQ(name.rfind("src/grammar/Toml", 0), 0u) << name;
 }
 
-TEST(LexerReset, isTheRecognisers)
+TEST(LexerReset, resetsTheState)
 {
     const std::string text = "a";
     const Lexer lexer(text);
     lexer.next();
-    const auto runtimeReset = lexer.recogniser()->reset;
-    calls = 0;
-    lexer.recogniser()->reset = [](pANTLR3_BASE_RECOGNIZER) { ++calls; };
-    lexer.get()->reset(lexer.get());
-    EXPECT_EQ(calls, 1);
-    EXPECT_NE(lexer.state()->token, nullptr);
-
-    lexer.recogniser()->reset = runtimeReset;
     lexer.get()->reset(lexer.get());
     EXPECT_EQ(lexer.state()->token, nullptr);
     EXPECT_EQ(lexer.state()->type, static_cast<ANTLR3_UINT32>(ANTLR3_TOKEN_INVALID));
@@ -167,30 +157,20 @@ TEST(TokenSource, endsAnEmptyInputAtOnce)
 
 TEST(TokenSource, placesTokens)
 {
-    struct Place
+    const std::string text = "key = \"\u00E9\"\t1 # c\n\n  '''a\nb''' x\r\n@y";
+    const Lexer lexer(text);
+    const StderrCapture quiet;
+    std::string places;
+    for (auto token = lexer.next(); token->getType(token) != ANTLR3_TOKEN_EOF; token = lexer.next())
     {
-        std::string text;
-        ANTLR3_UINT32 line;
-        int position;
-        std::size_t offset;
-    };
-    const LexerRun run = lex("key = \"\u00E9\"\t1 # c\n\n  '''a\nb''' x\r\n@y");
-    const std::vector<Place> places = {
-        {"key", 1, 0, 0}, {"=", 1, 4, 4},      {"\"\u00E9\"", 1, 6, 6},
-        {"1", 1, 10, 11}, {"\n\n", 1, 15, 16}, {"'''a\nb'''", 3, 2, 20},
-        {"x", 4, 5, 30},  {"\r\n", 4, 6, 31},  {"y", 5, 1, 34},
-    };
-    ASSERT_EQ(run.tokens.size(), places.size());
-    for (std::size_t index = 0; index < places.size(); ++index)
-    {
-        SCOPED_TRACE(testing::PrintToString(places[index].text));
-        EXPECT_EQ(run.tokens[index].text, places[index].text);
-        EXPECT_EQ(run.tokens[index].line, places[index].line);
-        EXPECT_EQ(run.tokens[index].position, places[index].position);
-        EXPECT_EQ(run.tokens[index].offset, places[index].offset);
+        // The runtime counts the characters of the first line from -1, those of others from 0.
+        const auto line = token->getLine(token);
+        places += std::to_string(line) + ':' +
+                  std::to_string(token->getCharPositionInLine(token) + (line == 1 ? 1 : 0)) + '@' +
+                  std::to_string(lexer.offsetOf(token->getStartIndex(token))) + ' ';
     }
-    EXPECT_EQ(run.end, 35u);
-    EXPECT_EQ(summaries(run), Errors{"no token 5:0"});
+    EXPECT_EQ(places, "1:0@0 1:4@4 1:6@6 1:10@11 1:15@16 3:2@20 4:5@30 4:6@31 5:1@34 ");
+    EXPECT_EQ(lexer.offset(), text.size());
 }
 
 TEST(TokenSource, refersToTheInput)
@@ -221,4 +201,41 @@ TEST(TokenSource, lexesTwoInputsByTurns)
     }
     EXPECT_EQ(first.state()->errorCount, 1u);
     EXPECT_EQ(second.state()->errorCount, 0u);
+}
+
+TEST(LexerErrors, areCountedOneByOne)
+{
+    EXPECT_EQ(lex(std::string(1000, '@')).errors, 1000U);
+}
+
+TEST(LexerErrors, thatArePendingLetNoTokenBeMatched)
+{
+    const std::string text = "a";
+    const Lexer lexer(text);
+    lexer.state()->error = ANTLR3_TRUE;
+    lexer.get()->mTokens(lexer.get());
+    EXPECT_EQ(lexer.offset(), 0U);
+}
+
+TEST(LexerErrors, arePrintedByTheDisplayOnly)
+{
+    const std::string text = "@a 1. \"b\\q";
+    const auto printedBy = [](const Lexer& lexer)
+    {
+        const StderrCapture capture;
+        while (lexer.next()->type != ANTLR3_TOKEN_EOF)
+        {
+        }
+        EXPECT_EQ(lexer.state()->errorCount, 3U);
+        return capture.text();
+    };
+    const Lexer quiet(text);
+    quiet.recogniser()->displayRecognitionError = [](pANTLR3_BASE_RECOGNIZER, pANTLR3_UINT8*) {};
+    EXPECT_EQ(printedBy(quiet), "");
+    const std::string printed = printedBy(Lexer(text));
+    EXPECT_NE(printed.find("toml(1) : lexer error 3 :\n\t1:1: Tokens : ( T__69 |"),
+              std::string::npos)
+        << printed;
+    EXPECT_NE(printed.find("lexer error 4 :\n\tUnexpected character"), std::string::npos)
+        << printed;
 }
