@@ -4,6 +4,7 @@
 #include <string>
 
 #include "character_words.h"
+#include "grammar/lexer/decisions.h"
 #include "token_words.h"
 #include "utf8.h"
 
@@ -12,11 +13,15 @@ namespace tool
 namespace
 {
 
-// The choices of the grammar that fail in escapes.
-constexpr unsigned escapeOfLongString = 34;
-constexpr unsigned escapeOfString = 35;
+namespace toml = vorn::parsers::toml;
 
 constexpr std::string_view longQuotes[] = {"\"\"\"", "'''"};
+
+bool failedIn(const LexicalError& error, toml::Decision decision)
+{
+    return error.kind == ErrorKind::noAlternative &&
+           error.decision == static_cast<unsigned>(decision);
+}
 
 char byteAt(std::string_view text, std::size_t at)
 {
@@ -120,11 +125,11 @@ Finding shortEscape(const LexicalError& error, std::string_view text)
 
 Finding inStringAlone(const LexicalError& error, std::string_view text)
 {
-    if (error.kind == ErrorKind::noAlternative && error.decision == escapeOfString)
+    if (failedIn(error, toml::Decision::escape))
     {
         return wrongEscape(error.at - 1, text);
     }
-    if (error.kind == ErrorKind::noAlternative && error.decision == escapeOfLongString)
+    if (failedIn(error, toml::Decision::mlEscape))
     {
         return wrongEscape(error.at, text);
     }

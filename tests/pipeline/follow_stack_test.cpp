@@ -8,9 +8,12 @@
 #include <set>
 #include <vector>
 
+#include "grammar/type_count.h"
+
 #include "support/text_generator.h"
 
 using vorn::parsers::toml::FollowStack;
+using vorn::parsers::toml::typeCount;
 
 namespace
 {
@@ -65,7 +68,7 @@ public:
         {
             for (std::size_t types = generator.below(4); types > 0; --types)
             {
-                const std::size_t type = generator.below(76);
+                const std::size_t type = generator.below(typeCount);
                 words_[index][type / 64] |= ANTLR3_BITWORD{1} << type % 64;
             }
             lists_[index] = {words_[index].data(), words_[index][1] == 0 ? 1u : 2u};
@@ -123,25 +126,25 @@ TEST(FollowStack, hasTheUnionOfItsSetsAtAnyTime)
 
 TEST(FollowStack, hasRoomForEachTypeAlone)
 {
-    std::array<std::array<ANTLR3_BITWORD, 2>, 76> words = {};
-    std::array<ANTLR3_BITSET_LIST, 76> lists = {};
+    std::array<std::array<ANTLR3_BITWORD, 2>, typeCount> words = {};
+    std::array<ANTLR3_BITSET_LIST, typeCount> lists = {};
     const Recogniser recogniser;
     const FollowStack follows(recogniser.get());
     const pANTLR3_STACK following = recogniser->state->following;
-    const auto typeCount = [&recogniser]
+    const auto countOfTypes = [&recogniser]
     { return typesOf(recogniser->computeErrorRecoverySet(recogniser.get())).size(); };
     for (std::size_t type = 0; type < words.size(); ++type)
     {
         words[type][type / 64] = ANTLR3_BITWORD{1} << type % 64;
         lists[type] = {words[type].data(), 2};
         following->push(following, &lists[type], nullptr);
-        EXPECT_EQ(typeCount(), type + 1);
+        EXPECT_EQ(countOfTypes(), type + 1);
     }
     for (std::size_t type = words.size(); type > 0; --type)
     {
         expectCombined(recogniser);
         following->pop(following);
-        EXPECT_EQ(typeCount(), type - 1);
+        EXPECT_EQ(countOfTypes(), type - 1);
     }
 }
 
@@ -184,7 +187,7 @@ TEST(FollowStack, answersWithASetOfItsOwn)
     }
     const Types before = typesOf(recogniser->computeErrorRecoverySet(recogniser.get()));
     const pANTLR3_BITSET set = recogniser->computeErrorRecoverySet(recogniser.get());
-    for (ANTLR3_INT32 type = 0; type < 76; ++type)
+    for (ANTLR3_INT32 type = 0; type < typeCount; ++type)
     {
         set->add(set, type);
     }
