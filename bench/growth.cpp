@@ -242,8 +242,8 @@ void printGrowth()
 template <std::size_t count>
 void printCosts(const Document (&documents)[count])
 {
-    const Document right = {"right lines", true, 0, test::mixedDocument};
-    std::printf("\n| document | bytes | log lines | ms | MB | ms of right lines |\n"
+    const Document right = {"valid lines", true, 0, test::mixedDocument};
+    std::printf("\n| document | bytes | log lines | ms | MB | ms of valid lines |\n"
                 "|---|---:|---:|---:|---:|---:|\n");
     for (const Document& document : documents)
     {

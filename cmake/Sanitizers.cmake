@@ -2,7 +2,7 @@
 # what it asks of the standard library.
 #
 # The runtime, libantlr3c, is Debian's: none of its own accesses to memory is checked.  Its
-# blocks are the sanitizer's, so that lost ones are found, and accesses of other code behind
+# blocks are the sanitizer's, so that lost ones are found, and accesses of other code after
 # their ends.
 set(VORN_SANITIZERS "" CACHE STRING "The sanitizers to build with: address,undefined or thread")
 if(VORN_SANITIZERS)

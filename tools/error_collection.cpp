@@ -43,7 +43,7 @@ void addLexicalError(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8*)
         {
             const ANTLR3_EXCEPTION& error = *recogniser->state->exception;
             const auto next = reinterpret_cast<ANTLR3_MARKER>(collection.input.nextChar);
-            // One more character is passed over behind the display.
+            // One more character is passed over after the display.
             collection.found.lexicalErrors.push_back(
                 {kindOf(error.type), error.decisionNum,
                  collection.offset(recogniser->state->tokenStartCharIndex),

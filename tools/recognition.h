@@ -30,7 +30,7 @@ struct LexicalError
     unsigned decision;   // the number of the choice that failed, of an error of that kind
     std::size_t begin;   // of the token
     std::size_t at;      // the character that does not fit
-    std::size_t resumed; // behind the characters that were passed over
+    std::size_t resumed; // after the characters that were passed over
 };
 
 // Where the parser could not go on.
