@@ -273,7 +273,7 @@ private:
 //   visitTomlTree("", visitor);          // true: beginDocument, endDocument
 //
 // In a valid document arrays and inline tables may nest without limit.  An invalid one gets
-// no calls and a single log line in two cases:
+// no calls, and a log line that says why, in two cases:
 //
 //   - It nests too deeply to be diagnosed on the thread's stack.  A stack that is not the
 //     thread's own (of a coroutine, or of makecontext()) counts as 32 KB, so the limit is
