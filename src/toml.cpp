@@ -42,11 +42,15 @@ struct Report
 
 // What is shown and logged of an error, for each kind of recogniser: what is needed around the
 // runtime's own display of it, and the library's line.
-struct LexerError
+struct RecogniserError
 {
     pANTLR3_BASE_RECOGNIZER recogniser;
 
-    bool isShown() const { return true; }
+    static bool isShown(pANTLR3_BASE_RECOGNIZER) { return true; }
+};
+
+struct LexerError : RecogniserError
+{
     PrintableCharacter prepare() const { return PrintableCharacter(recogniser->state->exception); }
     void operator()(Report&) const
     {
@@ -55,13 +59,14 @@ struct LexerError
     }
 };
 
-struct ParserError
+struct ParserError : RecogniserError
 {
-    pANTLR3_BASE_RECOGNIZER recogniser;
-
     pANTLR3_PARSER parser() const { return static_cast<pANTLR3_PARSER>(recogniser->super); }
     // What a parser reports that has been ended for want of stack is no error of the document.
-    bool isShown() const { return FollowStack::of(recogniser).levelsWithoutRoom() == 0; }
+    static bool isShown(pANTLR3_BASE_RECOGNIZER failed)
+    {
+        return FollowStack::of(failed).levelsWithoutRoom() == 0;
+    }
     TemporaryStrings prepare() const { return TemporaryStrings(prepareDisplay(parser())); }
     void operator()(Report& report) const
     {
@@ -73,11 +78,8 @@ struct ParserError
     }
 };
 
-struct TreeError
+struct TreeError : RecogniserError
 {
-    pANTLR3_BASE_RECOGNIZER recogniser;
-
-    bool isShown() const { return true; }
     TemporaryStrings prepare() const
     {
         return TemporaryStrings(
@@ -95,11 +97,11 @@ void installErrorDisplay(pANTLR3_BASE_RECOGNIZER recogniser, Report& report)
     recogniser->displayRecognitionError =
         [](pANTLR3_BASE_RECOGNIZER failed, pANTLR3_UINT8* tokenNames)
     {
-        const Error error = {failed};
-        if (!error.isShown())
+        if (!Error::isShown(failed))
         {
             return;
         }
+        const Error error = {{failed}};
         const DeferredCancellation deferred;
         {
             const auto prepared = error.prepare();
@@ -178,7 +180,6 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, const std::string& text, ITomlTre
         refusal.reason = Refusal::Reason::tooLarge;
         return refuse(refusal, text.size());
     }
-
     const auto tokens = owned(
         antlr3CommonTokenStreamSourceNew(tokenBufferHint, lexer->pLexer->rec->state->tokSource),
         "Failed to create toml token stream");
@@ -202,7 +203,6 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, const std::string& text, ITomlTre
         refusal = {Refusal::Reason::tooDeep, std::max(levels, documentDepth(text))};
         return refuse(refusal, text.size());
     }
-
     const auto nodes = owned(antlr3CommonTreeNodeStreamNewTree(document, nodeBufferHint),
                              "Failed to create toml node stream");
     if (nodes == nullptr)
