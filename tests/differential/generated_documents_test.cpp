@@ -92,27 +92,17 @@ TEST(GeneratedDocuments, reachAllCalls)
 
 TEST(GeneratedDocuments, reachAllErrorsOfTheRuntime)
 {
-    for (const std::string display : {"lexer error 1 ",
-                                      "lexer error 3 ",
-                                      "lexer error 4 ",
-                                      "lexer error 5 ",
-                                      "near char(",
-                                      "(end of input)",
-                                      "Unexpected token",
-                                      "MissingTokenException",
-                                      "UnwantedTokenException",
-                                      "cannot match to any predicted input",
-                                      "syntax error...",
-                                      "Extraneous input - expected ','",
-                                      "Extraneous input - expected '='",
-                                      "Extraneous input - expected ']'",
-                                      "Extraneous input - expected '}'",
-                                      "Extraneous input - expected <EOF>",
-                                      "Extraneous input - expected <UP>",
-                                      "Missing ','",
-                                      "Missing '='",
-                                      "Missing ']'",
-                                      "Missing '}'"})
+    for (const std::string display :
+         {// The lexer's.
+          "lexer error 1 ", "lexer error 3 ", "lexer error 4 ", "lexer error 5 ", "near char(",
+          "(end of input)",
+          // The parser's and the tree parser's.
+          "Unexpected token", "MissingTokenException", "UnwantedTokenException",
+          "cannot match to any predicted input", "syntax error...",
+          "Extraneous input - expected ','", "Extraneous input - expected '='",
+          "Extraneous input - expected ']'", "Extraneous input - expected '}'",
+          "Extraneous input - expected <EOF>", "Extraneous input - expected <UP>", "Missing ','",
+          "Missing '='", "Missing ']'", "Missing '}'"})
     {
         const auto shows = [&](const Made& one)
         { return one.reading.standardError.find(display) != std::string::npos; };

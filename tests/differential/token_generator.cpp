@@ -109,28 +109,12 @@ std::string TokenGenerator::content(char quote, bool lines)
 
 std::string TokenGenerator::contentItem(char quote, bool lines)
 {
-    static constexpr Choices plain[] = {"a",
-                                        "b ",
-                                        "0",
-                                        "#",
-                                        "=",
-                                        "[",
-                                        "]",
-                                        "{",
-                                        ",",
-                                        "\t",
-                                        "\r",
-                                        "\x01",
-                                        "\x7F",
-                                        "some words ",
-                                        "\xC2\x80",
-                                        "\xC3\xA9",
-                                        "\xE0\xA0\x80",
-                                        "\xE2\x82\xAC",
-                                        "\xED\x9F\xBF",
-                                        "\xEE\x80\x80",
-                                        "\xEF\xBB\xBF",
-                                        "\xEF\xBF\xBF"};
+    static constexpr Choices plain[] = {
+        // ASCII.
+        "a", "b ", "0", "#", "=", "[", "]", "{", ",", "\t", "\r", "\x01", "\x7F", "some words ",
+        // The first and the last character of each length, and others.
+        "\xC2\x80", "\xC3\xA9", "\xE0\xA0\x80", "\xE2\x82\xAC", "\xED\x9F\xBF", "\xEE\x80\x80",
+        "\xEF\xBB\xBF", "\xEF\xBF\xBF"};
     static constexpr Choices escapes[] = {"\\\"",    "\\'",     "\\\\",        "\\b",
                                           "\\f",     "\\n",     "\\r",         "\\t",
                                           "\\u00e9", "\\uD800", "\\UFFFFFFFF", "\\U0001F600"};

@@ -32,6 +32,17 @@ Outcome readLines(const std::string& text)
     return outcome;
 }
 
+void expectReadAs(const Events& events, const std::vector<std::string>& texts)
+{
+    for (const std::string& text : texts)
+    {
+        SCOPED_TRACE(testing::PrintToString(text));
+        const Outcome outcome = readLines(text);
+        EXPECT_TRUE(outcome.read);
+        EXPECT_EQ(outcome.sink.events, events);
+    }
+}
+
 struct Document
 {
     std::string text;
@@ -42,10 +53,7 @@ void expectRead(const std::vector<Document>& documents)
 {
     for (const auto& [text, events] : documents)
     {
-        SCOPED_TRACE(testing::PrintToString(text));
-        const Outcome outcome = readLines(text);
-        EXPECT_TRUE(outcome.read);
-        EXPECT_EQ(outcome.sink.events, events);
+        expectReadAs(events, {text});
     }
 }
 
@@ -73,11 +81,8 @@ const Events bIsOne = pair(bare("b"), one);
 
 TEST(Reader, readsLinesWithoutContent)
 {
-    for (const std::string text :
-         {"", " ", "\n", "\n\n", " \n\t\n", "#", "# c", "# c\n", "\n# c\n \n# d", "\r\n"})
-    {
-        expectRead({{text, {}}});
-    }
+    expectReadAs({},
+                 {"", " ", "\n", "\n\n", " \n\t\n", "#", "# c", "# c\n", "\n# c\n \n# d", "\r\n"});
 }
 
 TEST(Reader, readsHeaders)
@@ -130,23 +135,13 @@ TEST(Reader, readsArraysWithLineBreaksWhereTheyMayBe)
     const Events first = list({one});
     const Events both = list({one, two});
     const Events all = list({one, two, one});
-    expectRead({{"a = [1]\n", first},
-                {"a = [1,]\n", first},
-                {"a = [\n1]\n", first},
-                {"a = [\n\n1,]\n", first},
-                {"a = [ # c\n1]\n", first},
-                {"a = [1\n, 2]\n", both},
-                {"a = [1,\n2]\n", both},
-                {"a = [1\n,\n2\n]\n", both},
-                {"a = [1, 2,]\n", both},
-                {"a = [1, 2\n,]\n", both},
-                {"a = [\n1\n,\n2\n,]\n", both},
-                {"a = [1, 2\n, 1]\n", all},
-                {"a = [1, 2\n,\n1\n]\n", all},
-                // After an element that is not the first there may be two.
-                {"a = [1, 2\n \n, 1]\n", all},
-                {"a = [1, 2 # c\n# d\n,\n1 # e\n] # f\n", all},
-                {"a = [1,\n2,\n1,]\n", all}});
+    expectReadAs(first,
+                 {"a = [1]\n", "a = [1,]\n", "a = [\n1]\n", "a = [\n\n1,]\n", "a = [ # c\n1]\n"});
+    expectReadAs(both, {"a = [1\n, 2]\n", "a = [1,\n2]\n", "a = [1\n,\n2\n]\n", "a = [1, 2,]\n",
+                        "a = [1, 2\n,]\n", "a = [\n1\n,\n2\n,]\n"});
+    expectReadAs(all, {"a = [1, 2\n, 1]\n", "a = [1, 2\n,\n1\n]\n", "a = [1,\n2,\n1,]\n"});
+    // After an element that is not the first there may be two.
+    expectReadAs(all, {"a = [1, 2\n \n, 1]\n", "a = [1, 2 # c\n# d\n,\n1 # e\n] # f\n"});
 }
 
 TEST(Reader, readsNestedArraysAndInlineTables)

@@ -39,6 +39,14 @@ void expectComplaints(const std::vector<Case>& cases)
     }
 }
 
+void expectComplaint(const std::string& complaint, const std::vector<std::string>& documents)
+{
+    for (const std::string& document : documents)
+    {
+        expectComplaints({{document, complaint}});
+    }
+}
+
 TEST(TomlToJson, ResolvesEscapes)
 {
     expectValues({
@@ -149,28 +157,23 @@ TEST(TomlToJson, ReportsValuesThatAreNone)
 
 TEST(TomlToJson, ReportsWhatIsDefinedTwice)
 {
+    expectComplaint("a: defined twice",
+                    {"a = 1\n\"a\" = 2\n", "a = 1\n\"\\u0061\" = 2\n", "a.b = 1\na = 2\n",
+                     "[a]\n[a]\n", "[a.b]\n[a]\n[a]\n", "[[a]]\n[a]\n", "[a]\n[[a]]\n",
+                     "a = [ { b = 1 } ]\n[[a]]\n"});
+    expectComplaint("a.b: cannot be extended here",
+                    {"a.b = 1\na.b.c = 2\n", "[a.b]\nc = 1\n[a]\nb.d = 1\n"});
+    expectComplaint("a.b: defined twice", {"a.b = 1\na.b = { c = 2 }\n", "[a]\nb.c = 1\n[a.b]\n"});
+    expectComplaint(
+        "a: cannot be extended here",
+        {"a = [ { b = 1 } ]\n[a.c]\n", "a = { b = 1 }\n[a.c]\n", "a = { b = 1 }\na.c = 1\n"});
     expectComplaints({
-        {"a = 1\n\"a\" = 2\n", "a: defined twice"},
-        {"a = 1\n\"\\u0061\" = 2\n", "a: defined twice"},
-        {"a.b = 1\na.b.c = 2\n", "a.b: cannot be extended here"},
-        {"a.b = 1\na.b = { c = 2 }\n", "a.b: defined twice"},
-        {"a.b = 1\na = 2\n", "a: defined twice"},
-        {"[a]\n[a]\n", "a: defined twice"},
-        {"[a.b]\n[a]\n[a]\n", "a: defined twice"},
-        {"[a.b]\nc = 1\n[a]\nb.d = 1\n", "a.b: cannot be extended here"},
-        {"[a]\nb.c = 1\n[a.b]\n", "a.b: defined twice"},
-        {"[[a]]\n[a]\n", "a: defined twice"},
-        {"[a]\n[[a]]\n", "a: defined twice"},
-        {"a = [ { b = 1 } ]\n[[a]]\n", "a: defined twice"},
-        {"a = [ { b = 1 } ]\n[a.c]\n", "a: cannot be extended here"},
-        {"a = { b = 1 }\n[a.c]\n", "a: cannot be extended here"},
-        {"a = { b = 1 }\na.c = 1\n", "a: cannot be extended here"},
         {"a = [ { b = 1 }, { b = 1, b.c = 1 } ]\n", "a[1].b: cannot be extended here"},
         {"[[a]]\n[a.b]\n[[a]]\n[a.b]\n[a.b]\n", "a[1].b: defined twice"},
-        // What stands in a place that is refused is not looked at.
-        {"a = 1\n[a]\nb = 1\nb = 2\n", "a: defined twice"},
-        {"a = 1\na = [ { b = 1, b = 2 } ]\n", "a: defined twice"},
     });
+    // What stands in a place that is refused is not looked at.
+    expectComplaint("a: defined twice",
+                    {"a = 1\n[a]\nb = 1\nb = 2\n", "a = 1\na = [ { b = 1, b = 2 } ]\n"});
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 // them mostly keep from happening in a walk.
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,38 +16,62 @@ namespace
 
 using namespace test;
 
-// Runs a rule at the first node and hands over the visitor's calls.
-using Rule = std::function<void(pTomlTree, EventRecorder&, bool&)>;
+using Rule = decltype(&TomlTree::value);
+
+// Runs rules over trees, and collects the errors that they report.
+struct RuleRun
+{
+    explicit RuleRun(const std::string& trees) : pipeline(trees)
+    {
+        collectErrors(pipeline.recogniser(), reported);
+    }
+
+    void run(Rule rule) { (pipeline.tree()->*rule)(pipeline.tree(), visitor, ok); }
+
+    pANTLR3_RECOGNIZER_SHARED_STATE state() const { return pipeline.recogniser()->state; }
+
+    TreePipeline pipeline;
+    ErrorKinds reported;
+    EventRecorder visitor;
+    bool ok = true;
+};
+
+// Expects that a rule has stopped with an error that nobody was told of.
+void expectStopped(const RuleRun& run, const std::string& kind)
+{
+    EXPECT_FALSE(run.ok);
+    EXPECT_EQ(run.visitor.events(), Events());
+    EXPECT_EQ(run.reported, ErrorKinds());
+    EXPECT_EQ(run.state()->errorCount, 0u);
+    ASSERT_EQ(run.state()->error, ANTLR3_TRUE);
+    ASSERT_NE(run.state()->exception, nullptr);
+    EXPECT_EQ(errorKind(run.pipeline.recogniser()), kind);
+}
+
+void expectReported(const RuleRun& run, const std::string& kind)
+{
+    EXPECT_EQ(run.reported, ErrorKinds{kind});
+    EXPECT_EQ(run.state()->errorCount, 1u);
+    EXPECT_EQ(run.state()->error, ANTLR3_FALSE);
+}
 
 struct DecisionCase
 {
     std::string name;
     std::string trees;
-    Rule run;
+    Rule rule;
     ANTLR3_UINT32 decision;
 };
 
 const std::string notThere = R"(COMMENT "#")";
 
 const std::vector<DecisionCase> decisions = {
-    {"expression", notThere,
-     [](pTomlTree tree, EventRecorder& visitor, bool& ok) { tree->expression(tree, visitor, ok); },
-     3},
-    {"key", notThere,
-     [](pTomlTree tree, EventRecorder& visitor, bool& ok) { tree->key(tree, visitor, ok); }, 5},
-    {"simple_key", "KEY_DOTTED",
-     [](pTomlTree tree, EventRecorder& visitor, bool& ok) { tree->simple_key(tree, visitor, ok); },
-     6},
-    {"value", notThere,
-     [](pTomlTree tree, EventRecorder& visitor, bool& ok) { tree->value(tree, visitor, ok); }, 8},
-    {"string_value", "VAL_INTEGER",
-     [](pTomlTree tree, EventRecorder& visitor, bool& ok)
-     { tree->string_value(tree, visitor, ok); },
-     9},
-    {"date_time_value", "VAL_STRING_BASIC",
-     [](pTomlTree tree, EventRecorder& visitor, bool& ok)
-     { tree->date_time_value(tree, visitor, ok); },
-     10},
+    {"expression", notThere, &TomlTree::expression, 3},
+    {"key", notThere, &TomlTree::key, 5},
+    {"simple_key", "KEY_DOTTED", &TomlTree::simple_key, 6},
+    {"value", notThere, &TomlTree::value, 8},
+    {"string_value", "VAL_INTEGER", &TomlTree::string_value, 9},
+    {"date_time_value", "VAL_STRING_BASIC", &TomlTree::date_time_value, 10},
 };
 
 } // namespace
@@ -58,88 +81,52 @@ TEST(TreeDecision, aChoiceWithoutAFittingAlternativeStopsUnreported)
     for (const DecisionCase& one : decisions)
     {
         SCOPED_TRACE(one.name);
-        const TreePipeline pipeline(one.trees);
-        ErrorKinds reported;
-        collectErrors(pipeline.recogniser(), reported);
-        EventRecorder visitor;
-        bool ok = true;
-        one.run(pipeline.tree(), visitor, ok);
-
-        EXPECT_FALSE(ok);
-        EXPECT_EQ(visitor.events(), Events());
-        EXPECT_EQ(reported, ErrorKinds());
-        const pANTLR3_RECOGNIZER_SHARED_STATE state = pipeline.recogniser()->state;
-        EXPECT_EQ(state->errorCount, 0u);
-        ASSERT_EQ(state->error, ANTLR3_TRUE);
-        ASSERT_NE(state->exception, nullptr);
-        EXPECT_EQ(errorKind(pipeline.recogniser()), "no viable alternative");
-        EXPECT_EQ(state->exception->decisionNum, one.decision);
+        RuleRun run(one.trees);
+        run.run(one.rule);
+        ASSERT_NO_FATAL_FAILURE(expectStopped(run, "no viable alternative"));
+        EXPECT_EQ(run.state()->exception->decisionNum, one.decision);
     }
 }
 
 TEST(TreeDecision, aDottedKeyWithoutPartsStopsUnreportedAsAnEarlyExit)
 {
-    const TreePipeline pipeline(notThere);
-    ErrorKinds reported;
-    collectErrors(pipeline.recogniser(), reported);
-    EventRecorder visitor;
-    bool ok = true;
-    pipeline.tree()->dotted_key_parts(pipeline.tree(), visitor, ok);
-
-    EXPECT_FALSE(ok);
-    EXPECT_EQ(visitor.events(), Events());
-    EXPECT_EQ(reported, ErrorKinds());
-    const pANTLR3_RECOGNIZER_SHARED_STATE state = pipeline.recogniser()->state;
-    ASSERT_EQ(state->error, ANTLR3_TRUE);
-    ASSERT_NE(state->exception, nullptr);
-    EXPECT_EQ(errorKind(pipeline.recogniser()), "early exit");
-    EXPECT_STREQ(static_cast<const char*>(state->exception->name),
+    RuleRun run(notThere);
+    run.run(&TomlTree::dotted_key_parts);
+    ASSERT_NO_FATAL_FAILURE(expectStopped(run, "early exit"));
+    EXPECT_STREQ(static_cast<const char*>(run.state()->exception->name),
                  "org.antlr.runtime.EarlyExitException");
 }
 
 TEST(TreeDecision, blanksThatAreNotThereAreReportedAsAnEarlyExit)
 {
-    const TreePipeline pipeline(notThere);
-    ErrorKinds reported;
-    collectErrors(pipeline.recogniser(), reported);
-    pipeline.tree()->whitespace(pipeline.tree());
-
-    EXPECT_EQ(reported, ErrorKinds{"early exit"});
-    const pANTLR3_RECOGNIZER_SHARED_STATE state = pipeline.recogniser()->state;
-    EXPECT_EQ(state->errorCount, 1u);
-    EXPECT_EQ(state->error, ANTLR3_FALSE);
-    EXPECT_STREQ(static_cast<const char*>(state->exception->name),
+    const RuleRun run(notThere);
+    run.pipeline.tree()->whitespace(run.pipeline.tree());
+    expectReported(run, "early exit");
+    EXPECT_STREQ(static_cast<const char*>(run.state()->exception->name),
                  "org.antlr.runtime.EarlyExitException");
 }
 
 TEST(TreeDecision, aTokenOutsideASetIsReportedByItsName)
 {
-    const TreePipeline pipeline(notThere);
-    ErrorKinds reported;
-    collectErrors(pipeline.recogniser(), reported);
-    const auto matched = pipeline.tree()->integer_text(pipeline.tree());
+    const RuleRun run(notThere);
+    const auto matched = run.pipeline.tree()->integer_text(run.pipeline.tree());
 
     EXPECT_EQ(matched.start, matched.stop);
     EXPECT_EQ(treeText(matched.start), notThere);
-    EXPECT_EQ(reported, ErrorKinds{"mismatched set"});
-    EXPECT_EQ(pipeline.recogniser()->state->error, ANTLR3_FALSE);
-    EXPECT_STREQ(static_cast<const char*>(pipeline.recogniser()->state->exception->name),
+    expectReported(run, "mismatched set");
+    EXPECT_STREQ(static_cast<const char*>(run.state()->exception->name),
                  "org.antlr.runtime.MismatchedSetException");
 }
 
 // A rule of one token whose match does not repair, for nothing can follow the rule.
 TEST(TreeDecision, anotherTokenWhereNothingFollowsIsReported)
 {
-    const TreePipeline pipeline(notThere);
-    ErrorKinds reported;
-    collectErrors(pipeline.recogniser(), reported);
-    const auto matched = pipeline.tree()->boolean_text(pipeline.tree());
+    const RuleRun run(notThere);
+    const auto matched = run.pipeline.tree()->boolean_text(run.pipeline.tree());
 
     EXPECT_EQ(matched.start, matched.stop);
     EXPECT_EQ(treeText(matched.start), notThere);
-    EXPECT_EQ(reported, ErrorKinds{"recognition"});
-    EXPECT_EQ(pipeline.recogniser()->state->errorCount, 1u);
-    EXPECT_EQ(pipeline.recogniser()->state->error, ANTLR3_FALSE);
+    expectReported(run, "recognition");
 }
 
 namespace
@@ -148,7 +135,7 @@ namespace
 // The rules with a root of their own: in a walk, the choices above them see to the root.
 struct RootCase
 {
-    Rule run;
+    Rule rule;
     std::string root;
     std::string children;
     std::string otherRoot;
@@ -157,52 +144,44 @@ struct RootCase
 };
 
 const std::vector<RootCase> roots = {
-    {[](pTomlTree tree, EventRecorder& visitor, bool& ok) { tree->key_value(tree, visitor, ok); },
+    {&TomlTree::key_value,
      "KEYVAL",
      R"((KEY_BARE(BARE_KEY "a"), VAL_ARRAY))",
      "VAL_ARRAY",
      {"beginKeyValue"},
      pair(bare("a"), array({}))},
-    {[](pTomlTree tree, EventRecorder& visitor, bool& ok)
-     { tree->table_header(tree, visitor, ok); },
+    {&TomlTree::table_header,
      "HEADER_TABLE",
      R"((KEY_BARE(BARE_KEY "a")))",
      "HEADER_ARRAY_TABLE",
      {"beginTable"},
      table(bare("a"))},
-    {[](pTomlTree tree, EventRecorder& visitor, bool& ok)
-     { tree->array_table_header(tree, visitor, ok); },
+    {&TomlTree::array_table_header,
      "HEADER_ARRAY_TABLE",
      R"((KEY_BARE(BARE_KEY "a")))",
      "HEADER_TABLE",
      {"beginArrayTable"},
      arrayTable(bare("a"))},
-    {[](pTomlTree tree, EventRecorder& visitor, bool& ok) { tree->bare_key(tree, visitor, ok); },
-     "KEY_BARE",
-     R"((BARE_KEY "a"))",
-     "KEY_QUOTED",
-     {},
-     bare("a")},
-    {[](pTomlTree tree, EventRecorder& visitor, bool& ok) { tree->quoted_key(tree, visitor, ok); },
+    {&TomlTree::bare_key, "KEY_BARE", R"((BARE_KEY "a"))", "KEY_QUOTED", {}, bare("a")},
+    {&TomlTree::quoted_key,
      "KEY_QUOTED",
      R"((LITERAL_STRING "'a'"))",
      "KEY_BARE",
      {},
      quoted("'a'")},
-    {[](pTomlTree tree, EventRecorder& visitor, bool& ok) { tree->dotted_key(tree, visitor, ok); },
+    {&TomlTree::dotted_key,
      "KEY_DOTTED",
      R"((KEY_BARE(BARE_KEY "a")))",
      "KEY_BARE",
      {"beginDottedKey"},
      dotted({bare("a")})},
-    {[](pTomlTree tree, EventRecorder& visitor, bool& ok) { tree->array(tree, visitor, ok); },
+    {&TomlTree::array,
      "VAL_ARRAY",
      R"((VAL_INTEGER(DEC_INT "1")))",
      "VAL_INLINE_TABLE",
      {"beginArray"},
      array({integer("1")})},
-    {[](pTomlTree tree, EventRecorder& visitor, bool& ok)
-     { tree->inline_table(tree, visitor, ok); },
+    {&TomlTree::inline_table,
      "VAL_INLINE_TABLE",
      R"((KEYVAL(KEY_BARE(BARE_KEY "a"), VAL_ARRAY)))",
      "VAL_ARRAY",
@@ -211,27 +190,23 @@ const std::vector<RootCase> roots = {
 };
 
 // Runs the rule behind the first `skipped` nodes of the trees.
-void expectRoot(const RootCase& rule, const std::string& trees, int skipped, const Events& events,
+void expectRoot(const RootCase& one, const std::string& trees, int skipped, const Events& events,
                 const ErrorKinds& errors, bool goesOn)
 {
     SCOPED_TRACE(trees);
-    const TreePipeline pipeline(trees);
-    const pANTLR3_INT_STREAM nodes = pipeline.nodes()->tnstream->istream;
+    RuleRun run(trees);
+    const pANTLR3_INT_STREAM nodes = run.pipeline.nodes()->tnstream->istream;
     for (int node = 0; node < skipped; ++node)
     {
         nodes->consume(nodes);
     }
-    ErrorKinds reported;
-    collectErrors(pipeline.recogniser(), reported);
-    EventRecorder visitor;
-    bool ok = true;
-    rule.run(pipeline.tree(), visitor, ok);
+    run.run(one.rule);
 
-    EXPECT_EQ(ok, goesOn);
-    EXPECT_EQ(visitor.events(), events);
-    EXPECT_EQ(reported, errors);
-    EXPECT_EQ(pipeline.recogniser()->state->errorCount, errors.size());
-    EXPECT_EQ(pipeline.recogniser()->state->error, goesOn ? ANTLR3_FALSE : ANTLR3_TRUE);
+    EXPECT_EQ(run.ok, goesOn);
+    EXPECT_EQ(run.visitor.events(), events);
+    EXPECT_EQ(run.reported, errors);
+    EXPECT_EQ(run.state()->errorCount, errors.size());
+    EXPECT_EQ(run.state()->error, goesOn ? ANTLR3_FALSE : ANTLR3_TRUE);
 }
 
 } // namespace

@@ -44,27 +44,12 @@ const std::vector<TextRule> values = {
     {"VAL_LOCAL_TIME", "visitLocalTime", {"LOCAL_TIME"}},
 };
 
-const std::vector<std::string> otherNodes = {"BARE_KEY",
-                                             "BASIC_STRING",
-                                             "BIN_INT",
-                                             "BOOLEAN",
-                                             "COMMENT",
-                                             "DAY",
-                                             "DEC_INT",
-                                             "FLOAT",
-                                             "HEX_INT",
-                                             "INF",
-                                             "LITERAL_STRING",
-                                             "LOCAL_DATE",
-                                             "LOCAL_DATE_TIME",
-                                             "LOCAL_TIME",
-                                             "ML_BASIC_STRING",
-                                             "ML_LITERAL_STRING",
-                                             "NAN",
-                                             "OCT_INT",
-                                             "OFFSET_DATE_TIME",
-                                             "YEAR",
-                                             "<invalid>"};
+const std::vector<std::string> otherNodes = {
+    "BARE_KEY", "BASIC_STRING", "BIN_INT", "BOOLEAN", "COMMENT", "DAY", "DEC_INT", "FLOAT",
+    "HEX_INT", "INF", "LITERAL_STRING", "LOCAL_DATE", "LOCAL_DATE_TIME", "LOCAL_TIME",
+    "ML_BASIC_STRING", "ML_LITERAL_STRING", "NAN", "OCT_INT", "OFFSET_DATE_TIME", "YEAR",
+    // Of no token.
+    "<invalid>"};
 
 bool isOfOneToken(const TextRule& rule)
 {

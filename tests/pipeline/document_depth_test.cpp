@@ -23,15 +23,9 @@ unsigned depthOf(const std::string& text)
     return vorn::parsers::toml::documentDepth({memory.holdTerminated(text), text.size()});
 }
 
-struct Case
+void expectDepth(unsigned depth, const std::vector<std::string>& texts)
 {
-    std::string text;
-    unsigned depth;
-};
-
-void expectDepths(const std::vector<Case>& cases)
-{
-    for (const auto& [text, depth] : cases)
+    for (const std::string& text : texts)
     {
         EXPECT_EQ(depthOf(text), depth) << testing::PrintToString(text);
     }
@@ -43,71 +37,45 @@ const std::string byteOrderMark = "\xEF\xBB\xBF";
 
 TEST(DocumentDepth, isNoneWithoutArraysAndInlineTables)
 {
-    expectDepths({{"", 0},
-                  {"\n\n", 0},
-                  {"# [[[\n", 0},
-                  {"a = 1\n", 0},
-                  {"a = '[[{'\n", 0},
-                  {"a.b.'c' = 1\n", 0},
-                  {"[a]\n[[b]]\n[c.d]\n", 0}});
+    expectDepth(0, {"", "\n\n", "# [[[\n", "a = 1\n", "a = '[[{'\n", "a.b.'c' = 1\n",
+                    "[a]\n[[b]]\n[c.d]\n"});
 }
 
 TEST(DocumentDepth, isThatOfTheDeepestValue)
 {
-    expectDepths({{"a = [1]\n", 1},
-                  {"a = [[1]]\n", 2},
-                  {"a = [1, [2, [3]], 4]\n", 3},
-                  {"a = [[1], [2], [3]]\n", 2},
-                  {"a = [\n[\n1]]\n", 2},
-                  {"a = {b = 1}\n", 1},
-                  {"a = {b = {c = {d = 1}}}\n", 3},
-                  {"a = {b = {c = 1}, d = 2}\n", 2},
-                  {"a = [{b = [1]}]\n", 3},
-                  {"a = {b = [{c = 1}, {d = [1]}]}\n", 4},
-                  {"a = [[[1]]]\nb = [1]\n", 3},
-                  {"a = [1]\n[t]\nb = [[1]]\n[[u]]\nc = [1]\n", 2}});
+    expectDepth(1, {"a = [1]\n", "a = {b = 1}\n"});
+    expectDepth(2, {"a = [[1]]\n", "a = [[1], [2], [3]]\n", "a = [\n[\n1]]\n",
+                    "a = {b = {c = 1}, d = 2}\n", "a = [1]\n[t]\nb = [[1]]\n[[u]]\nc = [1]\n"});
+    expectDepth(3, {"a = [1, [2, [3]], 4]\n", "a = {b = {c = {d = 1}}}\n", "a = [{b = [1]}]\n",
+                    "a = [[[1]]]\nb = [1]\n"});
+    expectDepth(4, {"a = {b = [{c = 1}, {d = [1]}]}\n"});
 }
 
 TEST(DocumentDepth, countsWhatIsNeverClosed)
 {
-    expectDepths({{"a = [", 1},
-                  {"a = [[[", 3},
-                  {"a = {b = {c =", 2},
-                  {"a = [{b = [\n", 3},
-                  {"a = [[1, [2", 3},
-                  {"a = [[1], [", 2},
-                  {"a = [[1", 2}});
+    expectDepth(1, {"a = ["});
+    expectDepth(3, {"a = [[[", "a = [{b = [\n", "a = [[1, [2"});
+    expectDepth(2, {"a = {b = {c =", "a = [[1], [", "a = [[1"});
 }
 
 TEST(DocumentDepth, endsAtTheFirstError)
 {
-    expectDepths({{"@\na = [1]\n", 0},
-                  {"a = 1 2\nb = [1]\n", 0},
-                  {"a = [1]\n@\nb = [[1]]\n", 1},
-                  {"a = [1 [[2]]]\n", 1},
-                  {"a = [@[[1]]]\n", 1},
-                  {"a = [[]]\nb = [[[1]]]\n", 2},
-                  {"a = {[1]}\n", 1},
-                  {"a = {b = {}}\n", 2},
-                  {"a = [1}\nb = [[1]]\n", 1},
-                  {"a = [1]]\nb = [[1]]\n", 1},
-                  {"[[[a]]]\nb = [1]\n", 0},
-                  {"[[[[[[", 0},
-                  {"a = [1]\nb = [[[1]]] 2\n", 3}});
+    expectDepth(0, {"@\na = [1]\n", "a = 1 2\nb = [1]\n", "[[[a]]]\nb = [1]\n", "[[[[[["});
+    expectDepth(1, {"a = [1]\n@\nb = [[1]]\n", "a = [1 [[2]]]\n", "a = [@[[1]]]\n", "a = {[1]}\n",
+                    "a = [1}\nb = [[1]]\n", "a = [1]]\nb = [[1]]\n"});
+    expectDepth(2, {"a = [[]]\nb = [[[1]]]\n", "a = {b = {}}\n"});
+    expectDepth(3, {"a = [1]\nb = [[[1]]] 2\n"});
 }
 
 TEST(DocumentDepth, takesNoNoticeOfAByteOrderMark)
 {
-    expectDepths({{byteOrderMark, 0},
-                  {byteOrderMark + "a = [[1]]\n", 2},
-                  {byteOrderMark + "a = [[", 2},
-                  // A mark is nothing but that where a document begins, and once.
-                  {byteOrderMark + byteOrderMark + "a = [1]\n", 0},
-                  {"a = [1]\n" + byteOrderMark + "b = [[1]]\n", 1},
-                  {"\xEF\xBB", 0},
-                  {"\xEF\xBB"
-                   "a = [1]\n",
-                   0}});
+    expectDepth(0, {byteOrderMark});
+    expectDepth(2, {byteOrderMark + "a = [[1]]\n", byteOrderMark + "a = [["});
+    // A mark is nothing but that where a document begins, and once.
+    expectDepth(0, {byteOrderMark + byteOrderMark + "a = [1]\n", "\xEF\xBB",
+                    "\xEF\xBB"
+                    "a = [1]\n"});
+    expectDepth(1, {"a = [1]\n" + byteOrderMark + "b = [[1]]\n"});
 }
 
 TEST(DocumentDepth, hasNoLimit)

@@ -4,7 +4,6 @@
 #include "pipeline/follow_stack.h"
 
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -14,30 +13,17 @@
 #include "support/refused_documents.h"
 #include "support/tree_samples.h"
 #include "support/tree_text.h"
+#include "support/types_of_set.h"
 
 #include "support/parser_pipeline.h"
 #include "support/tree_pipeline.h"
 
+using test::Types;
+using test::typesOf;
 using vorn::parsers::toml::FollowStack;
 
 namespace
 {
-
-using Types = std::set<ANTLR3_UINT32>;
-
-Types typesOf(pANTLR3_BITSET set)
-{
-    Types types;
-    for (ANTLR3_UINT32 type = 0; type < 64 * set->blist.length; ++type)
-    {
-        if (set->isMember(set, type) == ANTLR3_TRUE)
-        {
-            types.insert(type);
-        }
-    }
-    set->free(set);
-    return types;
-}
 
 // What a recogniser may recover at when an error is displayed.
 struct Recovery

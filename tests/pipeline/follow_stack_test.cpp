@@ -5,13 +5,15 @@
 
 #include <array>
 #include <memory>
-#include <set>
 #include <vector>
 
 #include "grammar/type_count.h"
 
 #include "support/text_generator.h"
+#include "support/types_of_set.h"
 
+using test::Types;
+using test::typesOf;
 using vorn::parsers::toml::FollowStack;
 using vorn::parsers::toml::typeCount;
 
@@ -38,22 +40,6 @@ private:
 
     std::unique_ptr<ANTLR3_PARSER, Free> parser_;
 };
-
-using Types = std::set<ANTLR3_UINT32>;
-
-Types typesOf(pANTLR3_BITSET set)
-{
-    Types types;
-    for (ANTLR3_UINT32 type = 0; type < 64 * set->blist.length; ++type)
-    {
-        if (set->isMember(set, type) == ANTLR3_TRUE)
-        {
-            types.insert(type);
-        }
-    }
-    set->free(set);
-    return types;
-}
 
 // The sets that a test pushes: the static lists of a recogniser.
 class SomeSets

@@ -17,13 +17,6 @@ void record(const std::string& step)
     }
 }
 
-// Records an object's creation, and tells whether it is to fail.
-bool fails(const std::string& object)
-{
-    record("new " + object);
-    return spy != nullptr && spy->failing == object;
-}
-
 // The entry `Member` of an object records `step` before it does its work.
 template <auto Member, typename Object>
 void watchRelease(Object* object, const char* step)
@@ -38,27 +31,33 @@ void watchRelease(Object* object, const char* step)
     };
 }
 
-struct LexerKind
+// Records an object's creation, unless it is to fail, and later its release by `Free`.
+template <auto Free, typename Function, typename... Arguments>
+auto create(const std::string& object, const char* release, Function function,
+            Arguments... arguments)
 {
-    static constexpr const char* name = "lexer";
-    static constexpr std::size_t index = 0;
+    record("new " + object);
+    if (spy != nullptr && spy->failing == object)
+    {
+        return decltype(function(arguments...)){nullptr};
+    }
+    const auto created = function(arguments...);
+    watchRelease<Free>(created, release);
+    return created;
+}
+
+enum Kind
+{
+    lexerKind,
+    parserKind,
+    treeKind
 };
 
-struct ParserKind
-{
-    static constexpr const char* name = "parser";
-    static constexpr std::size_t index = 1;
-};
-
-struct TreeKind
-{
-    static constexpr const char* name = "tree";
-    static constexpr std::size_t index = 2;
-};
+constexpr const char* nameOf[] = {"lexer", "parser", "tree"};
 
 // The display of the first recogniser of its kind is the one that the driver keeps; the
 // displays of later ones differ, so that a call of them shows.
-template <typename Kind>
+template <Kind kind>
 void watchDisplay(pANTLR3_BASE_RECOGNIZER recogniser)
 {
     static const auto original = recogniser->displayRecognitionError;
@@ -66,28 +65,28 @@ void watchDisplay(pANTLR3_BASE_RECOGNIZER recogniser)
     recogniser->displayRecognitionError =
         first ? [](pANTLR3_BASE_RECOGNIZER failed, pANTLR3_UINT8* tokenNames)
     {
-        record(std::string("display ") + Kind::name);
+        record(std::string("display ") + nameOf[kind]);
         if (spy != nullptr && spy->onDisplay)
         {
-            spy->onDisplay(Kind::name, failed, tokenNames);
+            spy->onDisplay(nameOf[kind], failed, tokenNames);
         }
         original(failed, tokenNames);
     }
               : [](pANTLR3_BASE_RECOGNIZER, pANTLR3_UINT8*)
-    { record(std::string("display of a later ") + Kind::name); };
+    { record(std::string("display of a later ") + nameOf[kind]); };
     first = false;
 }
 
-template <typename Kind>
+template <Kind kind>
 void watchCount(pANTLR3_BASE_RECOGNIZER recogniser)
 {
     static auto original = recogniser->getNumberOfSyntaxErrors;
     original = recogniser->getNumberOfSyntaxErrors;
     recogniser->getNumberOfSyntaxErrors = [](pANTLR3_BASE_RECOGNIZER asked) -> ANTLR3_UINT32
     {
-        record(std::string("count ") + Kind::name);
+        record(std::string("count ") + nameOf[kind]);
         const bool claimed = spy != nullptr && !spy->claimedErrors.empty();
-        return claimed ? spy->claimedErrors.at(Kind::index) : original(asked);
+        return claimed ? spy->claimedErrors.at(kind) : original(asked);
     };
 }
 
@@ -176,30 +175,25 @@ extern "C"
         arguments.encoding = encoding;
         arguments.size = size;
         arguments.name = reinterpret_cast<const char*>(name);
-        if (test::fails("input"))
-        {
-            return nullptr;
-        }
-        auto* const input = __real_antlr3StringStreamNew(data, encoding, size, name);
+        auto* const input = test::create<&ANTLR3_INPUT_STREAM::close>(
+            "input", "close input", __real_antlr3StringStreamNew, data, encoding, size, name);
         test::spy->created.input = input;
-        test::watchRelease<&ANTLR3_INPUT_STREAM::close>(input, "close input");
         return input;
     }
 
     pTomlLexer __wrap_TomlLexerNew(pANTLR3_INPUT_STREAM input)
     {
         test::spy->arguments.lexerInput = input;
-        if (test::fails("lexer"))
+        const pTomlLexer lexer =
+            test::create<&TomlLexer::free>("lexer", "free lexer", __real_TomlLexerNew, input);
+        if (lexer != nullptr)
         {
-            return nullptr;
+            const pANTLR3_BASE_RECOGNIZER recogniser = lexer->pLexer->rec;
+            test::spy->created.tokenSource = recogniser->state->tokSource;
+            test::watchDisplay<test::lexerKind>(recogniser);
+            test::watchCount<test::lexerKind>(recogniser);
+            test::watchReport(recogniser);
         }
-        const pTomlLexer lexer = __real_TomlLexerNew(input);
-        const pANTLR3_BASE_RECOGNIZER recogniser = lexer->pLexer->rec;
-        test::spy->created.tokenSource = recogniser->state->tokSource;
-        test::watchRelease<&TomlLexer::free>(lexer, "free lexer");
-        test::watchDisplay<test::LexerKind>(recogniser);
-        test::watchCount<test::LexerKind>(recogniser);
-        test::watchReport(recogniser);
         return lexer;
     }
 
@@ -208,28 +202,23 @@ extern "C"
     {
         test::spy->arguments.tokensHint = hint;
         test::spy->arguments.tokenSource = source;
-        if (test::fails("tokens"))
-        {
-            return nullptr;
-        }
-        auto* const tokens = __real_antlr3CommonTokenStreamSourceNew(hint, source);
+        auto* const tokens = test::create<&ANTLR3_COMMON_TOKEN_STREAM::free>(
+            "tokens", "free tokens", __real_antlr3CommonTokenStreamSourceNew, hint, source);
         test::spy->created.tokens = tokens;
-        test::watchRelease<&ANTLR3_COMMON_TOKEN_STREAM::free>(tokens, "free tokens");
         return tokens;
     }
 
     pTomlParser __wrap_TomlParserNew(pANTLR3_COMMON_TOKEN_STREAM tokens)
     {
         test::spy->arguments.parserTokens = tokens;
-        if (test::fails("parser"))
+        const pTomlParser parser =
+            test::create<&TomlParser::free>("parser", "free parser", __real_TomlParserNew, tokens);
+        if (parser != nullptr)
         {
-            return nullptr;
+            test::watchDisplay<test::parserKind>(parser->pParser->rec);
+            test::watchCount<test::parserKind>(parser->pParser->rec);
+            test::watchParse(parser);
         }
-        const pTomlParser parser = __real_TomlParserNew(tokens);
-        test::watchRelease<&TomlParser::free>(parser, "free parser");
-        test::watchDisplay<test::ParserKind>(parser->pParser->rec);
-        test::watchCount<test::ParserKind>(parser->pParser->rec);
-        test::watchParse(parser);
         return parser;
     }
 
@@ -238,28 +227,23 @@ extern "C"
     {
         test::spy->arguments.nodesTree = tree;
         test::spy->arguments.nodesHint = hint;
-        if (test::fails("nodes"))
-        {
-            return nullptr;
-        }
-        auto* const nodes = __real_antlr3CommonTreeNodeStreamNewTree(tree, hint);
+        auto* const nodes = test::create<&ANTLR3_COMMON_TREE_NODE_STREAM::free>(
+            "nodes", "free nodes", __real_antlr3CommonTreeNodeStreamNewTree, tree, hint);
         test::spy->created.nodes = nodes;
-        test::watchRelease<&ANTLR3_COMMON_TREE_NODE_STREAM::free>(nodes, "free nodes");
         return nodes;
     }
 
     pTomlTree __wrap_TomlTreeNew(pANTLR3_COMMON_TREE_NODE_STREAM nodes)
     {
         test::spy->arguments.treeNodes = nodes;
-        if (test::fails("tree"))
+        const pTomlTree tree =
+            test::create<&TomlTree::free>("tree", "free tree", __real_TomlTreeNew, nodes);
+        if (tree != nullptr)
         {
-            return nullptr;
+            test::watchDisplay<test::treeKind>(tree->pTreeParser->rec);
+            test::watchCount<test::treeKind>(tree->pTreeParser->rec);
+            test::watchWalk(tree);
         }
-        const pTomlTree tree = __real_TomlTreeNew(nodes);
-        test::watchRelease<&TomlTree::free>(tree, "free tree");
-        test::watchDisplay<test::TreeKind>(tree->pTreeParser->rec);
-        test::watchCount<test::TreeKind>(tree->pTreeParser->rec);
-        test::watchWalk(tree);
         return tree;
     }
 }

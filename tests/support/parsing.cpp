@@ -38,16 +38,17 @@ void expectParsed(const std::vector<AcceptedDocument>& documents)
     }
 }
 
-void expectRejected(const std::vector<RejectedDocument>& documents)
+void expectRejected(const ErrorKinds& errors, const std::vector<std::string>& texts,
+                    const ErrorKinds& lexerErrors)
 {
-    for (const RejectedDocument& document : documents)
+    for (const std::string& text : texts)
     {
-        SCOPED_TRACE(testing::PrintToString(document.text));
-        const ParsedDocument parsed = parseDocument(document.text);
-        EXPECT_EQ(parsed.errors, document.errors);
-        EXPECT_EQ(parsed.errorCount, document.errors.size());
-        EXPECT_EQ(parsed.lexerErrors, document.lexerErrors);
-        EXPECT_EQ(parsed.lexerErrorCount, document.lexerErrors.size());
+        SCOPED_TRACE(testing::PrintToString(text));
+        const ParsedDocument parsed = parseDocument(text);
+        EXPECT_EQ(parsed.errors, errors);
+        EXPECT_EQ(parsed.errorCount, errors.size());
+        EXPECT_EQ(parsed.lexerErrors, lexerErrors);
+        EXPECT_EQ(parsed.lexerErrorCount, lexerErrors.size());
     }
 }
 

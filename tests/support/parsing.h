@@ -29,15 +29,9 @@ struct AcceptedDocument
 // Expects the trees, and no error of the parser or of the lexer.
 void expectParsed(const std::vector<AcceptedDocument>& documents);
 
-struct RejectedDocument
-{
-    std::string text;
-    ErrorKinds errors;
-    ErrorKinds lexerErrors = {};
-};
-
-// Expects the errors, in order and no others, each displayed and counted once.
-void expectRejected(const std::vector<RejectedDocument>& documents);
+// Expects the errors of each document, in order and no others, each displayed and counted once.
+void expectRejected(const ErrorKinds& errors, const std::vector<std::string>& texts,
+                    const ErrorKinds& lexerErrors = {});
 
 // The kind of error for a place where no alternative of a choice fits.
 const std::string noAlternative = "no viable alternative";

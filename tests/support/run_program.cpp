@@ -1,6 +1,5 @@
 #include "run_program.h"
 
-#include <spawn.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -48,12 +47,13 @@ private:
     int file_ = -1;
 };
 
-pid_t start(const std::vector<std::string>& words, const StreamFile& input,
-            const StreamFile& output, const StreamFile& error)
+} // namespace
+
+pid_t startProgram(std::vector<std::string> words,
+                   const std::function<void(posix_spawn_file_actions_t*)>& redirect)
 {
-    std::vector<std::string> copies = words;
     std::vector<char*> arguments;
-    for (std::string& word : copies)
+    for (std::string& word : words)
     {
         arguments.push_back(word.data());
     }
@@ -61,9 +61,7 @@ pid_t start(const std::vector<std::string>& words, const StreamFile& input,
 
     posix_spawn_file_actions_t streams;
     posix_spawn_file_actions_init(&streams);
-    posix_spawn_file_actions_adddup2(&streams, input.descriptor(), STDIN_FILENO);
-    posix_spawn_file_actions_adddup2(&streams, output.descriptor(), STDOUT_FILENO);
-    posix_spawn_file_actions_adddup2(&streams, error.descriptor(), STDERR_FILENO);
+    redirect(&streams);
     pid_t child = -1;
     const int failure =
         posix_spawn(&child, arguments[0], &streams, nullptr, arguments.data(), environ);
@@ -75,14 +73,18 @@ pid_t start(const std::vector<std::string>& words, const StreamFile& input,
     return child;
 }
 
-} // namespace
-
 ProgramRun runProgram(const std::vector<std::string>& words, const std::string& input)
 {
     const StreamFile standardInput(input);
     const StreamFile standardOutput;
     const StreamFile standardError;
-    const pid_t child = start(words, standardInput, standardOutput, standardError);
+    const auto redirect = [&](posix_spawn_file_actions_t* streams)
+    {
+        posix_spawn_file_actions_adddup2(streams, standardInput.descriptor(), STDIN_FILENO);
+        posix_spawn_file_actions_adddup2(streams, standardOutput.descriptor(), STDOUT_FILENO);
+        posix_spawn_file_actions_adddup2(streams, standardError.descriptor(), STDERR_FILENO);
+    };
+    const pid_t child = startProgram(words, redirect);
     int status = 0;
     if (waitpid(child, &status, 0) != child)
     {

@@ -1,7 +1,8 @@
 #include "terminal_run.h"
 
+#include "run_program.h"
+
 #include <fcntl.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -54,26 +55,13 @@ private:
 TerminalRun runOnTerminal(const std::vector<std::string>& words)
 {
     const Terminal terminal;
-    std::vector<std::string> copies = words;
-    std::vector<char*> arguments;
-    for (std::string& word : copies)
+    const auto redirect = [&terminal](posix_spawn_file_actions_t* streams)
     {
-        arguments.push_back(word.data());
-    }
-    arguments.push_back(nullptr);
-    posix_spawn_file_actions_t streams;
-    posix_spawn_file_actions_init(&streams);
-    posix_spawn_file_actions_addopen(&streams, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&streams, STDERR_FILENO, terminal.name(), O_WRONLY | O_NOCTTY,
-                                     0);
-    pid_t child = -1;
-    const int failure =
-        posix_spawn(&child, arguments[0], &streams, nullptr, arguments.data(), environ);
-    posix_spawn_file_actions_destroy(&streams);
-    if (failure != 0)
-    {
-        throw std::runtime_error(words[0] + " cannot be started");
-    }
+        posix_spawn_file_actions_addopen(streams, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+        posix_spawn_file_actions_addopen(streams, STDERR_FILENO, terminal.name(),
+                                         O_WRONLY | O_NOCTTY, 0);
+    };
+    const pid_t child = startProgram(words, redirect);
     TerminalRun run;
     run.terminal = terminal.content();
     int status = 0;

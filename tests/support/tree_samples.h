@@ -17,22 +17,13 @@ inline const std::string end = R"( NL "\n" EOF)";
 inline const Events aIsOne = pair(bare("a"), integer("1"));
 
 // Nodes without children that are no value.
-inline const std::vector<std::string> noValues = {R"(<invalid> "Tree Error Node")",
-                                                  R"(BARE_KEY "x")",
-                                                  R"(DEC_INT "1")",
-                                                  R"(BOOLEAN "true")",
-                                                  R"(ESC "x")",
-                                                  R"(FULL_DATE "x")",
-                                                  R"(NL "\n")",
-                                                  R"(WS " ")",
-                                                  R"(YEAR "1979")",
-                                                  "KEYVAL",
-                                                  "HEADER_TABLE",
-                                                  "HEADER_ARRAY_TABLE",
-                                                  "KEY_BARE",
-                                                  "KEY_QUOTED",
-                                                  "KEY_DOTTED",
-                                                  "EOF"};
+inline const std::vector<std::string> noValues = {
+    R"(<invalid> "Tree Error Node")",
+    // Tokens.
+    R"(BARE_KEY "x")", R"(DEC_INT "1")", R"(BOOLEAN "true")", R"(ESC "x")", R"(FULL_DATE "x")",
+    R"(NL "\n")", R"(WS " ")", R"(YEAR "1979")",
+    // Roots, and the end.
+    "KEYVAL", "HEADER_TABLE", "HEADER_ARRAY_TABLE", "KEY_BARE", "KEY_QUOTED", "KEY_DOTTED", "EOF"};
 
 // Nodes without children that begin no line.
 inline const std::vector<std::string> noLines = {R"(<invalid> "Tree Error Node")",

@@ -17,26 +17,44 @@ const Events aIsOne = pair(bare("a"), one);
 // A pair whose value was not there, and those enclosed in others.
 const Events pairWithoutValue = {"beginKeyValue", "visitBareKey a"};
 
+struct Diagnosed
+{
+    std::string text;
+    Events events; // between beginDocument and endDocument
+    std::string tokens;
+};
+
+// Documents with one error, which the parser has repaired.
+void expectRepaired(const std::vector<Diagnosed>& documents)
+{
+    for (const auto& [text, events, tokens] : documents)
+    {
+        expectRejected({{text, document({events}), {parserFailure(tokens), syntaxErrors(1)}}});
+    }
+}
+
+// Documents with one error of the parser, and one of the tree parser, which has repaired it.
+void expectRepairedInTheTree(const std::vector<Diagnosed>& documents)
+{
+    for (const auto& [text, events, tokens] : documents)
+    {
+        expectRejected(
+            {{text, document({events}), {parserFailure(tokens), treeFailure(), syntaxErrors(2)}}});
+    }
+}
+
 // Documents of which the parser could make no list of lines: its one error node is taken
 // for an extra node before the document's end.
 void expectUnreadable(const std::vector<std::pair<std::string, std::string>>& documents)
 {
     for (const auto& [text, tokens] : documents)
     {
-        expectRejected(
-            {{text, document({}), {parserFailure(tokens), treeFailure(), syntaxErrors(2)}}});
+        expectRepairedInTheTree({{text, {}, tokens}});
     }
 }
 
-struct BrokenOffDocument
-{
-    std::string text;
-    Events events; // behind beginDocument
-    std::string tokens;
-};
-
 // Documents that break off the walk, after one error of the parser.
-void expectBrokenOff(const std::vector<BrokenOffDocument>& documents)
+void expectBrokenOff(const std::vector<Diagnosed>& documents)
 {
     for (const auto& [text, events, tokens] : documents)
     {
@@ -112,26 +130,17 @@ TEST(TomlRejected, keysAreFollowedByADotAnEqualsSignOrABracket)
 TEST(TomlRejected, whatTheParserRepairsIsWalkedAndCounted)
 {
     const Events dottedA = dotted({bare("a")});
-    expectRejected({
-        {"[[a]\n", document({arrayTable(bare("a"))}), {parserFailure("[[a]\n"), syntaxErrors(1)}},
-        {"a.b c = 1\n",
-         document({pair(dotted({bare("a"), bare("b")}), one)}),
-         {parserFailure("a.bc=1\n"), syntaxErrors(1)}},
-        {"a = [1 2]\n",
-         document({pair(bare("a"), array({one}))}),
-         {parserFailure("a=[12]\n"), syntaxErrors(1)}},
-        {"a = {x = 1\n",
-         document({pair(bare("a"), inlineTable({pair(bare("x"), one)}))}),
-         {parserFailure("a={x=1\n"), syntaxErrors(1)}},
-        {"a = {x = 1\n}\n",
-         document({pair(bare("a"), inlineTable({pair(bare("x"), one)}))}),
-         {parserFailure("a={x=1\n}\n"), syntaxErrors(1)}},
-        {"a. = 1\n",
-         document({pair(dottedA, one)}),
-         {parserFailure("a.=1\n"), treeFailure(), syntaxErrors(2)}},
-        {"[a.]\n",
-         document({table(dottedA)}),
-         {parserFailure("[a.]\n"), treeFailure(), syntaxErrors(2)}},
+    const Events holdingX = pair(bare("a"), inlineTable({pair(bare("x"), one)}));
+    expectRepaired({
+        {"[[a]\n", arrayTable(bare("a")), "[[a]\n"},
+        {"a.b c = 1\n", pair(dotted({bare("a"), bare("b")}), one), "a.bc=1\n"},
+        {"a = [1 2]\n", pair(bare("a"), array({one})), "a=[12]\n"},
+        {"a = {x = 1\n", holdingX, "a={x=1\n"},
+        {"a = {x = 1\n}\n", holdingX, "a={x=1\n}\n"},
+    });
+    expectRepairedInTheTree({
+        {"a. = 1\n", pair(dottedA, one), "a.=1\n"},
+        {"[a.]\n", table(dottedA), "[a.]\n"},
     });
 }
 
@@ -161,47 +170,34 @@ TEST(TomlRejected, arraysNeedAnElementBetweenCommas)
         {"a = [,1]\n", concatenated({pairWithoutValue, {"beginArray"}}), "a=[,1]\n"},
         {"a = [1\n", pairWithoutValue, "a=[1\n"},
     });
-    for (const std::string text : {"a=[]\n", "a=[b]\n"})
-    {
-        expectRejected({{text,
-                         document({pair(bare("a"), array({}))}),
-                         {parserFailure(text), treeFailure(), syntaxErrors(2)}}});
-    }
-    expectRejected({{"a = [ ]\n",
-                     document({pair(bare("a"), array({}))}),
-                     {parserFailure("a=[]\n"), treeFailure(), syntaxErrors(2)}}});
+    const Events aIsEmpty = pair(bare("a"), array({}));
+    expectRepairedInTheTree({
+        {"a=[]\n", aIsEmpty, "a=[]\n"},
+        {"a=[b]\n", aIsEmpty, "a=[b]\n"},
+        {"a = [ ]\n", aIsEmpty, "a=[]\n"},
+    });
     expectUnreadable({{"a = [1,,2]\n", "a=[1,,2]\n"}});
 }
 
 TEST(TomlRejected, arraysMayNotBreakLinesElsewhere)
 {
     const Messages noteFailures(2, parserFailure("a=[1,\n\n2]\n"));
-    expectRejected({
-        {"a = [\n 1\n]\n",
-         brokenOff({pairWithoutValue}),
-         {parserFailure("a=[\n1\n]\n"), walkFailure()}},
-        {"a = [\n 1,\n 2,\n]\n",
-         document({pair(bare("a"), array({one, two}))}),
-         {parserFailure("a=[\n1,\n2,\n]\n"), treeFailure(), syntaxErrors(2)}},
-        {"a = [1,\n  # note\n  2]\n",
-         document({pair(bare("a"), array({one}))}),
-         {noteFailures[0], noteFailures[1], treeFailure(), syntaxErrors(3)}},
-    });
+    expectBrokenOff({{"a = [\n 1\n]\n", pairWithoutValue, "a=[\n1\n]\n"}});
+    expectRepairedInTheTree(
+        {{"a = [\n 1,\n 2,\n]\n", pair(bare("a"), array({one, two})), "a=[\n1,\n2,\n]\n"}});
+    expectRejected({{"a = [1,\n  # note\n  2]\n",
+                     document({pair(bare("a"), array({one}))}),
+                     {noteFailures[0], noteFailures[1], treeFailure(), syntaxErrors(3)}}});
 }
 
 TEST(TomlRejected, inlineTablesHoldPairsOnOneLineWithoutATrailingComma)
 {
-    const auto holding = [](const Events& pairs)
-    { return document({pair(bare("a"), inlineTable({pairs}))}); };
-    expectRejected({
-        {"a = {}\n", holding({}), {parserFailure("a={}\n"), treeFailure(), syntaxErrors(2)}},
-        {"a = {x}\n", holding({}), {parserFailure("a={x}\n"), treeFailure(), syntaxErrors(2)}},
-        {"a = {\nx = 1}\n",
-         holding({}),
-         {parserFailure("a={\nx=1}\n"), treeFailure(), syntaxErrors(2)}},
-        {"a = {x = 1,}\n",
-         holding(pair(bare("x"), one)),
-         {parserFailure("a={x=1,}\n"), treeFailure(), syntaxErrors(2)}},
+    const auto holding = [](const Events& pairs) { return pair(bare("a"), inlineTable({pairs})); };
+    expectRepairedInTheTree({
+        {"a = {}\n", holding({}), "a={}\n"},
+        {"a = {x}\n", holding({}), "a={x}\n"},
+        {"a = {\nx = 1}\n", holding({}), "a={\nx=1}\n"},
+        {"a = {x = 1,}\n", holding(pair(bare("x"), one)), "a={x=1,}\n"},
     });
     expectBrokenOff({{"a = {[x] = 1}\n",
                       concatenated({pairWithoutValue, {"beginInlineTable", "beginKeyValue"}}),

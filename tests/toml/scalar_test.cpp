@@ -38,29 +38,12 @@ void expectScalars(const std::string& operation, const std::vector<std::string>&
 
 TEST(TomlScalars, integers)
 {
-    expectScalars("visitInteger", {"0",
-                                   "+0",
-                                   "-0",
-                                   "7",
-                                   "+7",
-                                   "-17",
-                                   "42",
-                                   "1_000",
-                                   "5_349_221",
-                                   "1979",
-                                   "123456789012345678901234567890",
-                                   "0x0",
-                                   "0x1F",
-                                   "0xdead_beef",
-                                   "0xDEADBEEF",
-                                   "0x00ff",
-                                   "0o0",
-                                   "0o7",
-                                   "0o755",
-                                   "0o0_1",
-                                   "0b0",
-                                   "0b1",
-                                   "0b1101_0101"});
+    expectScalars("visitInteger", {// Decimal.
+                                   "0", "+0", "-0", "7", "+7", "-17", "42", "1_000", "5_349_221",
+                                   "1979", "123456789012345678901234567890",
+                                   // With a prefix.
+                                   "0x0", "0x1F", "0xdead_beef", "0xDEADBEEF", "0x00ff", "0o0",
+                                   "0o7", "0o755", "0o0_1", "0b0", "0b1", "0b1101_0101"});
 }
 
 TEST(TomlScalars, floats)

@@ -37,6 +37,14 @@ void expectSeconds(const std::vector<Case>& cases)
     }
 }
 
+void expectEach(long long seconds, const std::vector<std::string>& texts)
+{
+    for (const std::string& text : texts)
+    {
+        test::expectSeconds(text, seconds);
+    }
+}
+
 } // namespace
 
 TEST_F(TomlUtilsDateTime, theExamplesOfTheHeader)
@@ -102,28 +110,15 @@ TEST_F(TomlUtilsDateTime, aDateAndTimeHasNoCharacterLessAndNoOtherCharacter)
 
 TEST_F(TomlUtilsDateTime, textsWithoutADateAndATimeYieldZero)
 {
-    for (const char* text : {
-             "",
-             " ",
-             "T",
-             "1979-05-27",
-             "07:32:00",
-             "00:32:00.999999",
-             "1979-05-27T",
-             "1979-05-27T07:32",
-             "1979-05-27T07:32Z",
-             "1979-05-27T07:32:0Z",
-             "1979-05-27t07:32:00Z",
-             "1979-05-27t00:32:00.999999+07:00",
-             "1979-05-27 T07:32:00",
-             "1979-05-27  07:32:00",
-             "1979-05-27\n07:32:00",
-             "1979-5-27T07:32:00Z",
-             "19790527T073200Z",
-             "27.05.1979 07:32:00",
-             "true",
-             "\xc3\xa9\xff",
-         })
+    for (const char* text : {"", " ", "T", "true", "\xc3\xa9\xff"})
+    {
+        expectNoDateTime(text);
+    }
+    for (const char* text :
+         {"1979-05-27", "07:32:00", "00:32:00.999999", "1979-05-27T", "1979-05-27T07:32",
+          "1979-05-27T07:32Z", "1979-05-27T07:32:0Z", "1979-05-27t07:32:00Z",
+          "1979-05-27t00:32:00.999999+07:00", "1979-05-27 T07:32:00", "1979-05-27  07:32:00",
+          "1979-05-27\n07:32:00", "1979-5-27T07:32:00Z", "19790527T073200Z", "27.05.1979 07:32:00"})
     {
         expectNoDateTime(text);
     }
@@ -181,21 +176,13 @@ TEST_F(TomlUtilsDateTime, whatStandsBehindIsLeftOut)
 // date and the time.
 TEST_F(TomlUtilsDateTime, behindOtherCharactersOnlyWhatFitsIsRead)
 {
-    expectSeconds({
-        // Blanks before a year are passed over, but the eleventh character is a digit then.
-        {" 1979-05-27T07:32:00", midnight},
-        {"\n\t1979-05-27 07:32:00Z", midnight},
-        {"          1979-05-27T07:32:00", midnight},
-        // Nothing fits.
-        {"x1979-05-27T07:32:00Z", nothingRead},
-        {"+1979-05-27T07:32:00-07:00", nothingRead},
-        {"\"1979-05-27T07:32:00\"", nothingRead},
-        {"01979-05-27T07:32:00", nothingRead},
-        {"11979-05-27T07:32:00Z", nothingRead},
-        {"\xff\xff 1979-05-27T07:32:00", nothingRead},
-        {"date-time: 1979-05-27T07:32:00", nothingRead},
-        {"1979-05-xx 2001-02-03T04:05:06Z", nothingRead},
-    });
+    // Blanks before a year are passed over, but the eleventh character is a digit then.
+    expectEach(midnight, {" 1979-05-27T07:32:00", "\n\t1979-05-27 07:32:00Z",
+                          "          1979-05-27T07:32:00"});
+    expectEach(nothingRead,
+               {"x1979-05-27T07:32:00Z", "+1979-05-27T07:32:00-07:00", "\"1979-05-27T07:32:00\"",
+                "01979-05-27T07:32:00", "11979-05-27T07:32:00Z", "\xff\xff 1979-05-27T07:32:00",
+                "date-time: 1979-05-27T07:32:00", "1979-05-xx 2001-02-03T04:05:06Z"});
 }
 
 TEST_F(TomlUtilsDateTime, theEleventhCharacterSeparatesWhateverItIs)
@@ -255,22 +242,16 @@ TEST_F(TomlUtilsDateTime, otherFieldsOutOfRangeEndTheReading)
 {
     for (const std::string& rest : {"Z"s, "-07:00"s, ""s})
     {
+        // Without a date the day is the one before the first of 1900.
+        expectEach(nothingRead, {"1979-00-27T07:32:00" + rest, "1979-13-27T07:32:00" + rest,
+                                 "1979-99-27T07:32:00" + rest, "1979-05-00T07:32:00" + rest,
+                                 "1979-05-32T07:32:00" + rest, "1979-05-39T07:32:00" + rest,
+                                 "1979-13-45T25:61:61" + rest});
+        expectEach(midnight, {"1979-05-27T24:32:00" + rest, "1979-05-27T25:32:00" + rest,
+                              "1979-05-27T99:32:00" + rest, "1979-05-27T07:60:00" + rest,
+                              "1979-05-27T07:99:00" + rest, "1979-05-27T07:32:62" + rest,
+                              "1979-05-27T07:32:69" + rest});
         expectSeconds({
-            // Without a date the day is the one before the first of 1900.
-            {"1979-00-27T07:32:00" + rest, nothingRead},
-            {"1979-13-27T07:32:00" + rest, nothingRead},
-            {"1979-99-27T07:32:00" + rest, nothingRead},
-            {"1979-05-00T07:32:00" + rest, nothingRead},
-            {"1979-05-32T07:32:00" + rest, nothingRead},
-            {"1979-05-39T07:32:00" + rest, nothingRead},
-            {"1979-13-45T25:61:61" + rest, nothingRead},
-            {"1979-05-27T24:32:00" + rest, midnight},
-            {"1979-05-27T25:32:00" + rest, midnight},
-            {"1979-05-27T99:32:00" + rest, midnight},
-            {"1979-05-27T07:60:00" + rest, midnight},
-            {"1979-05-27T07:99:00" + rest, midnight},
-            {"1979-05-27T07:32:62" + rest, midnight},
-            {"1979-05-27T07:32:69" + rest, midnight},
             // Where two digits can only be too many, the first alone is the field's.
             {"1979-05-40T07:32:00" + rest, 294624000}, // 1979-05-04 00:00:00
             {"1979-05-99T07:32:00" + rest, 295056000}, // 1979-05-09 00:00:00

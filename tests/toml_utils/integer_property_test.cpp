@@ -123,41 +123,13 @@ std::string integerToken(TextGenerator& generator)
 
 std::string integerText(TextGenerator& generator)
 {
-    static const std::vector<std::string> pieces = {"0x",
-                                                    "0o",
-                                                    "0b",
-                                                    "0b",
-                                                    "0",
-                                                    "1",
-                                                    "1",
-                                                    "7",
-                                                    "8",
-                                                    "9",
-                                                    "a",
-                                                    "F",
-                                                    "_",
-                                                    "-",
-                                                    "+",
-                                                    " ",
-                                                    "\n",
-                                                    ".",
-                                                    "e",
-                                                    "x",
-                                                    "X",
-                                                    "o",
-                                                    "b",
-                                                    ",",
-                                                    "\v",
-                                                    "\0"s,
-                                                    "000",
-                                                    "g",
-                                                    "O",
-                                                    "00000000000000000000000000000000",
-                                                    "11",
-                                                    "101",
-                                                    "922337203685477580",
-                                                    "7ffffffffffffff",
-                                                    "77777777777777777777"};
+    static const std::vector<std::string> pieces = {
+        // Parts of prefixes, digits, and what may be beside them.
+        "0x", "0o", "0b", "0b", "0", "1", "1", "7", "8", "9", "a", "F", "_", "-", "+", " ", "\n",
+        ".", "e", "x", "X", "o", "b", ",", "\v", "\0"s, "000", "g", "O",
+        // Many digits.
+        "00000000000000000000000000000000", "11", "101", "922337203685477580", "7ffffffffffffff",
+        "77777777777777777777"};
     return generator.chance() ? integerToken(generator) : generator.mixture(pieces, 8);
 }
 

@@ -36,12 +36,17 @@ void expectIntegers(const std::vector<IntegerCase>& cases)
     }
 }
 
-void expectZero(const std::vector<std::string>& texts)
+void expectEach(long long value, const std::vector<std::string>& texts)
 {
     for (const std::string& text : texts)
     {
-        expectIntegers({{text, 0}});
+        expectIntegers({{text, value}});
     }
+}
+
+void expectZero(const std::vector<std::string>& texts)
+{
+    expectEach(0, texts);
 }
 
 // Each text is refused with exactly this exception, and nothing is logged.
@@ -168,32 +173,19 @@ TEST(ParseInteger, dropsUnderscoresAnywhere)
 
 TEST(ParseInteger, beyondTheRangeIsTheNearestInteger)
 {
-    expectIntegers({{"9223372036854775806", largest - 1},
-                    {"9223372036854775807", largest},
-                    {"+9223372036854775807", largest},
-                    {"9223372036854775808", largest},
-                    {"18446744073709551615", largest},
-                    {"18446744073709551616", largest},
-                    {"123456789012345678901234567890", largest},
-                    {"9223372036854775808x", largest},
-                    {"-9223372036854775807", smallest + 1},
-                    {"-9223372036854775808", smallest},
-                    {"-9223372036854775809", smallest},
-                    {"-123456789012345678901234567890", smallest},
-                    {"0x7ffffffffffffffe", largest - 1},
-                    {"0x7fffffffffffffff", largest},
-                    {"0x8000000000000000", largest},
-                    {"0xffffffffffffffff", largest},
-                    {"0x10000000000000000", largest},
-                    {"0o777777777777777777776", largest - 1},
-                    {"0o777777777777777777777", largest},
-                    {"0o1000000000000000000000", largest},
-                    {"0o1777777777777777777777", largest},
-                    {"0o-1000000000000000000000", smallest},
-                    {"0o-1000000000000000000001", smallest},
-                    {std::string(10'000, '9'), largest},
-                    {"0x" + std::string(10'000, 'f'), largest},
-                    {"0o" + std::string(10'000, '7'), largest}});
+    expectEach(largest - 1,
+               {"9223372036854775806", "0x7ffffffffffffffe", "0o777777777777777777776"});
+    expectEach(largest,
+               {"9223372036854775807", "+9223372036854775807", "9223372036854775808",
+                "18446744073709551615", "18446744073709551616", "123456789012345678901234567890",
+                "9223372036854775808x", "0x7fffffffffffffff", "0x8000000000000000",
+                "0xffffffffffffffff", "0x10000000000000000", "0o777777777777777777777",
+                "0o1000000000000000000000", "0o1777777777777777777777", std::string(10'000, '9'),
+                "0x" + std::string(10'000, 'f'), "0o" + std::string(10'000, '7')});
+    expectEach(smallest + 1, {"-9223372036854775807"});
+    expectEach(smallest,
+               {"-9223372036854775808", "-9223372036854775809", "-123456789012345678901234567890",
+                "0o-1000000000000000000000", "0o-1000000000000000000001"});
 }
 
 TEST(ParseInteger, stopsAtTheFirstCharacterThatDoesNotBelongToTheNumber)

@@ -47,12 +47,17 @@ void expectFloats(const std::vector<FloatCase>& cases)
     }
 }
 
-void expectZero(const std::vector<std::string>& texts)
+void expectEach(double value, const std::vector<std::string>& texts)
 {
     for (const std::string& text : texts)
     {
-        expectFloats({{text, 0.0}});
+        expectFloats({{text, value}});
     }
+}
+
+void expectZero(const std::vector<std::string>& texts)
+{
+    expectEach(0.0, texts);
 }
 
 } // namespace
@@ -149,23 +154,14 @@ TEST(ParseFloat, ofInfinityAndNotANumberIsZero)
 TEST(ParseFloat, beyondTheRangeIsTheLargestFiniteFloat)
 {
     const double largest = Limits::max();
-    expectFloats({{"1.7976931348623157e308", largest},
-                  {"-1.7976931348623157e308", -largest},
-                  {"1.7976931348623158e308", largest},
-                  {"1.7976931348623159e308", largest},
-                  {"-1.7976931348623159e308", -largest},
-                  {"1e309", largest},
-                  {"1e400", largest},
-                  {"+1e400", largest},
-                  {"-1e400", -largest},
-                  {"1e99999999999999999999", largest},
-                  {"-1e+99999999999999999999", -largest},
-                  {"1e" + std::string(1000, '9'), largest},
-                  {std::string(400, '9'), largest},
-                  {"-" + std::string(400, '9') + ".0", -largest},
-                  {"0.001e400x", largest},
-                  {"1.7976931348623156e308", 1.7976931348623156e308},
-                  {std::string(400, '9') + "e-400", 1.0}});
+    expectEach(largest,
+               {"1.7976931348623157e308", "1.7976931348623158e308", "1.7976931348623159e308",
+                "1e309", "1e400", "+1e400", "1e99999999999999999999", "1e" + std::string(1000, '9'),
+                std::string(400, '9'), "0.001e400x"});
+    expectEach(-largest, {"-1.7976931348623157e308", "-1.7976931348623159e308", "-1e400",
+                          "-1e+99999999999999999999", "-" + std::string(400, '9') + ".0"});
+    expectEach(1.7976931348623156e308, {"1.7976931348623156e308"});
+    expectEach(1.0, {std::string(400, '9') + "e-400"});
 }
 
 TEST(ParseFloat, belowTheRangeIsSubnormalOrZero)

@@ -54,6 +54,14 @@ void expectUndelimited(const std::vector<DelimitedCase>& cases)
     }
 }
 
+void expectKept(const std::string& delimiter, const std::vector<std::string>& texts)
+{
+    for (const std::string& text : texts)
+    {
+        expectUndelimited({{text, delimiter, text}});
+    }
+}
+
 } // namespace
 
 TEST(Unquote, takesAndReturnsStringsByValue)
@@ -165,36 +173,19 @@ TEST(UnquoteDelimiter, isTakenOffBothEnds)
 
 TEST(UnquoteDelimiter, staysWhereItStandsAtOneEndOnlyOrAtNone)
 {
-    for (const auto& [text, delimiter] : std::vector<std::pair<std::string, std::string>>{
-             {"--x-", "--"},
-             {"-x--", "--"},
-             {"--x", "--"},
-             {"x--", "--"},
-             {"x--y", "--"},
-             {"x", "--"},
-             {"--x-- ", "--"},
-             {" --x--", "--"},
-             {"'''x\"\"\"", "'''"},
-             {"'''x'''", "\"\"\""},
-             {"aba", "ab"},
-             {"<x>", "<>"},
-             {"AxA", "a"},
-             {"", "a"},
-         })
-    {
-        expectUndelimited({{text, delimiter, text}});
-    }
+    expectKept("--", {"--x-", "-x--", "--x", "x--", "x--y", "x", "--x-- ", " --x--"});
+    expectKept("'''", {"'''x\"\"\""});
+    expectKept("\"\"\"", {"'''x'''"});
+    expectKept("ab", {"aba"});
+    expectKept("<>", {"<x>"});
+    expectKept("a", {"AxA", ""});
 }
 
 TEST(UnquoteDelimiter, longerThanTheTextIsNotInIt)
 {
-    expectUndelimited({
-        {"", "'''", ""},
-        {"'", "'''", "'"},
-        {"''", "'''", "''"},
-        {"ab", "abc", "ab"},
-        {"x", std::string(1000, 'x'), "x"},
-    });
+    expectKept("'''", {"", "'", "''"});
+    expectKept("abc", {"ab"});
+    expectKept(std::string(1000, 'x'), {"x"});
 }
 
 TEST(UnquoteDelimiter, thatIsTheWholeTextLeavesNothing)
@@ -235,7 +226,7 @@ TEST(UnquoteDelimiter, ofThreeQuotesInARowOfQuotes)
 
 TEST(UnquoteDelimiter, thatIsEmptyChangesNothing)
 {
-    expectUndelimited({{"", "", ""}, {"a", "", "a"}, {"'a'", "", "'a'"}, {"\0a"s, "", "\0a"s}});
+    expectKept("", {"", "a", "'a'", "\0a"s});
 }
 
 TEST(UnquoteDelimiter, mayHoldNulBytes)

@@ -22,11 +22,15 @@ enum Status
     unreadable = 3
 };
 
+inline Words joined(Words words, const Words& more)
+{
+    words.insert(words.end(), more.begin(), more.end());
+    return words;
+}
+
 inline ProgramRun runTool(const Words& arguments, const std::string& input = "")
 {
-    Words words = {VORN_TOML};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    return runProgram(words, input);
+    return runProgram(joined({VORN_TOML}, arguments), input);
 }
 
 inline void expectRun(const ProgramRun& run, int status, const std::string& output,

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -32,22 +31,12 @@ std::vector<std::string> writesOf(const Words& arguments)
     {
         throw std::runtime_error("a pipe of packets cannot be made");
     }
-    Words words = {VORN_TOML};
-    words.insert(words.end(), arguments.begin(), arguments.end());
-    std::vector<char*> pointers;
-    for (std::string& word : words)
+    const auto redirect = [&pipe](posix_spawn_file_actions_t* streams)
     {
-        pointers.push_back(word.data());
-    }
-    pointers.push_back(nullptr);
-    posix_spawn_file_actions_t streams;
-    posix_spawn_file_actions_init(&streams);
-    posix_spawn_file_actions_addopen(&streams, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_adddup2(&streams, pipe[1], STDERR_FILENO);
-    pid_t child = -1;
-    const int failure =
-        posix_spawn(&child, pointers[0], &streams, nullptr, pointers.data(), environ);
-    posix_spawn_file_actions_destroy(&streams);
+        posix_spawn_file_actions_addopen(streams, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+        posix_spawn_file_actions_adddup2(streams, pipe[1], STDERR_FILENO);
+    };
+    const pid_t child = test::startProgram(test::joined({VORN_TOML}, arguments), redirect);
     close(pipe[1]);
     std::vector<std::string> writes;
     std::array<char, 8192> packet = {};
@@ -56,7 +45,7 @@ std::vector<std::string> writesOf(const Words& arguments)
         writes.emplace_back(packet.data(), static_cast<std::size_t>(size));
     }
     close(pipe[0]);
-    if (failure != 0 || waitpid(child, nullptr, 0) != child)
+    if (waitpid(child, nullptr, 0) != child)
     {
         throw std::runtime_error("the tool cannot be run");
     }

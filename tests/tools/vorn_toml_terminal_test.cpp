@@ -20,10 +20,8 @@ class VornTomlTerminal : public testing::Test
 protected:
     bool hasColours(const std::vector<std::string>& options) const
     {
-        std::vector<std::string> words = {VORN_TOML, "check"};
-        words.insert(words.end(), options.begin(), options.end());
-        words.push_back(bad_);
-        const test::TerminalRun run = test::runOnTerminal(words);
+        const test::TerminalRun run =
+            test::runOnTerminal(test::joined(test::joined({VORN_TOML, "check"}, options), {bad_}));
         EXPECT_EQ(run.status, test::rejected);
         EXPECT_NE(run.terminal.find("the array is empty"), std::string::npos) << run.terminal;
         return run.terminal.find(escape) != std::string::npos;

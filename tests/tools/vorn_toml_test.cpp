@@ -15,6 +15,7 @@ namespace
 
 using test::accepted;
 using test::expectRun;
+using test::joined;
 using test::rejected;
 using test::runTool;
 using test::unreadable;
@@ -61,9 +62,7 @@ TEST(VornTomlEvents, PrintsTheDocumentsInTheOrderOfTheArguments)
     for (const Case& c : cases)
     {
         SCOPED_TRACE(testing::PrintToString(c.files));
-        Words arguments = {"events"};
-        arguments.insert(arguments.end(), c.files.begin(), c.files.end());
-        expectRun(runTool(arguments, input), accepted, c.output, "");
+        expectRun(runTool(joined({"events"}, c.files), input), accepted, c.output, "");
     }
 }
 
@@ -164,9 +163,7 @@ TEST(VornTomlCheck, PrintsOneLineADocument)
     for (const Case& c : cases)
     {
         SCOPED_TRACE(testing::PrintToString(c.files) + " with " + c.input);
-        Words arguments = {"check"};
-        arguments.insert(arguments.end(), c.files.begin(), c.files.end());
-        const test::ProgramRun run = runTool(arguments, c.input);
+        const test::ProgramRun run = runTool(joined({"check"}, c.files), c.input);
         EXPECT_EQ(run.status, c.status);
         EXPECT_EQ(run.standardOutput, c.output);
         EXPECT_EQ(run.standardError.empty(), c.status == accepted) << run.standardError;
@@ -227,8 +224,7 @@ TEST(VornToml, EndsWithTheWorstStatus)
     {
         for (const Case& c : cases)
         {
-            Words arguments = {command};
-            arguments.insert(arguments.end(), c.files.begin(), c.files.end());
+            const Words arguments = joined({command}, c.files);
             EXPECT_EQ(runTool(arguments).status, c.status) << testing::PrintToString(arguments);
         }
     }
