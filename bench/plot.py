@@ -12,7 +12,7 @@ import pathlib
 import matplotlib
 
 matplotlib.use("svg")
-import matplotlib.pyplot as plot  # noqa: E402 (behind the choice of the backend)
+import matplotlib.pyplot as plot  # noqa: E402 (after the choice of the backend)
 
 BEGIN = "<!-- Written by bench/plot.py from here -->\n"
 END = "<!-- to here -->\n"

@@ -138,7 +138,7 @@ std::string DocumentGenerator::array(std::size_t depth)
     const std::size_t more = random_.below(5);
     for (std::size_t index = 0; index < more; ++index)
     {
-        // Two may stand behind an element that is not the first.
+        // Two may stand after an element that is not the first.
         text += breaks(index > 0 ? 2 * one : one) + ',';
         text += breaks(one) + value(depth);
     }

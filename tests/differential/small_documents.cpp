@@ -35,7 +35,7 @@ void print(const Figures& figures)
     std::fflush(stdout);
 }
 
-// The next document of the same length in the order of the bytes behind the first; false
+// The next document of the same length in the order of the bytes after the first; false
 // where there is none, and all of them are zero again.
 bool advance(std::string& document)
 {

@@ -130,7 +130,7 @@ std::string TokenGenerator::contentItem(char quote, bool lines)
     }
     if (lines && random_.oneIn(4))
     {
-        // One or two quotes, and content behind them.
+        // One or two quotes, and content after them.
         return std::string(random_.between(1, 2), quote) + 'x';
     }
     if (random_.oneIn(12))

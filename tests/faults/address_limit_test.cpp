@@ -37,9 +37,9 @@ std::vector<std::size_t> limits()
 }
 
 std::string ofSize(std::size_t size, const std::string& before, const std::string& part,
-                   const std::string& behind)
+                   const std::string& after)
 {
-    return test::enclosed(before, part, size / part.size() + 1, behind);
+    return test::enclosed(before, part, size / part.size() + 1, after);
 }
 
 std::string allMistakes(std::size_t size)

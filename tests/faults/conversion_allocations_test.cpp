@@ -25,7 +25,7 @@ namespace
 const std::string longText(100, 'x');
 const std::string quotes = "\"\"\"";
 
-// A conversion that answers whether its value is the right one.  The texts do not fit where
+// A conversion that returns whether its value is the right one.  The texts do not fit where
 // strings keep short ones.
 struct Conversion
 {
@@ -143,7 +143,7 @@ int expectWord(IsRight isRight, Check check)
         for (long number = 1;; ++number)
         {
             SCOPED_TRACE("request " + std::to_string(number) +
-                         (failing == Failing::once ? "" : " and all behind it"));
+                         (failing == Failing::once ? "" : " and all after it"));
             const Outcome outcome = convert(isRight, number, failing);
             if (!outcome.hasFailed)
             {
@@ -231,7 +231,7 @@ TEST_F(ConversionAllocations, ofTheDateTimeFormsLeaveThemToTheNextUse)
     {
         SCOPED_TRACE(number);
         const Outcome outcome = convert(isRead, number, Failing::once);
-        // Forms that have been made stay; what fails then is something behind them.
+        // Forms that have been made stay; what fails then is something after them.
         if (!outcome.hasThrown || outcome.blocks != 0)
         {
             break;

@@ -7,7 +7,7 @@ namespace test
 enum class Failing
 {
     once,      // one request
-    fromThere, // that request and all behind it
+    fromThere, // that request and all after it
 };
 
 // Requests for memory are counted while this lives, and the one with this number fails; with

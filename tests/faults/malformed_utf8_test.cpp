@@ -214,7 +214,7 @@ TEST(MalformedUtf8, cutOffByTheEndOfTheDocumentIsNotRead)
     }
 }
 
-// Such bytes take those behind them, whatever they are.
+// Such bytes take those after them, whatever they are.
 TEST(MalformedUtf8, takesTheBytesThatFollow)
 {
     expectAccepted("a = 'x\xc3\n'\n", document({pairA(scalar("visitLiteralString", "'x\xc3\n'"))}));

@@ -43,7 +43,7 @@ struct Outcome
     std::vector<std::string> formats; // of the log lines
     int streams = 0;
     long blocks = 0; // that were not given back
-    int file = -1;   // the lowest descriptor that is free behind it
+    int file = -1;   // the lowest descriptor that is free after it
 };
 
 template <typename Source>
@@ -127,7 +127,7 @@ void expectWord(const Source& source, bool accepted, Check check)
         for (long number = 1;; ++number)
         {
             SCOPED_TRACE("request " + std::to_string(number) +
-                         (failing == Failing::once ? "" : " and all behind it"));
+                         (failing == Failing::once ? "" : " and all after it"));
             const Outcome outcome = read(source, number, failing);
             EXPECT_EQ(outcome.blocks, 0);
             EXPECT_EQ(outcome.file, whole.file);

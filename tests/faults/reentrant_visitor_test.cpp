@@ -30,7 +30,7 @@ const std::vector<std::string> documents = {
     "h = '" + std::string(3000, 'x') + "'\nh = {}",
 };
 
-// A recorder whose observer may read other documents: a text must still be there behind it.
+// A recorder whose observer may read other documents: a text must still be there after it.
 class LastingTexts : public EventRecorder
 {
 private:

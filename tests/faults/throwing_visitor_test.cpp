@@ -30,7 +30,7 @@ struct Outcome
     std::size_t thrownAt = 0; // 0: nowhere
     Events events;
     std::vector<std::string> formats; // of the log lines
-    int file = -1;                    // the lowest descriptor that is free behind it
+    int file = -1;                    // the lowest descriptor that is free after it
 };
 
 // Reads with a visitor that throws at a call; with 0, at none.

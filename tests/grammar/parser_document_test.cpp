@@ -8,7 +8,7 @@ using namespace test;
 namespace
 {
 
-// A document of one header, with and without a line break behind it.
+// A document of one header, with and without a line break after it.
 void expectHeaders(const std::vector<AcceptedDocument>& headers)
 {
     for (const AcceptedDocument& header : headers)

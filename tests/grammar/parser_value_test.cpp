@@ -16,7 +16,7 @@ std::string pairOf(const std::string& key, const std::string& value)
     return "KEYVAL(" + key + ", " + value + ")";
 }
 
-// The value of `a = value`, alone on its line and with blanks and a comment behind it.
+// The value of `a = value`, alone on its line and with blanks and a comment after it.
 void expectValues(const std::vector<AcceptedDocument>& values)
 {
     for (const AcceptedDocument& value : values)

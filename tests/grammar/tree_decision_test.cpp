@@ -189,7 +189,7 @@ const std::vector<RootCase> roots = {
      inlineTable({pair(bare("a"), array({}))})},
 };
 
-// Runs the rule behind the first `skipped` nodes of the trees.
+// Runs the rule after the first `skipped` nodes of the trees.
 void expectRoot(const RootCase& one, const std::string& trees, int skipped, const Events& events,
                 const ErrorKinds& errors, bool goesOn)
 {

@@ -1,9 +1,9 @@
 // Trees with one node too many or too few that the runtime repairs.
 //
-// The runtime's match takes out a node when the one behind it is the one that is due, and
+// The runtime's match takes out a node when the one after it is the one that is due, and
 // takes a line break as missing when the node that stands there may follow it.  It reports
 // that and clears the recogniser's error, so the rules, which look at the error after the
-// match, go on: the walk answers true, and only the error count tells that the tree was wrong.
+// match, go on: the walk returns true, and only the error count tells that the tree was wrong.
 #include <gtest/gtest.h>
 
 #include "support/event_lists.h"

@@ -119,7 +119,7 @@ TEST(TreeTextRules, keysHandOverTheTextOfTheWrongNodeOrOfAMissingToken)
     }
 }
 
-// The node that stands there is then the marker behind the children, which the runtime does
+// The node that stands there is then the marker after the children, which the runtime does
 // not borrow.
 TEST(TreeTextRules, noTokenAtAllHandsOverTheTextOfTheMarker)
 {
@@ -171,7 +171,7 @@ TEST(TreeTextRules, nodesBehindTheWrongOneAreSkippedByRulesOfSeveralTokens)
                       {"mismatched set"});
 }
 
-// The runtime takes out the wrong node when the token is right behind it; the text is still
+// The runtime takes out the wrong node when the token is right after it; the text is still
 // that of the node at which the rule began.
 TEST(TreeTextRules, aNodeBeforeTheTokenIsTakenOutByRulesOfOneToken)
 {

@@ -19,7 +19,7 @@ rejected
 same
 0
 """
-# What is logged: by the stand-in behind "error vorn_parsers ...: ".
+# What is logged: by the stand-in after "error vorn_parsers ...: ".
 MESSAGES = ["Failed to visit toml tree", "No such file: /no/such.toml"]
 
 

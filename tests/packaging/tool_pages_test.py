@@ -61,7 +61,7 @@ def check_page_examples(page, tool, directory):
 
 
 def completions(script, directory, *words):
-    """What bash offers behind `vorn-toml WORDS...`, of which the last is to be completed."""
+    """What bash offers after `vorn-toml WORDS...`, of which the last is to be completed."""
     commands = (
         f"source {shlex.quote(script)}; COMP_WORDS=(vorn-toml {shlex.join(words)});"
         f" COMP_CWORD={len(words)}; _vorn_toml; printf '%s\\n' \"${{COMPREPLY[@]}}\""
@@ -90,7 +90,7 @@ def check_completion(script, tool, directory):
     for name in names:
         offered = completions(script, directory, name, "-")
         if missing := options_of(tool, name) - offered:
-            raise Failure(f"behind {name} {offered} are offered, without {missing}")
+            raise Failure(f"after {name} {offered} are offered, without {missing}")
 
 
 def main():

@@ -45,7 +45,7 @@ enum class Call
 
 Call failing = Call::none;
 
-// What a function answers while a call of it fails.
+// What a function returns while a call of it fails.
 template <typename Function>
 auto resultWithout(Call call, Function function)
 {

@@ -58,7 +58,7 @@ void limitMemory(std::size_t further)
     }
 }
 
-// Ends a process of its own: 0 if the two answers are right under a limit.
+// Ends a process of its own: 0 if both results are right under a limit.
 [[noreturn]] void askWithLimit(std::size_t further, std::size_t little, std::size_t much)
 {
     limitMemory(further);

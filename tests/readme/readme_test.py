@@ -1,6 +1,6 @@
 """Checks that pages are true: runs what they show and compares the output.
 
-A fenced block of `console` holds command lines behind "$ ", each followed by what it
+A fenced block of `console` holds command lines after "$ ", each followed by what it
 prints, on standard output and standard error alike.  A fenced block of `cpp` that has
 an `int main` is a program; the next block of `text` is what it prints on standard output.
 Other blocks are passed over.

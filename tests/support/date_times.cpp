@@ -13,7 +13,7 @@ namespace test
 namespace
 {
 
-// What mktime() answers.
+// What mktime() returns.
 std::time_t asTime(long long seconds)
 {
     const auto time = static_cast<std::time_t>(seconds);

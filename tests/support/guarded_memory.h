@@ -1,4 +1,4 @@
-// Memory for texts that nothing may be read behind.
+// Memory for texts that nothing may be read after.
 #pragma once
 
 #include <sys/mman.h>

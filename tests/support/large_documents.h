@@ -17,13 +17,13 @@ inline void append(std::string& text, const std::string& part, std::size_t count
 }
 
 inline std::string enclosed(const std::string& before, const std::string& repeated,
-                            std::size_t count, const std::string& behind)
+                            std::size_t count, const std::string& after)
 {
     std::string text;
-    text.reserve(before.size() + repeated.size() * count + behind.size());
+    text.reserve(before.size() + repeated.size() * count + after.size());
     text += before;
     append(text, repeated, count);
-    text += behind;
+    text += after;
     return text;
 }
 

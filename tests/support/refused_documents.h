@@ -15,10 +15,10 @@ struct RefusedDocuments
 };
 
 inline const std::vector<RefusedDocuments> refusedDocuments = {
-    {"no line break behind a pair or a header",
+    {"no line break after a pair or a header",
      {"a = 1", "a = 1 ", "a = 1 # c", "[t]", "[[t]]", "[t] # c", "a = 1\nb = 2", "a = [1]",
       "a = {b = 1}", "a = 1\n[t]", "a = 'x'"}},
-    {"something behind a pair or a header on its line",
+    {"something after a pair or a header on its line",
      {"a = 1 b = 2\n", "a = 1 2\n", "a = 1,\n", "a = 1]\n", "a = 1}\n", "a = 'x' 'y'\n",
       "a = [1] 2\n", "a = {b = 1} c\n", "[a] b = 1\n", "[a] [b]\n", "[a]]\n", "[[a]]]\n", "[a].b\n",
       "a = 1 = 2\n", "a = 1979-05-27 x\n"}},

@@ -32,7 +32,7 @@ public:
 
     std::string path(const std::string& name) const { return (path_ / name).string(); }
 
-    // Writes a file, and answers with its path.
+    // Writes a file, and returns its path.
     std::string write(const std::string& name, const std::string& content) const
     {
         std::ofstream file(path(name), std::ios::binary);

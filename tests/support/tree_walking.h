@@ -45,7 +45,7 @@ struct ReportedCase
 void expectReported(const std::vector<ReportedCase>& cases);
 
 // Expects the calls, the errors and true for the tree as the value of a pair, with and
-// without a pair behind it.
+// without a pair after it.
 void expectReportedValue(const std::string& value, const Events& events, const ErrorKinds& errors);
 
 // The same for the tree as the key of a pair and of both kinds of headers, and as the

@@ -159,7 +159,7 @@ TEST(TomlDepth, aroundTheLimitOfAStackIsOneOrTheOther)
     }
 }
 
-// The parser goes on behind these errors and nests, where the brackets seem to match.
+// The parser goes on after these errors and nests, where the brackets seem to match.
 TEST(TomlDepth, behindErrorsEndsTheReadingToo)
 {
     for (const std::string line : {"[1\n],", "[},", "[[1\n],", "{a=[1\n],", "[}, [},"})

@@ -1,4 +1,4 @@
-// Documents with errors of the lexer: what was matched is logged with the byte behind it.
+// Documents with errors of the lexer: what was matched is logged with the byte after it.
 #include <gtest/gtest.h>
 
 #include "support/event_lists.h"

@@ -19,9 +19,9 @@ constexpr std::size_t kilobyte = 1024;
 constexpr std::size_t megabyte = 1024 * kilobyte;
 
 std::string ofSize(std::size_t size, const std::string& before, const std::string& part,
-                   const std::string& behind)
+                   const std::string& after)
 {
-    return test::enclosed(before, part, size / part.size(), behind);
+    return test::enclosed(before, part, size / part.size(), after);
 }
 
 // Documents of about this size, each of which is refused.

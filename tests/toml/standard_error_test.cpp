@@ -1,5 +1,5 @@
 // What a rejected document leaves on standard error with the platform's own logger: the
-// runtime's report of an error, and behind it the log line.
+// runtime's report of an error, and after it the log line.
 #include <gtest/gtest.h>
 
 #include <vorn/parsers/toml.h>

@@ -52,7 +52,7 @@ const std::vector<Document>& documents()
     return table;
 }
 
-// Reads each document in turn, beginning with the one at `first`; answers with the number
+// Reads each document in turn, starting with the one at `first`; returns the number
 // of readings that went wrong.
 int readAll(std::size_t first, int rounds)
 {

@@ -63,7 +63,7 @@ void expectPassed(const Source& source, int expectedLines)
         SCOPED_TRACE(line);
         const Outcome outcome = read(source, line);
         EXPECT_EQ(outcome.thrownAt, line);
-        EXPECT_EQ(outcome.lines, line); // nothing is logged behind it
+        EXPECT_EQ(outcome.lines, line); // nothing is logged after it
         EXPECT_LE(outcome.calls, quiet.calls);
     }
 }

@@ -1,4 +1,4 @@
-// Date-times are read as local time, with daylight saving time behind a zone letter only.
+// Date-times are read as local time, with daylight saving time after a zone letter only.
 //
 // The seconds were worked out by date(1), for example:
 //   TZ=Europe/Berlin date -d "2024-07-15 12:00:00" +%s   # with daylight saving time
@@ -28,7 +28,7 @@ struct LocalTime
     long long otherwise;
 };
 
-// Expects the standard time of all forms without a zone letter right behind the seconds.
+// Expects the standard time of all forms without a zone letter right after the seconds.
 void expectStandardTime(const std::string& dateAndTime, long long seconds)
 {
     for (const std::string& rest :
@@ -169,10 +169,10 @@ TEST(TomlUtilsDateTimeZones, zoneLettersAreUpperCaseAndNotJ)
     for (int code = 1; code <= 255; ++code)
     {
         const bool isLetter = code >= 'A' && code <= 'Z' && code != 'J';
-        const std::string behind(1, static_cast<char>(code));
-        expectSeconds("2024-07-15T12:00:00" + behind, isLetter ? daylightSaving : standard);
-        expectSeconds("2024-07-15T12:00:00.5" + behind, standard);
-        expectSeconds("2024-07-15T12:00:00 " + behind, standard);
+        const std::string after(1, static_cast<char>(code));
+        expectSeconds("2024-07-15T12:00:00" + after, isLetter ? daylightSaving : standard);
+        expectSeconds("2024-07-15T12:00:00.5" + after, standard);
+        expectSeconds("2024-07-15T12:00:00 " + after, standard);
     }
 }
 

@@ -199,7 +199,7 @@ TEST(MultilineBasicString, takesAnEscapedBackslashBeforeALineFeedForALineEndingO
         {"a\\\\\\\n  b", "a\\\\b"},
         {"a\\\\\n", "a\\"},
         {"\\\\\n\\\\\n", "\\\\"},
-        {"a\\\n\\\\\n b", "a\\b"}, // the second of the two is not first behind the removal
+        {"a\\\n\\\\\n b", "a\\b"}, // the second of the two is not first after the removal
         {"a\\\\\n\\n", "a\\\\n"},
     });
 }

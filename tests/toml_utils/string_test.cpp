@@ -113,7 +113,7 @@ TEST(Unquote, leavesEscapesAsTheyAreWritten)
         {R"("\"")", R"(\")"},
         {R"("\\")", R"(\\)"},
         {R"("\u00e9\U0001F600")", R"(\u00e9\U0001F600)"},
-        {R"("a\")", R"(a\)"}, // the quote behind a backslash is an end like any other
+        {R"("a\")", R"(a\)"}, // the quote after a backslash is an end like any other
         {R"('\')", R"(\)"},
         {"\"a\\\n b\"", "a\\\n b"},
     });

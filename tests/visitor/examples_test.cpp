@@ -17,16 +17,16 @@ using namespace vorn::parsers::toml;
 namespace
 {
 
-// The lines of the header behind one up to another, which are comments, without their slashes.
-std::string headerComment(const std::string& before, const std::string& behind)
+// The lines of the header after one up to another, which are comments, without their slashes.
+std::string headerComment(const std::string& before, const std::string& after)
 {
     const std::string header = test::fileContent(VORN_HEADER);
     const auto line = header.find("\n// " + before);
     const auto begin = header.find('\n', line + 1);
-    const auto end = header.find("\n// " + behind, begin);
+    const auto end = header.find("\n// " + after, begin);
     if (line == std::string::npos || end == std::string::npos)
     {
-        return "no lines from " + before + " to " + behind;
+        return "no lines from " + before + " to " + after;
     }
     return std::regex_replace(header.substr(begin, end - begin), std::regex("\n//(   )?"), "\n");
 }
