@@ -15,7 +15,7 @@ struct Document
     std::string text;
 };
 
-// Each kind of document in each size.  All are right for every reader that is compared.
+// Each kind of document in each size.  All are valid for every reader that is compared.
 std::vector<Document> documents();
 
 } // namespace bench

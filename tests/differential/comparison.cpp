@@ -97,7 +97,7 @@ std::string describe(const Comparison& comparison)
     describeDifference(out, comparison.library, comparison.reference);
     out << "pipeline and reference differ in:";
     describeDifference(out, comparison.pipeline, comparison.reference);
-    out << (comparison.isDirectIfPlain() ? "" : "it is right, but not read directly\n");
+    out << (comparison.isDirectIfPlain() ? "" : "it is valid, but not read directly\n");
     out << "library\n";
     describeReading(out, comparison.library);
     out << "library, direct reader off\n";

@@ -20,7 +20,7 @@ struct Comparison
     // Whether they show the same.
     bool same() const;
 
-    // Whether the direct reader accepts what is right, unless it may be unsure of it.
+    // Whether the direct reader accepts what is valid, unless it may be unsure of it.
     bool isDirectIfPlain() const { return direct || !plain || !reference.accepted; }
 
     bool isWell() const { return same() && isDirectIfPlain(); }

@@ -11,7 +11,7 @@ namespace test
 
 // Makes documents at random: most follow the grammar, some of those are then damaged in
 // one or a few places, and a few documents are a mere mixture of tokens or characters.
-// About half of all are right.
+// About half of all are valid.
 class DocumentGenerator
 {
 public:

@@ -5,7 +5,7 @@ namespace test
 namespace
 {
 
-// Values that are nearly right, and the few that are right by a hair.
+// Values that are nearly valid, and the few that are valid by a hair.
 constexpr std::string_view mistakes[] = {
     // Numbers.
     ".5", "1.", "1.e5", "-1.x", "1e", "1e+", "1E-x", "1.5e", "1.5e+_1", "1_.5", "1__0", "1_", "_1",

@@ -132,7 +132,7 @@ def run_on(program, path):
 
 
 def fault_with_right(program, path):
-    """What is wrong with the run on a document that is right, or nothing."""
+    """What is wrong with the run on a valid document, or nothing."""
     status, output, error = run_on(program, path)
     if status != 0 or error:
         return f"status {status}\n{error}"
@@ -141,7 +141,7 @@ def fault_with_right(program, path):
 
 
 def fault_with_wrong(program, path):
-    """What is wrong with the run on a document that is not right, or nothing."""
+    """What is wrong with the run on an invalid document, or nothing."""
     with open(path, "rb") as document:
         try:
             tomllib.load(document)

@@ -1,4 +1,4 @@
-// Documents of any size that are right.
+// Valid documents of any size.
 #pragma once
 
 #include <cstddef>

@@ -92,7 +92,7 @@ inline const std::vector<RefusedDocuments> refusedDocuments = {
       "a = 1\n"}},
 };
 
-// Documents that are right as the runtime decodes them, but that hold bytes which the
+// Documents that are valid as the runtime decodes them, but that hold bytes which the
 // scanner leaves to the lexer: surrogates and characters that the end cuts off.
 inline const std::vector<std::string> unusualDocuments = {
     "# \xed\xa0\x80\n", "a = '\xed\xbf\xbf'\n", "\xef\xbb", "\xef",
