@@ -173,6 +173,19 @@ TEST_F(FileContent, isMissingWhereThereIsNoFile)
     EXPECT_EQ(fileContent("/"), std::nullopt); // opens, but cannot be read
 }
 
+// A program that is started meanwhile, on another thread, does not get the file.
+TEST_F(FileContent, isNotLeftToStartedPrograms)
+{
+    int flags = 0;
+    doRead = [&flags](int file, void* bytes, std::size_t most)
+    {
+        flags = fcntl(file, F_GETFD);
+        return __real_read(file, bytes, most);
+    };
+    EXPECT_EQ(fileContent(write("a = 1\n").c_str()), "a = 1\n");
+    EXPECT_EQ(flags, FD_CLOEXEC);
+}
+
 TEST_F(FileContent, leavesNoFileOpen)
 {
     const std::string path = write("a = 1\n");
