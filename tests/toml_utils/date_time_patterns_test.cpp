@@ -137,6 +137,7 @@ extern "C"
     int __real_regcomp(regex_t* regex, const char* pattern, int flags);
     int __wrap_regcomp(regex_t* regex, const char* pattern, int flags)
     {
+        EXPECT_EQ(flags, REG_EXTENDED | REG_NOSUB);
         const bool fails =
             std::count(failures.patterns.begin(), failures.patterns.end(), pattern) != 0;
         if (fails && !failures.leaveThePattern)
