@@ -38,12 +38,10 @@ bool isMainThread() noexcept
 // below the program's name, and may be as large as the limit of the process.
 std::size_t roomOfMainThread() noexcept
 {
+    // What is not known stays zero, and leaves no room.
     const auto end = static_cast<std::uintptr_t>(getauxval(AT_EXECFN));
     rlimit limit = {};
-    if (end < here() || getrlimit(RLIMIT_STACK, &limit) != 0)
-    {
-        return unknownRoom;
-    }
+    getrlimit(RLIMIT_STACK, &limit);
     const auto size = static_cast<std::size_t>(std::min<rlim_t>(limit.rlim_cur, maxRoom));
     const std::size_t used = end - here();
     return used < size ? size - used : unknownRoom;
