@@ -21,6 +21,7 @@ LEXER_RULES = "src/grammar/lexer/rules.h"
 EVENTS = "src/direct/event.h"
 VISITOR_CALLS = "src/direct/visitor_calls.h"
 DICTIONARY = "fuzz/toml.dict"
+GUIDE = "CONTRIBUTING.md"
 
 LITERAL = re.compile(r"'((?:\\.|[^'\\])+)'")
 RANGE = re.compile(r"{0}\s*\.\.\s*{0}".format(LITERAL.pattern))
@@ -151,6 +152,22 @@ def check_operations(sources):
                 yield f"{file}: {operation} is no operation of {HEADER}"
 
 
+def check_guide(sources):
+    """The list of places that follow a change names none that is gone."""
+    (section,) = re.findall(r"^## Changing the grammar$(.*?)^## ", sources.text(GUIDE),
+                            re.MULTILINE | re.DOTALL)
+    rows = re.findall(r"^\| (.*`.*?) \|", section, re.MULTILINE)
+    if not rows:
+        yield f"{GUIDE} lists no places"
+    for row in rows:
+        directory = ""
+        for place in re.findall(r"`([^`]+)`", row.split(" | ")[0]):
+            # Further names of a row are of the same directory, or of the root.
+            if not any([*sources.root.glob(place), *sources.root.glob(directory + place)]):
+                yield f"{GUIDE} names {place}, which is gone"
+            directory = place.rpartition("/")[0] + "/" if "/" in place else directory
+
+
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("root", type=Path)
@@ -164,6 +181,7 @@ def main():
         *check_dictionary(sources, rules),
         *check_nodes(sources, grammar, rules),
         *check_operations(sources),
+        *check_guide(sources),
     ]
     tokens = tokens_of(rules)
     print(f"{len(rules)} rules, {len(tokens)} tokens")

@@ -17,6 +17,7 @@ TOKEN_TYPES = "src/scan/token_type.h"
 EVENTS = "src/direct/event.h"
 HEADER = "include/vorn/parsers/toml.h"
 VISITOR_CALLS = "src/direct/visitor_calls.h"
+GUIDE = "CONTRIBUTING.md"
 options = argparse.Namespace()
 
 
@@ -33,6 +34,11 @@ class Language(unittest.TestCase):
         self.root = pathlib.Path(directory.name)
         for name in ("src", "include", "tools", "fuzz"):
             shutil.copytree(options.source / name, self.root / name)
+        # What the guide names beside these need only be there.
+        for name in ("tests", "docs", "bench", "examples"):
+            (self.root / name).symlink_to((options.source / name).resolve())
+        for page in options.source.glob("*.md"):
+            shutil.copy(page, self.root)
         self.vocabulary = self.root / "Toml.tokens"
         shutil.copy(options.vocabulary, self.vocabulary)
 
@@ -108,6 +114,13 @@ class Language(unittest.TestCase):
                     "    virtual void visitRange(const char* text) = 0;\n")
         self.expect(*(f"{file} has no visitRange, an operation of {HEADER}"
                       for file in (TREE_GRAMMAR, EVENTS, VISITOR_CALLS)))
+
+    def test_a_place_that_is_gone(self):
+        (self.root / "src/scan/escape.h").unlink()
+        self.change(GUIDE, "`src/direct/event.h`, `visitor_calls.h`",
+                    "`src/direct/event.h`, `calls.h`")
+        self.expect(f"{GUIDE} names src/scan/escape.h, which is gone",
+                    f"{GUIDE} names calls.h, which is gone")
 
     def test_another_event(self):
         self.change(EVENTS, "    visitFloat,\n", "    visitReal,\n")
