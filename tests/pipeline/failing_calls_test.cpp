@@ -194,6 +194,26 @@ TEST(FailingCalls, leaveTheRoomOfAStackUnknown)
         .join();
 }
 
+// What lies below it is another thread's, although the main thread's stack is around it.
+TEST(FailingCalls, leaveTheRoomOfAStackWithinTheMainThreadsUnknown)
+{
+    alignas(4096) char stack[256 * 1024];
+    std::size_t room = 0;
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    ASSERT_EQ(pthread_attr_setstack(&attributes, stack, sizeof(stack)), 0);
+    const auto measure = [](void* result) -> void*
+    {
+        *static_cast<std::size_t*>(result) = resultWithout(Call::threadAttributes, stackRoom);
+        return nullptr;
+    };
+    pthread_t thread = {};
+    ASSERT_EQ(pthread_create(&thread, &attributes, measure, &room), 0);
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+    EXPECT_EQ(room, unknownRoom);
+}
+
 // As where /proc is not mounted, and the C library finds no main thread's stack.
 TEST(FailingCalls, leaveTheLimitOfTheProcessToAMainThread)
 {
