@@ -7,6 +7,7 @@
 #include "commands.h"
 #include "each_file.h"
 #include "json_report.h"
+#include "shown_text.h"
 
 namespace tool
 {
@@ -28,12 +29,11 @@ Status checkFile(const std::string& name, Progress& progress, const Options& opt
     }
     if (options.json)
     {
-        reports.push_back(jsonReport(name, examination.status, text ? *text : std::string(),
-                                     examination.diagnosis));
+        reports.push_back(jsonReport(name, examination));
     }
     else if (text)
     {
-        explain(name, *text, examination.diagnosis, options);
+        explain(name, *text, examination, options);
         std::printf("%s: %s\n", printable(name).c_str(),
                     examination.status == accepted ? "accepted" : "rejected");
     }

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "utf8.h"
+#include "shown_text.h"
 
 namespace tool
 {

@@ -8,7 +8,6 @@
 #include "examination.h"
 #include "input.h"
 #include "text_report.h"
-#include "utf8.h"
 
 namespace tool
 {
@@ -27,10 +26,11 @@ Status eachFile(const Options& options, bool isShown, Look look)
 }
 
 // Explains on standard error what is wrong with a document.
-inline void explain(const std::string& name, const std::string& text, const Diagnosis& diagnosis,
-                    const Options& options)
+inline void explain(const std::string& name, const std::string& text,
+                    const Examination& examination, const Options& options)
 {
-    const std::string report = textReport(name, text, diagnosis, useColour(options.colour));
+    const std::string report =
+        textReport(name, text, examination.findings, useColour(options.colour));
     std::fputs(report.c_str(), stderr);
 }
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <utility>
 
-#include "utf8.h"
+#include "shown_text.h"
 
 namespace tool
 {

@@ -5,9 +5,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "source_lines.h"
-#include "text_report.h"
-
 namespace tool
 {
 namespace
@@ -20,15 +17,14 @@ const char* statusName(Status status)
     return status == accepted ? "accepted" : status == rejected ? "rejected" : "unreadable";
 }
 
-Json finding(const Finding& finding, const SourceLines& lines)
+Json json(const Finding& finding)
 {
-    const SourcePlace begin = lines.placeOf(finding.begin);
-    const SourcePlace end = lines.placeOf(finding.end);
     Json json = {{"severity", finding.severity == Severity::error ? "error" : "warning"},
-                 {"line", begin.line},
-                 {"column", begin.column},
-                 {"endLine", end.line},
-                 {"endColumn", end.column},
+                 {"line", finding.line},
+                 {"column", finding.column},
+                 {"endLine", finding.endLine},
+                 {"endColumn", finding.endColumn},
+                 {"code", finding.code},
                  {"message", finding.message}};
     if (!finding.hint.empty())
     {
@@ -39,23 +35,18 @@ Json finding(const Finding& finding, const SourceLines& lines)
 
 } // namespace
 
-Json jsonReport(const std::string& name, Status status, std::string_view text,
-                const Diagnosis& diagnosis)
+Json jsonReport(const std::string& name, const Examination& examination)
 {
-    const SourceLines lines(diagnosis.findings.empty() ? std::string_view() : text);
     Json findings = Json::array();
-    std::transform(diagnosis.findings.begin(), diagnosis.findings.end(),
-                   std::back_inserter(findings),
-                   [&lines](const Finding& one) { return finding(one, lines); });
-    Json json = {{"file", name},
-                 {"status", statusName(status)},
-                 {"errors", diagnosis.errors},
-                 {"findings", std::move(findings)}};
-    if (diagnosis.refusal != Refusal::none)
-    {
-        json["refusal"] = refusalMessage(diagnosis.refusal);
-    }
-    return json;
+    std::transform(examination.findings.begin(), examination.findings.end(),
+                   std::back_inserter(findings), json);
+    const auto errors =
+        std::count_if(examination.findings.begin(), examination.findings.end(),
+                      [](const Finding& one) { return one.severity == Severity::error; });
+    return {{"file", name},
+            {"status", statusName(examination.status)},
+            {"errors", errors},
+            {"findings", std::move(findings)}};
 }
 
 } // namespace tool

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "printed.h"
-#include "utf8.h"
+#include "shown_text.h"
 
 namespace tool
 {

@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "utf8.h"
+#include "shown_text.h"
 
 namespace tool
 {

@@ -1,18 +1,15 @@
 #pragma once
 
 #include <string>
-#include <string_view>
+#include <vector>
 
-#include "diagnosis.h"
+#include "examination.h"
 
 namespace tool
 {
 
 // The findings of a document as lines for a terminal: place, message, source, caret, hint.
-std::string textReport(const std::string& name, std::string_view text, const Diagnosis& diagnosis,
-                       bool colour);
-
-// Why a document has no diagnosis.
-std::string refusalMessage(Refusal refusal);
+std::string textReport(const std::string& name, const std::string& text,
+                       const std::vector<Finding>& findings, bool colour);
 
 } // namespace tool

@@ -4,15 +4,20 @@
 #include <vorn/parsers/toml.h>
 
 #include "commands.h"
+#include "diagnosis/characters.h"
+#include "diagnosis/source_lines.h"
+#include "diagnosis/token_reader.h"
+#include "diagnosis/token_words.h"
 #include "each_file.h"
 #include "printed.h"
-#include "source_lines.h"
-#include "token_words.h"
 
 namespace tool
 {
 namespace
 {
+
+using namespace vorn::parsers::toml::diagnosis;
+using vorn::parsers::toml::TokenType;
 
 void printLine(const SourcePlace& place, std::string_view kind, std::string_view text)
 {
@@ -55,27 +60,30 @@ private:
 };
 
 // Prints the tokens, and what is not a token between them.
-void list(const std::string& text, const Recognition& found)
+void list(const std::string& text)
 {
     Places places(text);
-    auto error = found.lexicalErrors.begin();
-    const auto printErrors = [&](std::size_t end)
+    TokenReader reader(text, 0);
+    std::size_t printed = 0;
+    const auto printErrors = [&]
     {
-        for (; error != found.lexicalErrors.end() && error->begin < end; ++error)
+        for (; printed < reader.errors().size(); ++printed)
         {
-            const std::size_t stop = std::clamp(error->resumed, error->begin, text.size());
-            printLine(places.placeOf(error->begin), "(no token)",
-                      std::string_view(text).substr(error->begin, stop - error->begin));
+            const LexicalError& error = reader.errors()[printed];
+            const std::size_t stop = std::clamp(error.resumed, error.begin, text.size());
+            printLine(places.placeOf(error.begin), "(no token)",
+                      std::string_view(text).substr(error.begin, stop - error.begin));
         }
     };
-    for (const DocumentToken& token : found.tokens)
+    DocumentToken token = reader.next();
+    for (; token.type != TokenType::endOfInput; token = reader.next())
     {
-        printErrors(token.begin);
+        printErrors();
         printLine(places.placeOf(token.begin), kindName(token.type),
                   std::string_view(text).substr(token.begin, token.end - token.begin));
     }
-    printErrors(text.size());
-    printLine(places.placeOf(found.end), "end of the file", "");
+    printErrors();
+    printLine(places.placeOf(token.begin), "end of the file", "");
 }
 
 Status listTokens(const std::string& name, Progress& progress, const Options& options)
@@ -88,13 +96,9 @@ Status listTokens(const std::string& name, Progress& progress, const Options& op
     progress.work(text->size());
     vorn::parsers::toml::TomlTreeVisitor visitor;
     const Examination examination = examine(*text, visitor);
-    const Recognition found = findTokens(*text);
     progress.clear();
-    if (found.refusal == Refusal::none)
-    {
-        list(*text, found);
-    }
-    explain(name, *text, examination.diagnosis, options);
+    list(*text);
+    explain(name, *text, examination, options);
     return examination.status;
 }
 

@@ -28,7 +28,7 @@ Status drawTree(const std::string& name, Progress& progress, const Options& opti
         examination = examine(*text, printer);
     }
     progress.clear();
-    explain(name, *text, examination.diagnosis, options);
+    explain(name, *text, examination, options);
     return examination.status;
 }
 

@@ -64,7 +64,7 @@ constexpr Event scalarEvent(TokenType type)
 
 // Follows the rules of documents token by token.  Each member stops before the first token
 // after what it has read; it returns false if it cannot read that.
-template <typename Sink>
+template <typename Sink, typename Cursor = TokenCursor>
 class Reader
 {
 public:
@@ -73,26 +73,46 @@ public:
         : tokens_(begin, end), nesting_(nesting), sink_(sink)
     {
     }
+    // With another cursor than that over a text.
+    Reader(Cursor tokens, NestingStack& nesting, Sink& sink)
+        : tokens_(tokens), nesting_(nesting), sink_(sink)
+    {
+    }
 
     // Reads all lines.
     bool lines()
     {
         while (!tokens_.atEnd())
         {
-            if (tokens_.takeNewline())
-            {
-                continue;
-            }
-            const bool read = tokens_.take('[') ? header() : pair();
-            // A line break must follow, also at the document's end.
-            if (!read || !tokens_.takeNewline())
+            if (!line())
             {
                 return false;
             }
-            sink_.lineEnd(tokens_.position());
         }
         return true;
     }
+
+    bool atEnd() const { return tokens_.atEnd(); }
+
+    // Reads a line, or empty ones.
+    bool line()
+    {
+        if (tokens_.takeNewline())
+        {
+            return true;
+        }
+        const bool read = tokens_.take('[') ? header() : pair();
+        // A line break must follow, also at the document's end.
+        if (!read || !tokens_.takeNewline())
+        {
+            return false;
+        }
+        sink_.lineEnd(tokens_.position());
+        return true;
+    }
+
+    // Before the next token.
+    const char* position() const { return tokens_.position(); }
 
 private:
     bool header()
@@ -272,7 +292,7 @@ private:
         return After::end;
     }
 
-    TokenCursor tokens_;
+    Cursor tokens_;
     NestingStack& nesting_;
     Sink& sink_;
 };

@@ -16,12 +16,12 @@ pANTLR3_UINT8 runtimeBytes(const char* text)
 
 } // namespace
 
-bool isStreamable(const std::string& text) noexcept
+bool isStreamable(std::string_view text) noexcept
 {
     return std::uint64_t{text.size()} <= std::numeric_limits<ANTLR3_UINT32>::max();
 }
 
-pANTLR3_INPUT_STREAM openStream(const std::string& text)
+pANTLR3_INPUT_STREAM openStream(std::string_view text)
 {
     return antlr3StringStreamNew(runtimeBytes(text.data()), ANTLR3_ENC_UTF8,
                                  static_cast<ANTLR3_UINT32>(text.size()), runtimeBytes("toml"));

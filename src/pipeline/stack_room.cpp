@@ -21,9 +21,6 @@ constexpr std::size_t unknownRoom = std::size_t{32} * 1024;
 // it; this much is free of them.
 constexpr std::size_t maxRoom = std::size_t{64} * 1024 * 1024;
 
-// A depth that fits any stack.
-constexpr unsigned safeLevels = 10;
-
 std::uintptr_t here() noexcept
 {
     return reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));

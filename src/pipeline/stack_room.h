@@ -10,6 +10,9 @@ namespace vorn::parsers::toml
 constexpr std::size_t minStackOfLevel = 64 * sizeof(void*);
 constexpr std::size_t maxStackOfLevel = 112 * sizeof(void*);
 
+// A depth that fits any stack.
+constexpr unsigned safeLevels = 10;
+
 // The bytes of stack that the calling thread has left; little where that is not known,
 // as on a stack that the thread was not started with.  Asking takes some time.
 std::size_t stackRoom() noexcept;

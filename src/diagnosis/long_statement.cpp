@@ -1,0 +1,70 @@
+#include "long_statement.h"
+
+#include "choice.h"
+#include "lexer_cursor.h"
+#include "lexical_words.h"
+#include "syntax_words.h"
+
+namespace vorn::parsers::toml::diagnosis
+{
+namespace
+{
+
+// What is around a token.
+Site siteOf(const DocumentToken& refused, std::string_view text, const DamagedPart& part)
+{
+    TokenReader reader(text.substr(0, part.part.end), part.part.begin);
+    Follower follower;
+    DocumentToken before = {TokenType::endOfInput, 0, 0};
+    DocumentToken token = reader.next();
+    bool hasStarted = false;
+    while (token.begin < refused.begin)
+    {
+        // (Empty lines before the statement.)
+        hasStarted = hasStarted || token.type != TokenType::newline;
+        if (hasStarted)
+        {
+            follower.take(token);
+        }
+        before = token;
+        token = reader.next();
+    }
+    const bool isLast = token.type == TokenType::endOfInput;
+    const DocumentToken after = isLast ? part.part.next : reader.next();
+    return {text,  before,           isLast ? part.part.next : token,
+            after, follower.place(), part.closesBrackets};
+}
+
+} // namespace
+
+std::optional<Mistake> firstMistake(std::string_view text, const DamagedPart& part)
+{
+    const std::string_view lines = text.substr(0, part.part.end);
+    const std::size_t size = 2 * (part.part.end - part.part.begin);
+    const Scratch<NestingStack::Word, 64> words(NestingStack::wordsFor(size));
+    if (words.begin() == nullptr)
+    {
+        throw std::bad_alloc();
+    }
+    NestingStack nesting(words.begin(), size);
+    NullSink sink;
+    LexerCursor cursor(lines, part.part.begin);
+    const bool isRead = Reader<NullSink, LexerCursor&>(cursor, nesting, sink).lines();
+    if (!cursor.errors().empty() &&
+        (isRead || cursor.errors().front().begin <= cursor.refused().begin))
+    {
+        return mistakeOf(cursor.errors().front(), text);
+    }
+    if (isRead)
+    {
+        return std::nullopt;
+    }
+    const Site site = siteOf(cursor.refused(), text, part);
+    if (site.place.due == Due::lineEnd && site.found.type == TokenType::endOfInput)
+    {
+        return missingLineBreak(site.found.begin);
+    }
+    return mistakeAt(site);
+}
+
+} // namespace vorn::parsers::toml::diagnosis
