@@ -63,7 +63,7 @@ private:
 void list(const std::string& text)
 {
     Places places(text);
-    TokenReader reader(text, 0);
+    TokenReader reader(text, 0, TokenReader::Errors::all);
     std::size_t printed = 0;
     const auto printErrors = [&]
     {

@@ -86,11 +86,27 @@ private:
         {
             return;
         }
+        const Site site = siteOf(index, statement);
+        if ((hasMistake_ || hasDamage_) && fits(site))
+        {
+            return;
+        }
         const bool isRepaired =
             (error.kind == ErrorKind::unwantedToken || error.kind == ErrorKind::missingToken) &&
             token.type != TokenType::newline;
         brokenStatement_ = isRepaired || isEmptyBrackets(index) ? brokenStatement_ : statement;
-        addMistake(mistakeAt(siteOf(index, statement)), token.begin);
+        addMistake(mistakeAt(site), token.begin);
+    }
+
+    // Whether the parser, after an error, is lost where nothing is wrong.
+    static bool fits(const Site& site)
+    {
+        const TokenType type = site.found.type;
+        const bool endsLine = type == TokenType::newline || type == TokenType::endOfInput;
+        const bool startsLine = type == TokenType::bareKey || type == TokenType::basicString ||
+                                type == TokenType::literalString || type == TokenType::openBracket;
+        return (site.place.due == Due::lineEnd && type == TokenType::newline) ||
+               (site.place.due == Due::statement && (endsLine || startsLine));
     }
 
     // The first token of the statement that the parser was in.

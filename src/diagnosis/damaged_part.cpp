@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "lexical_words.h"
+#include "lexical_error.h"
 #include "statements.h"
 #include "token_reader.h"
 
@@ -20,7 +20,7 @@ class Finder
 {
 public:
     Finder(std::string_view text, std::size_t begin, const ValidLines& lines)
-        : text_(text), lines_(lines), reader_(text, begin)
+        : text_(text), lines_(lines), reader_(text, begin, TokenReader::Errors::independent)
     {
         found_.part.begin = begin;
     }
@@ -39,6 +39,11 @@ public:
         found_.part.next = end_;
         found_.closesBrackets = brackets_.isEmpty();
         found_.hasUnclosedString = isLost_;
+        found_.isLast = true;
+        if (found_.part.end - found_.part.begin > tooMany && !found_.isLong)
+        {
+            isCut(tokens_.size());
+        }
         return found();
     }
 
@@ -96,11 +101,12 @@ private:
         }
         const auto change = brackets_.take(tokens_, at_);
         const std::size_t size = token.end - found_.part.begin;
-        if (!endsLine || !brackets_.isEmpty())
+        if (size > tooMany && !found_.isLong && isCut(at_))
         {
-            return size > tooMany && !found_.isLong && isCut();
+            return true;
         }
-        if (!found_.isLong && size < enough && !lines_.isNext(token.end))
+        const bool isEnough = found_.isLong || size >= enough;
+        if (!endsLine || !brackets_.isEmpty() || (!isEnough && !lines_.isNext(token.end)))
         {
             return false;
         }
@@ -109,22 +115,26 @@ private:
         return true;
     }
 
-    // Whether there are whole statements before the one at at_, which goes on and on.
-    bool isCut()
+    // Whether there are whole statements before the one of a token, which goes on and on.
+    bool isCut(std::size_t at)
     {
-        const std::size_t last = Statements(tokens_).last();
-        found_.isLong = last == 0;
-        if (last > 0)
+        const bool isBetween = at == tokens_.size() && brackets_.isEmpty() && !tokens_.empty() &&
+                               tokens_.back().type == TokenType::newline;
+        const std::size_t statement = isBetween ? at : Statements(tokens_).beginOf(at);
+        found_.isLong = statement == 0;
+        if (statement > 0)
         {
-            endAfter(last - 1);
+            endAfter(statement - 1);
         }
-        return last > 0;
+        return statement > 0;
     }
 
     void endAfter(std::size_t at)
     {
         found_.part.end = tokens_[at].end;
         found_.part.next = reach(at + 2) ? tokens_[at + 1] : end_;
+        found_.isLast = false;
+        found_.hasUnclosedString = false;
     }
 
     // A long statement's tokens are not kept.

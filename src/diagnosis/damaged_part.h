@@ -13,6 +13,7 @@ namespace vorn::parsers::toml::diagnosis
 struct DamagedPart
 {
     Part part;
+    bool isLast = false;            // nothing after it is read
     std::size_t levels = 0;         // of arrays and inline tables
     bool isLong = false;            // it is one statement, and too long for the recognisers
     bool closesBrackets = false;    // whether that closes all that it opens

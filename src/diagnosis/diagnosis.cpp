@@ -36,14 +36,15 @@ public:
         {
             return {tooLarge()};
         }
-        NullSink sink;
+        LineCount sink;
         std::size_t at = lines_.pass(byteOrderMarkLength(document_), sink);
         const bool isReadDirectly = at == document_.size();
         while (at < document_.size() && mistakes_.size() < max_)
         {
             const DamagedPart damaged = damagedPart(document_, at, lines_);
             examine(damaged);
-            at = isLast(damaged) ? document_.size() : lines_.pass(damaged.part.end, sink);
+            at = damaged.isLast ? document_.size() : lines_.pass(damaged.part.end, sink);
+            end_ = damaged.isLast && !damaged.hasUnclosedString ? damaged.part.next.begin : end_;
         }
         if (mistakes_.empty() && !isReadDirectly)
         {
@@ -70,17 +71,6 @@ private:
         {
             mistakes_.push_back(std::move(*mistake));
         }
-    }
-
-    // Whether there is nothing to read after the part.
-    bool isLast(const DamagedPart& damaged)
-    {
-        if (damaged.part.next.type != TokenType::endOfInput)
-        {
-            return false;
-        }
-        end_ = damaged.hasUnclosedString ? end_ : damaged.part.next.begin;
-        return true;
     }
 
     void addRefusal()

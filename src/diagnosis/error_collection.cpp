@@ -1,5 +1,9 @@
 #include "error_collection.h"
 
+#include <algorithm>
+#include <string_view>
+
+#include "lexical_error.h"
 #include "pipeline/error_display.h"
 
 namespace vorn::parsers::toml::diagnosis
@@ -34,6 +38,31 @@ ErrorKind kindOf(ANTLR3_UINT32 type)
     }
 }
 
+// Whether an error follows from the last one, to which it is then added: one on the same line
+// does, and everything after one in a string of several lines.
+bool isCovered(const LexicalError& error, LexicalErrors& collection)
+{
+    if (collection.found.empty())
+    {
+        return false;
+    }
+    const std::string_view text(static_cast<const char*>(collection.input.data),
+                                collection.input.sizeBuf);
+    LexicalError& last = collection.found.back();
+    if (isInLongString(last, text))
+    {
+        return true;
+    }
+    const std::size_t from = std::min(last.resumed, error.begin);
+    if (text.substr(from, error.begin - from).find('\n') != text.npos ||
+        isInLongString(error, text))
+    {
+        return false;
+    }
+    last.resumed = error.resumed;
+    return true;
+}
+
 void addLexicalError(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8*)
 {
     auto& collection = collectionOf<LexicalErrors>(recogniser);
@@ -43,10 +72,14 @@ void addLexicalError(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_UINT8*)
             const ANTLR3_EXCEPTION& error = *recogniser->state->exception;
             const auto next = reinterpret_cast<ANTLR3_MARKER>(collection.input.nextChar);
             // One more character is passed over after the display.
-            collection.found.push_back({kindOf(error.type), error.decisionNum,
+            const LexicalError found = {kindOf(error.type), error.decisionNum,
                                         collection.offset(recogniser->state->tokenStartCharIndex),
                                         collection.offset(error.index),
-                                        collection.offset(next) + 1});
+                                        collection.offset(next) + 1};
+            if (!collection.onlyIndependent || !isCovered(found, collection))
+            {
+                collection.found.push_back(found);
+            }
         });
     forgetEarlierErrors(recogniser);
 }

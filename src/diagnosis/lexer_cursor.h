@@ -13,7 +13,8 @@ namespace vorn::parsers::toml::diagnosis
 class LexerCursor
 {
 public:
-    LexerCursor(std::string_view text, std::size_t begin) : text_(text), reader_(text, begin)
+    LexerCursor(std::string_view text, std::size_t begin)
+        : text_(text), reader_(text, begin, TokenReader::Errors::independent)
     {
         next_ = reader_.next();
     }

@@ -225,12 +225,6 @@ Mistake inNumber(const LexicalError& error, std::string_view text)
 
 } // namespace
 
-bool isInLongString(const LexicalError& error, std::string_view text)
-{
-    const std::string_view quotes = text.substr(std::min(error.begin, text.size()), 3);
-    return (quotes == longQuotes[0] || quotes == longQuotes[1]) && error.at >= error.begin + 3;
-}
-
 Mistake mistakeOf(const LexicalError& error, std::string_view text)
 {
     if (!isAtEnd(error, text))

@@ -3,16 +3,12 @@
 
 #include <string_view>
 
+#include "lexical_error.h"
 #include "mistake.h"
-#include "recognition.h"
 
 namespace vorn::parsers::toml::diagnosis
 {
 
 Mistake mistakeOf(const LexicalError& error, std::string_view text);
-
-// Whether the error is in a multi-line string.  Then strings and the text between them are
-// swapped in the rest of the document.
-bool isInLongString(const LexicalError& error, std::string_view text);
 
 } // namespace vorn::parsers::toml::diagnosis

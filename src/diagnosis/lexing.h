@@ -26,9 +26,10 @@ Owned<Object> owned(Object* made)
 // The lexer of a document, from an offset on, whose errors are collected.
 struct Lexing
 {
-    Lexing(std::string_view text, std::size_t begin, std::vector<LexicalError>& errors)
+    Lexing(std::string_view text, std::size_t begin, std::vector<LexicalError>& errors,
+           bool onlyIndependent)
         : input(owned(openStream(text))),
-          lexer(owned(TomlLexerNew(input.get()))), collection{errors, *input, {}}
+          lexer(owned(TomlLexerNew(input.get()))), collection{errors, *input, onlyIndependent, {}}
     {
         // (Only at its very beginning does a document have a byte order mark.)
         if (begin > 0)

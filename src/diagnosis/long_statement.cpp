@@ -13,7 +13,8 @@ namespace
 // What is around a token.
 Site siteOf(const DocumentToken& refused, std::string_view text, const DamagedPart& part)
 {
-    TokenReader reader(text.substr(0, part.part.end), part.part.begin);
+    TokenReader reader(text.substr(0, part.part.end), part.part.begin,
+                       TokenReader::Errors::independent);
     Follower follower;
     DocumentToken before = {TokenType::endOfInput, 0, 0};
     DocumentToken token = reader.next();
@@ -47,9 +48,9 @@ std::optional<Mistake> firstMistake(std::string_view text, const DamagedPart& pa
         throw std::bad_alloc();
     }
     NestingStack nesting(words.begin(), size);
-    NullSink sink;
+    LineCount sink;
     LexerCursor cursor(lines, part.part.begin);
-    const bool isRead = Reader<NullSink, LexerCursor&>(cursor, nesting, sink).lines();
+    const bool isRead = Reader<LineCount, LexerCursor&>(cursor, nesting, sink).lines();
     if (!cursor.errors().empty() &&
         (isRead || cursor.errors().front().begin <= cursor.refused().begin))
     {

@@ -51,10 +51,11 @@ Place Follower::place() const
 {
     Place place;
     place.due = due_;
-    place.isOpen = !enclosing_.empty();
+    place.isOpen = !openings_.empty();
     if (place.isOpen)
     {
-        place.opening = enclosing_.back();
+        place.opening = {isInTable() ? TokenType::openBrace : TokenType::openBracket,
+                         openings_.back(), std::size_t{openings_.back()} + 1};
         place.isInTable = isInTable();
     }
     place.breaks = breaks_;
@@ -86,7 +87,7 @@ void Follower::takeAfterKey(TokenType type)
     {
         due_ = Due::value;
     }
-    else if (!enclosing_.empty() && type == TokenType::closeBrace)
+    else if (!openings_.empty() && type == TokenType::closeBrace)
     {
         leave();
     }
@@ -101,11 +102,11 @@ void Follower::takeValue(const DocumentToken& token)
     switch (token.type)
     {
     case TokenType::openBracket:
-        enclosing_.push_back(token);
+        enter(token);
         due_ = Due::firstElement;
         break;
     case TokenType::openBrace:
-        enclosing_.push_back(token);
+        enter(token);
         due_ = Due::firstPair;
         break;
     case TokenType::closeBracket:
@@ -150,12 +151,12 @@ void Follower::takeInTable(TokenType type)
 
 Due Follower::afterComma() const
 {
-    return enclosing_.empty() ? Due::lineEnd : isInTable() ? Due::pair : Due::element;
+    return openings_.empty() ? Due::lineEnd : isInTable() ? Due::pair : Due::element;
 }
 
 void Follower::endValue()
 {
-    if (enclosing_.empty())
+    if (openings_.empty())
     {
         due_ = Due::lineEnd;
         return;
@@ -163,11 +164,18 @@ void Follower::endValue()
     due_ = isInTable() ? Due::tableEnd : Due::arrayEnd;
 }
 
+void Follower::enter(const DocumentToken& bracket)
+{
+    openings_.push_back(static_cast<std::uint32_t>(bracket.begin));
+    braces_.push_back(bracket.type == TokenType::openBrace);
+}
+
 void Follower::leave()
 {
-    if (!enclosing_.empty())
+    if (!openings_.empty())
     {
-        enclosing_.pop_back();
+        openings_.pop_back();
+        braces_.pop_back();
     }
     endValue();
 }

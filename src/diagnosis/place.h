@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 #include "document_token.h"
@@ -53,12 +54,16 @@ private:
     void takeAfterValue(TokenType type);
     void takeInTable(TokenType type);
     Due afterComma() const;
-    bool isInTable() const { return enclosing_.back().type == TokenType::openBrace; }
+    bool isInTable() const { return braces_.back(); }
     void endValue();
+    void enter(const DocumentToken& bracket);
     void leave();
 
     Due due_ = Due::statement;
-    std::vector<DocumentToken> enclosing_; // the brackets of open arrays and inline tables
+    // The brackets of open arrays and inline tables: in little room, as there may be as many as
+    // bytes.
+    std::vector<std::uint32_t> openings_;
+    std::vector<bool> braces_;
     unsigned breaks_ = 0;
     DocumentToken newline_ = {};
     bool isOfArray_ = false;

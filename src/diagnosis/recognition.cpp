@@ -80,7 +80,7 @@ Recognition recognise(std::string_view text, const Part& part)
     Recognition found;
     found.part = part;
     requireMemory(memoryForSurvey(part.end - part.begin));
-    Lexing lexing(text.substr(0, part.end), part.begin, found.lexicalErrors);
+    Lexing lexing(text.substr(0, part.end), part.begin, found.lexicalErrors, false);
     requireMemoryFor(part, lexing.lexer->pLexer);
     const auto tokens = owned(antlr3CommonTokenStreamSourceNew(
         tokenBufferHint, lexing.lexer->pLexer->rec->state->tokSource));

@@ -6,31 +6,10 @@
 #include <vector>
 
 #include "document_token.h"
+#include "lexical_error.h"
 
 namespace vorn::parsers::toml::diagnosis
 {
-
-// The runtime's kinds of exceptions.
-enum class ErrorKind
-{
-    recognition, // of a lexer: another character was due; of a parser: not repaired
-    noAlternative,
-    mismatchedSet,
-    earlyExit,
-    unwantedToken,
-    missingToken,
-    other,
-};
-
-// Where the lexer could not make a token.
-struct LexicalError
-{
-    ErrorKind kind;
-    unsigned decision;   // the number of the choice that failed, of an error of that kind
-    std::size_t begin;   // of the token
-    std::size_t at;      // the character that does not fit
-    std::size_t resumed; // after the characters that were passed over
-};
 
 // Where the parser could not go on.
 struct SyntaxError

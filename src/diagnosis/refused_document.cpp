@@ -24,7 +24,7 @@ struct Deepest
 
 Deepest deepestIn(const std::string& text)
 {
-    TokenReader reader(text, 0);
+    TokenReader reader(text, 0, TokenReader::Errors::independent);
     std::vector<DocumentToken> tokens(1);
     OpenBrackets brackets;
     Deepest deepest;

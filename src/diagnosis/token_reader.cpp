@@ -10,8 +10,8 @@ struct TokenReader::Running
     Lexing lexing;
 };
 
-TokenReader::TokenReader(std::string_view text, std::size_t begin)
-    : running_(new Running{Lexing(text, begin, errors_)})
+TokenReader::TokenReader(std::string_view text, std::size_t begin, Errors errors)
+    : running_(new Running{Lexing(text, begin, errors_, errors == Errors::independent)})
 {
 }
 

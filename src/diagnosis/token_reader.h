@@ -15,8 +15,15 @@ namespace vorn::parsers::toml::diagnosis
 class TokenReader
 {
 public:
+    // Which errors are kept: a document may have as many as bytes.
+    enum class Errors
+    {
+        all,
+        independent, // none that follows from an earlier one
+    };
+
     // From an offset on, which is that of a token.
-    TokenReader(std::string_view text, std::size_t begin);
+    TokenReader(std::string_view text, std::size_t begin, Errors errors);
     TokenReader(const TokenReader&) = delete;
     TokenReader& operator=(const TokenReader&) = delete;
     ~TokenReader();

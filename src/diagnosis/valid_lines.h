@@ -12,13 +12,18 @@
 namespace vorn::parsers::toml::diagnosis
 {
 
-// A sink that needs nothing.
-class NullSink : public PlainSink<NullSink>
+// A sink that only counts pairs and headers.
+class LineCount : public PlainSink<LineCount>
 {
 public:
     void event(Event) noexcept {}
     void text(Event, std::string_view) noexcept {}
-    void lineEnd(const char*) noexcept {}
+    void lineEnd(const char*) noexcept { ++lines_; }
+
+    std::size_t lines() const noexcept { return lines_; }
+
+private:
+    std::size_t lines_ = 0;
 };
 
 // Goes over valid lines of a document.
@@ -54,13 +59,20 @@ public:
         return text_.size();
     }
 
-    // Whether a valid pair or header starts there, or the document ends.
+    // Whether a valid pair or header comes next, or the document's end.
     bool isNext(std::size_t from) const
     {
         NestingStack nesting(words_.begin(), text_.size());
-        NullSink sink;
-        Reader reader(text_.data() + from, end(), nesting, sink);
-        return reader.atEnd() || reader.line();
+        LineCount count;
+        Reader reader(text_.data() + from, end(), nesting, count);
+        while (!reader.atEnd() && count.lines() == 0)
+        {
+            if (!reader.line())
+            {
+                return false;
+            }
+        }
+        return true;
     }
 
 private:

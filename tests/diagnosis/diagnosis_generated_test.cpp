@@ -33,6 +33,7 @@ struct Tally
 {
     std::size_t accepted = 0;
     std::size_t rejected = 0;
+    std::size_t different = 0; // from what is found in the whole document
     std::set<ErrorKind> lexicalKinds;
     std::set<ErrorKind> syntaxKinds;
 };
@@ -63,7 +64,7 @@ void expectLogged(const diagnosis::Recognition& found, const test::Reading& read
 // The reader of tokens has those that the parser gets.
 void expectSameTokens(const std::string& text, const diagnosis::Recognition& found)
 {
-    diagnosis::TokenReader reader(text, 0);
+    diagnosis::TokenReader reader(text, 0, diagnosis::TokenReader::Errors::all);
     for (const diagnosis::DocumentToken& token : found.tokens)
     {
         const diagnosis::DocumentToken read = reader.next();
@@ -102,28 +103,22 @@ void expectShowable(const std::string& text, const std::vector<toml::Finding>& f
     }
 }
 
-std::string listed(const std::vector<std::pair<std::size_t, std::string>>& mistakes)
-{
-    std::string text;
-    for (const auto& [place, message] : mistakes)
-    {
-        text += std::to_string(place) + ' ' + message + '\n';
-    }
-    return text;
-}
+using Places = std::vector<std::pair<std::size_t, std::string>>;
 
-// Statement by statement, what is found is what the recognisers find in the whole document.
-void expectOfWhole(const std::string& text, const std::vector<toml::Finding>& findings,
-                   const diagnosis::Recognition& found)
+// Statement by statement, the same is found as in the whole document.  (Not always: a parser that
+// was lost takes up the whole document in another state than a single statement, and may tell
+// more, or less, of what follows from its first mistake.)
+void compareWithWhole(const std::string& text, const std::vector<toml::Finding>& findings,
+                      const diagnosis::Recognition& found, Tally& tally)
 {
     std::vector<diagnosis::Mistake> mistakes;
     diagnosis::addMistakes(text, found, mistakes);
-    std::vector<std::pair<std::size_t, std::string>> ofWhole;
-    std::vector<std::pair<std::size_t, std::string>> ofParts;
+    Places ofWhole;
     for (const diagnosis::Mistake& mistake : mistakes)
     {
         ofWhole.emplace_back(mistake.begin, mistake.message);
     }
+    Places ofParts;
     for (const toml::Finding& finding : findings)
     {
         if (finding.severity == toml::Severity::error)
@@ -131,7 +126,12 @@ void expectOfWhole(const std::string& text, const std::vector<toml::Finding>& fi
             ofParts.emplace_back(finding.begin, finding.message);
         }
     }
-    EXPECT_EQ(listed(ofParts), listed(ofWhole));
+    ASSERT_EQ(ofParts.empty(), ofWhole.empty());
+    if (!ofParts.empty())
+    {
+        EXPECT_EQ(ofParts[0], ofWhole[0]);
+        tally.different += ofParts == ofWhole ? 0 : 1;
+    }
 }
 
 void expectDiagnosed(const std::string& text, Tally& tally)
@@ -149,7 +149,7 @@ void expectDiagnosed(const std::string& text, Tally& tally)
     expectLogged(found, reading, tally);
     expectSameTokens(text, found);
     expectShowable(text, findings);
-    expectOfWhole(text, findings, found);
+    compareWithWhole(text, findings, found, tally);
 }
 
 // Such a number of documents holds every kind of error.
@@ -183,6 +183,7 @@ TEST(DiagnosisOfGeneratedDocuments, findsErrorsInThoseThatAreRejected)
     }
     EXPECT_GT(tally.accepted, count / 4);
     EXPECT_GT(tally.rejected, count / 4);
+    EXPECT_LT(tally.different, count / 300);
     // A shortened run does not meet the rare ones.
     if (VORN_TEST_STEP == 1)
     {
