@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "lexical_error.h"
+#include "pipeline/stack_room.h"
 #include "statements.h"
 #include "token_reader.h"
 
@@ -31,7 +32,7 @@ public:
         {
             if (endsPart())
             {
-                return found();
+                return found_;
             }
             forget();
         }
@@ -44,16 +45,10 @@ public:
         {
             isCut(tokens_.size());
         }
-        return found();
-    }
-
-private:
-    DamagedPart found()
-    {
-        found_.levels = brackets_.depth();
         return found_;
     }
 
+private:
     // Reads tokens until there are so many.  Returns false if the document ends before, or
     // means nothing any more.
     bool reach(std::size_t count)
@@ -101,7 +96,7 @@ private:
         }
         const auto change = brackets_.take(tokens_, at_);
         const std::size_t size = token.end - found_.part.begin;
-        if (size > tooMany && !found_.isLong && isCut(at_))
+        if (!found_.isLong && (size > tooMany || isTooDeep()) && isCut(at_))
         {
             return true;
         }
@@ -113,6 +108,16 @@ private:
         found_.closesBrackets = change != OpenBrackets::Change::abandoned;
         endAfter(at_);
         return true;
+    }
+
+    bool isTooDeep()
+    {
+        // Asking for the room takes some time.
+        if (brackets_.depth() > safeLevels && maxLevels_ == 0)
+        {
+            maxLevels_ = maxLevels();
+        }
+        return brackets_.depth() > std::max<std::size_t>(safeLevels, maxLevels_);
     }
 
     // Whether there are whole statements before the one of a token, which goes on and on.
@@ -158,6 +163,7 @@ private:
     std::size_t at_ = 0;
     std::size_t checked_ = 0; // of the reader's errors
     OpenBrackets brackets_;
+    unsigned maxLevels_ = 0; // 0: not known yet
     DamagedPart found_;
 };
 

@@ -14,8 +14,7 @@ struct DamagedPart
 {
     Part part;
     bool isLast = false;            // nothing after it is read
-    std::size_t levels = 0;         // of arrays and inline tables
-    bool isLong = false;            // it is one statement, and too long for the recognisers
+    bool isLong = false;            // one statement, too long or too deep for the recognisers
     bool closesBrackets = false;    // whether that closes all that it opens
     bool hasUnclosedString = false; // of several lines: what follows means nothing
 };

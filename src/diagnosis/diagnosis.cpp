@@ -8,7 +8,6 @@
 #include "damaged_part.h"
 #include "long_statement.h"
 #include "pipeline/input_stream.h"
-#include "pipeline/stack_room.h"
 #include "places.h"
 #include "refused_document.h"
 #include "scan/utf8.h"
@@ -36,7 +35,7 @@ public:
         {
             return {tooLarge()};
         }
-        LineCount sink;
+        LastLine sink;
         std::size_t at = lines_.pass(byteOrderMarkLength(document_), sink);
         const bool isReadDirectly = at == document_.size();
         while (at < document_.size() && mistakes_.size() < max_)
@@ -57,8 +56,7 @@ public:
 private:
     void examine(const DamagedPart& damaged)
     {
-        const auto levels = static_cast<unsigned>(damaged.levels);
-        if (!damaged.isLong && mayHaveRoomForLevels(levels))
+        if (!damaged.isLong)
         {
             const Recognition found = recognise(document_, damaged.part);
             if (!found.isTooDeep)

@@ -21,12 +21,7 @@ public:
 
     bool atEnd() const { return next_.type == TokenType::endOfInput; }
 
-    bool isNext(char c) const
-    {
-        // All tokens of these characters, and no others, consist of one.
-        return !atEnd() && next_.end - next_.begin == 1 && text_[next_.begin] == c &&
-               next_.type != TokenType::bareKey;
-    }
+    bool isNext(char c) const { return next_.type == typeOf(c); }
 
     bool take(char c)
     {
@@ -70,6 +65,30 @@ public:
     const std::vector<LexicalError>& errors() const { return reader_.errors(); }
 
 private:
+    // The lexer reads some bytes that are not UTF-8 as one of these characters, too.
+    static TokenType typeOf(char c)
+    {
+        switch (c)
+        {
+        case ',':
+            return TokenType::comma;
+        case '.':
+            return TokenType::dot;
+        case '=':
+            return TokenType::equals;
+        case '[':
+            return TokenType::openBracket;
+        case ']':
+            return TokenType::closeBracket;
+        case '{':
+            return TokenType::openBrace;
+        case '}':
+            return TokenType::closeBrace;
+        default:
+            return TokenType::none;
+        }
+    }
+
     std::string_view text_;
     TokenReader reader_;
     DocumentToken next_;

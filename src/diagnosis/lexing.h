@@ -5,12 +5,22 @@
 
 #include "error_collection.h"
 #include "pipeline/input_stream.h"
+#include "pipeline/memory_need.h"
 #include "pipeline/owned.h"
 
 #include "pipeline/recognisers.h"
 
 namespace vorn::parsers::toml::diagnosis
 {
+
+// The runtime does not survive an allocation that fails: it is not asked for what there is not.
+inline void requireMemory(std::size_t size)
+{
+    if (!isMemoryLeft(size))
+    {
+        throw std::bad_alloc();
+    }
+}
 
 // What the runtime has made; it says by null that there is no memory.
 template <typename Object>
@@ -28,7 +38,7 @@ struct Lexing
 {
     Lexing(std::string_view text, std::size_t begin, std::vector<LexicalError>& errors,
            bool onlyIndependent)
-        : input(owned(openStream(text))),
+        : input((requireMemory(memoryForSurvey(0)), owned(openStream(text)))),
           lexer(owned(TomlLexerNew(input.get()))), collection{errors, *input, onlyIndependent, {}}
     {
         // (Only at its very beginning does a document have a byte order mark.)

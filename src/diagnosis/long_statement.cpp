@@ -11,10 +11,10 @@ namespace
 {
 
 // What is around a token.
-Site siteOf(const DocumentToken& refused, std::string_view text, const DamagedPart& part)
+Site siteOf(const DocumentToken& refused, std::string_view text, std::size_t statement,
+            const DamagedPart& part)
 {
-    TokenReader reader(text.substr(0, part.part.end), part.part.begin,
-                       TokenReader::Errors::independent);
+    TokenReader reader(text.substr(0, part.part.end), statement, TokenReader::Errors::independent);
     Follower follower;
     DocumentToken before = {TokenType::endOfInput, 0, 0};
     DocumentToken token = reader.next();
@@ -30,10 +30,11 @@ Site siteOf(const DocumentToken& refused, std::string_view text, const DamagedPa
         before = token;
         token = reader.next();
     }
-    const bool isLast = token.type == TokenType::endOfInput;
-    const DocumentToken after = isLast ? part.part.next : reader.next();
-    return {text,  before,           isLast ? part.part.next : token,
-            after, follower.place(), part.closesBrackets};
+    const bool endsPart = token.type == TokenType::endOfInput;
+    // After the last part there is nothing.
+    const DocumentToken next = part.isLast ? token : part.part.next;
+    const DocumentToken after = endsPart ? next : reader.next();
+    return {text, before, endsPart ? next : token, after, follower.place(), part.closesBrackets};
 }
 
 } // namespace
@@ -48,9 +49,9 @@ std::optional<Mistake> firstMistake(std::string_view text, const DamagedPart& pa
         throw std::bad_alloc();
     }
     NestingStack nesting(words.begin(), size);
-    LineCount sink;
+    LastLine last;
     LexerCursor cursor(lines, part.part.begin);
-    const bool isRead = Reader<LineCount, LexerCursor&>(cursor, nesting, sink).lines();
+    const bool isRead = Reader<LastLine, LexerCursor&>(cursor, nesting, last).lines();
     if (!cursor.errors().empty() &&
         (isRead || cursor.errors().front().begin <= cursor.refused().begin))
     {
@@ -60,7 +61,10 @@ std::optional<Mistake> firstMistake(std::string_view text, const DamagedPart& pa
     {
         return std::nullopt;
     }
-    const Site site = siteOf(cursor.refused(), text, part);
+    const std::size_t statement = last.end() != nullptr
+                                      ? static_cast<std::size_t>(last.end() - text.data())
+                                      : part.part.begin;
+    const Site site = siteOf(cursor.refused(), text, statement, part);
     if (site.place.due == Due::lineEnd && site.found.type == TokenType::endOfInput)
     {
         return missingLineBreak(site.found.begin);

@@ -21,14 +21,6 @@ namespace
 // What is kept here for a token, in vectors that grow by copying.
 constexpr std::size_t needOfToken = 3 * (sizeof(DocumentToken) + 2 * sizeof(std::size_t));
 
-void requireMemory(std::size_t size)
-{
-    if (!isMemoryLeft(size))
-    {
-        throw std::bad_alloc();
-    }
-}
-
 void requireMemoryFor(const Part& part, pANTLR3_LEXER lexer)
 {
     const DocumentSurvey seen = survey(lexer);
@@ -79,7 +71,6 @@ Recognition recognise(std::string_view text, const Part& part)
 {
     Recognition found;
     found.part = part;
-    requireMemory(memoryForSurvey(part.end - part.begin));
     Lexing lexing(text.substr(0, part.end), part.begin, found.lexicalErrors, false);
     requireMemoryFor(part, lexing.lexer->pLexer);
     const auto tokens = owned(antlr3CommonTokenStreamSourceNew(

@@ -12,18 +12,18 @@
 namespace vorn::parsers::toml::diagnosis
 {
 
-// A sink that only counts pairs and headers.
-class LineCount : public PlainSink<LineCount>
+// A sink that only knows where the last pair or header ended; null before there was one.
+class LastLine : public PlainSink<LastLine>
 {
 public:
     void event(Event) noexcept {}
     void text(Event, std::string_view) noexcept {}
-    void lineEnd(const char*) noexcept { ++lines_; }
+    void lineEnd(const char* position) noexcept { end_ = position; }
 
-    std::size_t lines() const noexcept { return lines_; }
+    const char* end() const noexcept { return end_; }
 
 private:
-    std::size_t lines_ = 0;
+    const char* end_ = nullptr;
 };
 
 // Goes over valid lines of a document.
@@ -63,9 +63,9 @@ public:
     bool isNext(std::size_t from) const
     {
         NestingStack nesting(words_.begin(), text_.size());
-        LineCount count;
-        Reader reader(text_.data() + from, end(), nesting, count);
-        while (!reader.atEnd() && count.lines() == 0)
+        LastLine last;
+        Reader reader(text_.data() + from, end(), nesting, last);
+        while (!reader.atEnd() && last.end() == nullptr)
         {
             if (!reader.line())
             {

@@ -66,9 +66,14 @@ std::size_t stackRoom() noexcept
     return std::min<std::size_t>(here() - lowest, maxRoom);
 }
 
+unsigned maxLevels() noexcept
+{
+    return std::max(safeLevels, static_cast<unsigned>(stackRoom() / minStackOfLevel));
+}
+
 bool mayHaveRoomForLevels(unsigned levels) noexcept
 {
-    return levels <= safeLevels || levels <= stackRoom() / minStackOfLevel;
+    return levels <= safeLevels || levels <= maxLevels();
 }
 
 } // namespace vorn::parsers::toml

@@ -17,6 +17,9 @@ constexpr unsigned safeLevels = 10;
 // as on a stack that the thread was not started with.  Asking takes some time.
 std::size_t stackRoom() noexcept;
 
+// The levels of arrays and inline tables that the parser may get through with that, at most.
+unsigned maxLevels() noexcept;
+
 // Whether the parser may get through as many levels of arrays and inline tables with that.
 // It stops by itself where it cannot; this is for what is far too much.
 bool mayHaveRoomForLevels(unsigned levels) noexcept;

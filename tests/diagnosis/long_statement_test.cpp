@@ -1,0 +1,99 @@
+#include "diagnosis/choice.h"
+#include "diagnosis/long_statement.h"
+
+#include "differential/document_generator.h"
+#include "differential/escaped.h"
+#include "support/reading.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace diagnosis = vorn::parsers::toml::diagnosis;
+
+namespace
+{
+
+using diagnosis::DamagedPart;
+using diagnosis::Mistake;
+
+std::optional<Mistake> firstMistake(const std::string& text, bool closesBrackets = false)
+{
+    DamagedPart part;
+    part.part = diagnosis::wholeOf(text);
+    part.isLast = true;
+    part.closesBrackets = closesBrackets;
+    return diagnosis::firstMistake(text, part);
+}
+
+struct Expected
+{
+    std::string text;
+    std::size_t begin;
+    std::string code;
+};
+
+} // namespace
+
+TEST(LongStatement, hasNoMistakeIfItIsValid)
+{
+    EXPECT_FALSE(firstMistake("a = [1, [2]]\n"));
+    // Read by the lexer, not by the scanner.
+    EXPECT_FALSE(firstMistake("a = \"\xed\xa0\x80\"\n"));
+    EXPECT_FALSE(firstMistake("a = [1\xf0\x80\x82]\n")); // an overlong ']'
+    EXPECT_FALSE(firstMistake(""));
+}
+
+TEST(LongStatement, hasTheMistakeAtWhichTheReaderStops)
+{
+    const std::vector<Expected> documents = {
+        {"a = [1, [2, ]\n", 14, "unclosed-array"},
+        {"a = [1, [], []]\n", 9, "empty-array"},
+        {"a = [1 2]\n", 7, "missing-comma"},
+        {"a = {b = {}}\n", 10, "empty-inline-table"},
+        {"a = 1 b = 2\n", 6, "text-after-value"},
+        {"a = x\n", 4, "not-a-value"},
+        {"1 = 2\n", 0, "value-as-key"},
+        {"[a.]\n", 3, "missing-header-key"},
+        {"[a\n", 2, "unclosed-header"},
+        {"a.b.1 = 2\n", 4, "value-as-key"},
+        {"a = [1\n\n,\n \n2]\n", 10, "blank-line-in-array"},
+        {"a = 1", 5, "missing-last-line-break"},
+        {"a = [\"\\q\"]\n", 6, "unknown-escape"},
+    };
+    for (const Expected& expected : documents)
+    {
+        SCOPED_TRACE(expected.text);
+        const auto mistake = firstMistake(expected.text);
+        ASSERT_TRUE(mistake);
+        EXPECT_EQ(mistake->begin, expected.begin) << mistake->message;
+        EXPECT_EQ(mistake->code, expected.code) << mistake->message;
+    }
+}
+
+// The reader over the lexer's tokens and the parser find the first mistake in the same place.
+TEST(LongStatement, hasTheFirstMistakeOfTheParser)
+{
+    test::DocumentGenerator generator(11);
+    std::size_t rejected = 0;
+    for (std::size_t number = 0; number < 4000 / VORN_TEST_STEP && !HasFailure(); ++number)
+    {
+        const std::string text = generator.next().substr(0, 2000);
+        SCOPED_TRACE(test::escaped(text));
+        std::vector<Mistake> mistakes;
+        diagnosis::addMistakes(text, diagnosis::recognise(text, diagnosis::wholeOf(text)),
+                               mistakes);
+        const auto first = firstMistake(text);
+        ASSERT_EQ(first.has_value(), !mistakes.empty());
+        if (first)
+        {
+            ++rejected;
+            EXPECT_EQ(first->begin, mistakes[0].begin) << mistakes[0].message;
+            const std::string code = mistakes[0].code;
+            EXPECT_TRUE(code == first->code || code == firstMistake(text, true)->code)
+                << mistakes[0].message;
+        }
+    }
+    EXPECT_GT(rejected, 1000U / VORN_TEST_STEP);
+}
