@@ -1,0 +1,94 @@
+#include "growth_documents.h"
+
+#include "tests/support/large_documents.h"
+
+namespace bench
+{
+
+std::vector<Document> growingDocuments()
+{
+    return {
+        {"lines of all kinds", true, 4 * megabyte, test::mixedDocument},
+        {"one long string", true, 4 * megabyte,
+         [](std::size_t size) { return test::enclosed("a = \"", "x", size, "\"\n"); }},
+        {"one long key", true, 4 * megabyte,
+         [](std::size_t size) { return test::enclosed("", "x", size, " = 1\n"); }},
+        {"one long array", true, 4 * megabyte,
+         [](std::size_t size) { return test::enclosed("a = [", "1,", size / 2, "1]\n"); }},
+        {"one key of many parts", true, 4 * megabyte,
+         [](std::size_t size) { return test::enclosed("a", ".a", size / 2, " = 1\n"); }},
+        {"bad lines, `a 1`", false, 100 * kilobyte,
+         [](std::size_t size) { return test::repeated("a 1\n", size / 4); }},
+        {"bad characters, `@`", false, 100 * kilobyte,
+         [](std::size_t size) { return test::repeated("@", size); }},
+        {"lines of all kinds, then `@`", false, 250 * kilobyte,
+         [](std::size_t size) { return test::mixedDocument(size) + "@"; }},
+        {"one long string, not closed", false, 4 * megabyte,
+         [](std::size_t size) { return test::enclosed("a = \"", "x", size, "\n"); }},
+        {"one long key, without a value", false, 4 * megabyte,
+         [](std::size_t size) { return test::enclosed("", "x", size, "\n"); }},
+        {"one long array, not closed", false, 100 * kilobyte,
+         [](std::size_t size) { return test::enclosed("a = [", "1,", size / 2, "1\n"); }},
+        {"one key of many parts, without a value", false, 100 * kilobyte,
+         [](std::size_t size) { return test::enclosed("a", ".a", size / 2, "\n"); }},
+    };
+}
+
+std::vector<Document> hostileDocuments()
+{
+    return {
+        {"`a`, 4,000 dots, `=1`", false, 4'003,
+         [](std::size_t) { return test::enclosed("a", ".", 4'000, "=1"); }},
+        {"4,000 lines `a 1`", false, 16'000,
+         [](std::size_t) { return test::repeated("a 1\n", 4'000); }},
+        {"12,000 `[`", false, 12'000, [](std::size_t) { return test::repeated("[", 12'000); }},
+        {"12,000 `{a=`", false, 36'000, [](std::size_t) { return test::repeated("{a=", 12'000); }},
+        {"`a=`, 12,000 `[`", false, 12'002,
+         [](std::size_t) { return test::enclosed("a=", "[", 12'000, ""); }},
+        {"`a=`, 12,000 `{a=`", false, 36'002,
+         [](std::size_t) { return test::enclosed("a=", "{a=", 12'000, ""); }},
+    };
+}
+
+std::vector<Document> largestDocuments()
+{
+    return {
+        {"one string", true, 100 * megabyte,
+         [](std::size_t size) { return test::enclosed("a = '", "x", size - 7, "'\n"); }},
+        {"one key", true, 100 * megabyte,
+         [](std::size_t size) { return test::enclosed("", "x", size - 5, " = 1\n"); }},
+        {"one comment", true, 100 * megabyte,
+         [](std::size_t size) { return test::enclosed("# ", "x", size - 3, "\n"); }},
+        {"a million tables", true, 10 * megabyte,
+         [](std::size_t size) { return test::repeated("[a.table]\n", size / 10); }},
+        {"lines `a 1`", false, megabyte,
+         [](std::size_t size) { return test::repeated("a 1\n", size / 4); }},
+        {"lines `a = {}`", false, megabyte,
+         [](std::size_t size) { return test::repeated("a = {}\n", size / 7); }},
+        {"lines `'`", false, megabyte,
+         [](std::size_t size) { return test::repeated("'\n", size / 2); }},
+        {"`@`", false, megabyte, [](std::size_t size) { return test::repeated("@", size); }},
+        {"`=`", false, megabyte, [](std::size_t size) { return test::repeated("=", size); }},
+    };
+}
+
+std::vector<Document> mistakenDocuments()
+{
+    return {
+        {"lines of all kinds, then `a = []`", false, 10 * megabyte,
+         [](std::size_t size) { return test::mixedDocument(size) + "a = []\n"; }},
+        {"lines `[a`", false, 1600 * kilobyte,
+         [](std::size_t size) { return test::repeated("[a\n", size / 3); }},
+        {"lines `a 1`", false, 10 * megabyte,
+         [](std::size_t size) { return test::repeated("a 1\n", size / 4); }},
+        {"`@`", false, 10 * megabyte, [](std::size_t size) { return test::repeated("@", size); }},
+        {"one long array, not closed", false, 10 * megabyte,
+         [](std::size_t size) { return test::enclosed("a = [", "1,", size / 2, "1\n"); }},
+        {"one long string, not closed", false, 10 * megabyte,
+         [](std::size_t size) { return test::enclosed("a = \"", "x", size, "\n"); }},
+        {"`a=`, then `[`", false, 10 * megabyte,
+         [](std::size_t size) { return test::enclosed("a=", "[", size, ""); }},
+    };
+}
+
+} // namespace bench
