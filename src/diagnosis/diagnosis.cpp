@@ -24,8 +24,8 @@ class Diagnosis
 {
 public:
     Diagnosis(const std::string& document, const DiagnosisOptions& options)
-        : document_(document), max_(options.maxFindings == 0 ? document.npos : options.maxFindings),
-          lines_(document)
+        : document_(document),
+          max_(options.maxFindings == 0 ? std::string::npos : options.maxFindings), lines_(document)
     {
     }
 

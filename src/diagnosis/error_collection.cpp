@@ -54,7 +54,7 @@ bool isCovered(const LexicalError& error, LexicalErrors& collection)
         return true;
     }
     const std::size_t from = std::min(last.resumed, error.begin);
-    if (text.substr(from, error.begin - from).find('\n') != text.npos ||
+    if (text.substr(from, error.begin - from).find('\n') != std::string_view::npos ||
         isInLongString(error, text))
     {
         return false;

@@ -17,7 +17,7 @@ struct LexicalErrors
 {
     std::vector<LexicalError>& found;
     const ANTLR3_INPUT_STREAM& input;
-    bool onlyIndependent; // whether what only follows from an earlier error is left out
+    bool onlyIndependent = false; // whether what only follows from an earlier error is left out
     HeldException thrown;
 
     std::size_t offset(ANTLR3_MARKER position) const

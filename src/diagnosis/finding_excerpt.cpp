@@ -15,9 +15,9 @@ namespace
 // The line that an offset is in, without its line break.
 std::string_view lineAt(std::string_view text, std::size_t& begin)
 {
-    const std::size_t from = begin == 0 ? text.npos : text.rfind('\n', begin - 1);
+    const std::size_t from = begin == 0 ? std::string_view::npos : text.rfind('\n', begin - 1);
     const std::size_t start =
-        from == text.npos ? std::min(byteOrderMarkLength(text), begin) : from + 1;
+        from == std::string_view::npos ? std::min(byteOrderMarkLength(text), begin) : from + 1;
     const std::size_t end = std::min(text.find('\n', begin), text.size());
     std::string_view line = text.substr(start, end - start);
     if (!line.empty() && line.back() == '\r' && end < text.size())

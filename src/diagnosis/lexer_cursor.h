@@ -91,7 +91,7 @@ private:
 
     std::string_view text_;
     TokenReader reader_;
-    DocumentToken next_;
+    DocumentToken next_ = {};
     DocumentToken taken_ = {};
     bool hasJudged_ = true;
 };

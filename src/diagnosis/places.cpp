@@ -1,6 +1,7 @@
 #include "places.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "characters.h"
 #include "scan/utf8.h"
@@ -51,6 +52,15 @@ void count(std::string_view text, std::vector<Wanted>& wanted)
     }
 }
 
+RelatedPlace placeOf(Origin& origin)
+{
+    RelatedPlace place;
+    place.begin = origin.begin;
+    place.end = origin.end;
+    place.message = std::move(origin.message);
+    return place;
+}
+
 Finding findingOf(Mistake&& mistake)
 {
     Finding finding;
@@ -60,14 +70,8 @@ Finding findingOf(Mistake&& mistake)
     finding.code = mistake.code;
     finding.message = std::move(mistake.message);
     finding.hint = std::move(mistake.hint);
-    for (Origin& origin : mistake.origins)
-    {
-        RelatedPlace place;
-        place.begin = origin.begin;
-        place.end = origin.end;
-        place.message = std::move(origin.message);
-        finding.related.push_back(std::move(place));
-    }
+    std::transform(mistake.origins.begin(), mistake.origins.end(),
+                   std::back_inserter(finding.related), placeOf);
     return finding;
 }
 
@@ -77,10 +81,8 @@ std::vector<Finding> located(std::string_view text, std::vector<Mistake>&& mista
 {
     std::vector<Finding> findings;
     findings.reserve(mistakes.size());
-    for (Mistake& mistake : mistakes)
-    {
-        findings.push_back(findingOf(std::move(mistake)));
-    }
+    std::transform(mistakes.begin(), mistakes.end(), std::back_inserter(findings),
+                   [](Mistake& mistake) { return findingOf(std::move(mistake)); });
     std::vector<Wanted> wanted;
     wanted.reserve(2 * findings.size());
     for (Finding& finding : findings)
