@@ -1,4 +1,4 @@
-#include "diagnosis/places.h"
+#include "diagnosis/location.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ std::string shown(std::size_t line, std::size_t column)
 
 } // namespace
 
-TEST(Places, areCountedInLinesAndCharacters)
+TEST(Location, countsLinesAndCharacters)
 {
     // A byte order mark has no column; a byte that is part of no character has one.
     const std::string text = "\xef\xbb\xbf"
@@ -42,7 +42,7 @@ TEST(Places, areCountedInLinesAndCharacters)
     EXPECT_EQ(ends, "1:2 2:2 2:3 4:1 4:2 4:2 ");
 }
 
-TEST(Places, mayBeInAnyOrder)
+TEST(Location, takesPlacesInAnyOrder)
 {
     const std::string text = "a = 1\nb = 2\nc = 3\n";
     Mistake first = mistake(12, 13);
@@ -56,7 +56,7 @@ TEST(Places, mayBeInAnyOrder)
     EXPECT_EQ(shown(findings[1].line, findings[1].column), "1:5");
 }
 
-TEST(Places, keepAllElse)
+TEST(Location, keepsAllElse)
 {
     const auto findings = toml::diagnosis::located(
         "a", {{toml::Severity::warning, 0, 1, "empty-array", "the message", "the hint"}});

@@ -1,4 +1,4 @@
-#include "places.h"
+#include "location.h"
 
 #include <algorithm>
 #include <iterator>
