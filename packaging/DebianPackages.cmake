@@ -1,7 +1,8 @@
 # Debian packages, made by cpack; scripts/package says how they are built.
 #
-# libvorn-parsers0 has the library, libvorn-parsers-dev what programs are compiled with,
-# vorn-toml the tool, and libvorn-utils0 the host's stand-in for the device's utility library.
+# libvorn-parsers0 has the library, libvorn-toml-diagnosis0 that of the diagnoses,
+# libvorn-parsers-dev what programs are compiled with for both, vorn-toml the tool, and
+# libvorn-utils0 the host's stand-in for the device's utility library.
 set(VORN_UTILS_PACKAGE "" CACHE STRING
     "The Debian package of VORN_UTILS_LIBRARY, for libvorn-parsers0 to depend on")
 
@@ -16,7 +17,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_GROUPING IGNORE)
-set(CPACK_COMPONENTS_ALL Runtime Development Tool)
+set(CPACK_COMPONENTS_ALL Runtime Diagnosis Development Tool)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 if(CMAKE_LIBRARY_ARCHITECTURE STREQUAL arm-linux-gnueabihf)
@@ -47,6 +48,10 @@ endfunction()
 # They are stated, since those of another processor cannot be looked up here: Debian 12's.
 set(runtime "libc6 (>= 2.36)" "libgcc-s1 (>= 3.5)" "libstdc++6 (>= 12)")
 set(library_package libvorn-parsers${VORN_PARSERS_SOVERSION})
+set(diagnosis_package libvorn-toml-diagnosis${VORN_TOML_DIAGNOSIS_SOVERSION})
+# Of one build: the diagnosis has parts of the other library, and the tool has of both.
+set(libraries
+    "${library_package} (= ${PROJECT_VERSION})" "${diagnosis_package} (= ${PROJECT_VERSION})")
 set(utils ${VORN_UTILS_PACKAGE})
 if(NOT VORN_UTILS_LIBRARY)
     set(utils "libvorn-utils0")
@@ -62,14 +67,20 @@ vorn_debian_package(Runtime ${library_package} libs
     "It checks a TOML document and calls a visitor for every header, key, array,\ninline table and scalar."
     "libantlr3c-3.4-0" ${runtime} ${utils})
 vorn_debian_library(Runtime libvorn_parsers ${VORN_PARSERS_SOVERSION} ${library_package})
+vorn_debian_package(Diagnosis ${diagnosis_package} libs
+    "event reader for TOML - explanation of mistakes"
+    "It says what is wrong with a TOML document, where, and how to put it right."
+    "libantlr3c-3.4-0" ${runtime} "${library_package} (= ${PROJECT_VERSION})")
+vorn_debian_library(Diagnosis libvorn_toml_diagnosis ${VORN_TOML_DIAGNOSIS_SOVERSION}
+    ${diagnosis_package})
 vorn_debian_package(Development libvorn-parsers-dev libdevel
     "event reader for TOML - development files"
-    "The header of libvorn_parsers, its CMake package and its pkg-config file."
-    "${library_package} (= ${PROJECT_VERSION})")
+    "The headers of libvorn_parsers and libvorn_toml_diagnosis, their CMake package\nand their pkg-config files."
+    ${libraries})
 vorn_debian_package(Tool vorn-toml utils
     "event reader for TOML - command-line tool"
     "It prints what libvorn_parsers reports of TOML documents, and tells whether it\naccepts them."
-    "libantlr3c-3.4-0" ${runtime} ${utils})
+    "libantlr3c-3.4-0" ${runtime} ${libraries} ${utils})
 
 # Documentation that only Debian's packages have.
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_SOURCE_DIR}/debian_documentation.cmake)

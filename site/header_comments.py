@@ -2,7 +2,7 @@
 """Prints a header with its `//` comments as Doxygen reads them: header_comments.py HEADER
 
 The comment above a declaration is that of all declarations below it, up to the next blank
-line.  A comment between blank lines is about the namespace, and the first one of a file is
+line; one beside a declaration is about that one alone.  A comment between blank lines is about the namespace, and the first one of a file is
 about the file; that of toml.h is the reference's first page, too.  Indented lines are code,
 apart from lists.
 """
@@ -15,8 +15,9 @@ import sys
 
 FIRST_PAGE = "toml.h"
 COMMENT = re.compile(r"\s*//( ?)(.*)")
-NAMESPACE = re.compile(r"namespace ([\w:]+)")
+NAMESPACE = re.compile(r"^namespace ([\w:]+)$", re.MULTILINE)
 DECLARATION = re.compile(r"#define .*|\s*[\w~].*[;}]")
+BESIDE = re.compile(r"(\s*\w.*[,;])\s*// (?!NOLINT)(.*)")
 CODE_SPAN = re.compile(r"`([^`]*)`")
 
 
@@ -56,7 +57,7 @@ def filtered(lines, namespace):
     """The lines of a header with Doxygen's comments."""
     output = []
     comment = []  # the lines of the one being read
-    attached = []  # what stands above the declarations being read
+    attached = []  # the lines of the one above the declarations being read
     is_first = True
     for line in lines:
         match = COMMENT.fullmatch(line)
@@ -68,10 +69,13 @@ def filtered(lines, namespace):
         elif comment and not line.strip():
             output += [*block(comment, f"\\namespace {namespace}"), ""]
         elif comment:
-            attached = block(comment)
+            attached = comment
         is_first = is_first and not comment
-        if attached and (comment or DECLARATION.fullmatch(line)):
-            output += attached
+        beside = []
+        if match := BESIDE.fullmatch(line):
+            line, beside = match[1], [match[2]]
+        if beside or attached and (comment or DECLARATION.fullmatch(line)):
+            output += block([*attached, *([""] if attached and beside else []), *beside])
         if not DECLARATION.fullmatch(line):
             attached = []
         comment = []

@@ -26,11 +26,14 @@ def check_tool(options, packages, directory):
          *packages.values()])
     libraries = [f"{place}/usr/lib/{TRIPLET}" for place in (root.path, options.sysroot)]
     document = root.path / "tmp/a.toml"
-    document.write_text("a = 1\n", encoding="ascii")
-    said = run([*options.emulator.split(";"), "-E", f"LD_LIBRARY_PATH={':'.join(libraries)}",
-                root.path / "usr/bin/vorn-toml", "check", document])
-    if said != f"{document}: accepted\n":
-        raise Failure(f"the tool prints {said}")
+    tool = [*options.emulator.split(";"), "-E", f"LD_LIBRARY_PATH={':'.join(libraries)}",
+            root.path / "usr/bin/vorn-toml"]
+    for text, expected in (("a = 1\n", f"{document}: accepted\n"),
+                           ("a = []\n", f"{document}:1:6: error: the array is empty\n")):
+        document.write_text(text, encoding="ascii")
+        said = run(["sh", "-c", '"$@" || [ $? = 1 ]', "sh", *tool, "check", document])
+        if not said.startswith(expected):
+            raise Failure(f"the tool prints {said}")
 
 
 def main():

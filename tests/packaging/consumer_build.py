@@ -1,4 +1,4 @@
-"""Builds and runs the program of consumer/, in ways in which clients do."""
+"""Builds and runs the programs of consumer/, in ways in which clients do."""
 
 import os
 import pathlib
@@ -6,6 +6,8 @@ import shlex
 import subprocess
 
 SOURCE = pathlib.Path(__file__).with_name("consumer")
+# The programs there, and the library that each one links.
+LIBRARY_OF = {"consumer": "vorn_parsers", "explain": "vorn_toml_diagnosis"}
 OUTPUT = """\
 31
 accepted
@@ -21,6 +23,12 @@ same
 """
 # What is logged: by the stand-in after "error vorn_parsers ...: ".
 MESSAGES = ["Failed to visit toml tree", "No such file: /no/such.toml"]
+# What the client of the diagnosis prints.
+EXPLANATION = """\
+config.toml:12:10: the array is empty
+   12 | names = []
+      |          ^
+"""
 
 
 class Failure(Exception):
@@ -51,20 +59,20 @@ def clean_environment(**variables):
     return {**kept, **variables}
 
 
-def build_with_cmake(build, *options, source=SOURCE, within=()):
-    """The program, by CMake; `within` are words before each command."""
+def build_with_cmake(build, *options, source=SOURCE, within=(), target="consumer"):
+    """A program, by CMake; `within` are words before each command."""
     run([*within, "cmake", "-G", "Ninja", "-S", source, "-B", build, *options],
         env=clean_environment())
-    run([*within, "cmake", "--build", build, "--target", "consumer"], env=clean_environment())
-    return f"{build}/consumer"
+    run([*within, "cmake", "--build", build, "--target", target], env=clean_environment())
+    return f"{build}/{target}"
 
 
-def build_with_pkg_config(program, path=None, source=SOURCE, within=()):
-    """The program, by nothing but the compiler and what pkg-config says."""
+def build_with_pkg_config(program, path=None, source=SOURCE, within=(), target="consumer"):
+    """A program, by nothing but the compiler and what pkg-config says."""
     variables = {"PKG_CONFIG_PATH": str(path)} if path else {}
-    said = run([*within, "pkg-config", "--cflags", "--libs", "vorn_parsers"],
+    said = run([*within, "pkg-config", "--cflags", "--libs", LIBRARY_OF[target]],
                env=clean_environment(**variables))
-    run([*within, "g++", "-std=c++17", f"{source}/consumer.cpp", "-o", program,
+    run([*within, "g++", "-std=c++17", f"{source}/{target}.cpp", "-o", program,
          *shlex.split(said)], env=clean_environment())
     return program
 
@@ -87,3 +95,10 @@ def check_run(program, version, mark, within=(), **variables):
     # The visitor that throws ends the second reading before anything is logged.
     if wrong or len(logged) != len(MESSAGES):
         raise Failure(f"{program} logs\n{result.stderr}")
+
+
+def check_explanation(program, within=(), **variables):
+    """Runs the client of the diagnosis."""
+    said = run([*within, program], env=clean_environment(**variables))
+    if said != EXPLANATION:
+        raise Failure(f"{program} prints\n{said}and not\n{EXPLANATION}")

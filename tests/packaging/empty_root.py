@@ -27,6 +27,15 @@ def with_dependencies(names):
     return [line.split()[0] for line in states.splitlines() if line.endswith(" installed")]
 
 
+def has_dependency_problems(call, *arguments):
+    """Whether dpkg refuses something because of what packages depend on."""
+    try:
+        call(*arguments)
+    except Failure as failure:
+        return "dependency problems" in str(failure)
+    return False
+
+
 class EmptyRoot:
     def __init__(self, path):
         self.path = pathlib.Path(path)
@@ -66,11 +75,13 @@ class EmptyRoot:
         run(["dpkg", f"--root={self.path}", "--install", *archives])
 
     def refuses(self, *archives):
-        try:
-            self.install(*archives)
-        except Failure as failure:
-            return "dependency problems" in str(failure)
-        return False
+        return has_dependency_problems(self.install, *archives)
+
+    def remove(self, *names):
+        run(["dpkg", f"--root={self.path}", "--purge", *names])
+
+    def refuses_to_remove(self, *names):
+        return has_dependency_problems(self.remove, *names)
 
     def run(self, *command):
         return run([*self.within, *command])

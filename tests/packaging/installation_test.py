@@ -1,7 +1,7 @@
 """Installs the components of a build and uses what is installed, as clients do.
 
-Nothing of it leads to the sources or the build: the client is found what it needs by the
-prefix alone, and links vorn_parsers alone.
+Nothing of it leads to the sources or the build: the clients are found what they need by the
+prefix alone, and link one library alone.
 """
 
 import argparse
@@ -9,12 +9,16 @@ import pathlib
 import subprocess
 import sys
 import tempfile
+import textwrap
 
 from consumer_build import (
+    EXPLANATION,
+    LIBRARY_OF,
     SOURCE,
     Failure,
     build_with_cmake,
     build_with_pkg_config,
+    check_explanation,
     check_run,
     clean_environment,
     run,
@@ -23,14 +27,23 @@ from consumer_build import (
 # The files of each component, where LIB stands for the directory of libraries.
 COMPONENTS = {
     "Runtime": ["LIB/libvorn_parsers.so.SONUMBER", "LIB/libvorn_parsers.so.VERSION"],
+    "Diagnosis": [
+        "LIB/libvorn_toml_diagnosis.so.DIAGNOSIS_SONUMBER",
+        "LIB/libvorn_toml_diagnosis.so.VERSION",
+    ],
     "Development": [
         "LIB/cmake/vorn_parsers/vorn_parsersConfig.cmake",
         "LIB/cmake/vorn_parsers/vorn_parsersConfigVersion.cmake",
         "LIB/cmake/vorn_parsers/vorn_parsersTargets-TYPE.cmake",
         "LIB/cmake/vorn_parsers/vorn_parsersTargets.cmake",
+        "LIB/cmake/vorn_parsers/vorn_toml_diagnosisTargets-TYPE.cmake",
+        "LIB/cmake/vorn_parsers/vorn_toml_diagnosisTargets.cmake",
         "LIB/libvorn_parsers.so",
+        "LIB/libvorn_toml_diagnosis.so",
         "LIB/pkgconfig/vorn_parsers.pc",
+        "LIB/pkgconfig/vorn_toml_diagnosis.pc",
         "include/vorn/parsers/toml.h",
+        "include/vorn/parsers/toml_diagnosis.h",
     ],
     "Tool": [
         "bin/vorn-toml",
@@ -52,6 +65,7 @@ def check_files(options, component, prefix):
     )
     stand_ins = {
         "LIB": options.libdir,
+        "DIAGNOSIS_SONUMBER": options.diagnosis_soversion,
         "SONUMBER": options.soversion,
         "VERSION": options.version,
         "TYPE": options.build_type.lower(),
@@ -92,19 +106,55 @@ def check_package_is_found(prefix, directory, version):
 
 
 def check_pkg_config(prefix, libdir):
-    """The pkg-config file names this prefix and nothing beyond the library."""
+    """The pkg-config files name this prefix and nothing beyond their libraries."""
+    for library in LIBRARY_OF.values():
+        check_pkg_config_of(library, prefix, libdir)
+
+
+def check_pkg_config_of(library, prefix, libdir):
     environment = clean_environment(PKG_CONFIG_PATH=f"{prefix}/{libdir}/pkgconfig")
     for arguments, expected in (
-        (["--libs"], f"-L{prefix}/{libdir} -lvorn_parsers"),
-        (["--static", "--libs"], f"-L{prefix}/{libdir} -lvorn_parsers"),
+        (["--libs"], f"-L{prefix}/{libdir} -l{library}"),
+        (["--static", "--libs"], f"-L{prefix}/{libdir} -l{library}"),
         (["--cflags"], f"-I{prefix}/include"),
         (["--print-requires", "--print-requires-private"], ""),
         (["--variable=libdir"], f"{prefix}/{libdir}"),
         (["--variable=includedir"], f"{prefix}/include"),
     ):
-        said = run(["pkg-config", *arguments, "vorn_parsers"], env=environment).strip()
+        said = run(["pkg-config", *arguments, library], env=environment).strip()
         if said != expected:
-            raise Failure(f"pkg-config {' '.join(arguments)} says {said!r}, not {expected!r}")
+            raise Failure(f"pkg-config {' '.join(arguments)} {library} says {said!r}, "
+                          f"not {expected!r}")
+
+
+def check_without_diagnosis(options, directory):
+    """Where the diagnosis is left out, the other library can be used: its component alone fails."""
+    prefix = directory / "without-diagnosis"
+    for component in sorted(set(COMPONENTS) - {"Diagnosis", "Tool"}):
+        install(options, component, prefix)
+    found = f"-DCMAKE_PREFIX_PATH={prefix}"
+    program = build_with_cmake(directory / "parsers-alone", found)
+    check_run(program, options.version, "error vorn_parsers ")
+    try:
+        build_with_cmake(directory / "no-diagnosis", found, "-DWANTED_COMPONENTS=toml_diagnosis")
+    except Failure as failure:
+        if "toml_diagnosis" in str(failure):
+            return
+        raise
+    raise Failure("find_package() finds a component that is not installed")
+
+
+def check_diagnosis(prefix, libraries, directory):
+    """The client of the diagnosis, which prints what the header says, in both ways."""
+    program = build_with_cmake(directory / "explain-by-cmake", f"-DCMAKE_PREFIX_PATH={prefix}",
+                               "-DWANTED_COMPONENTS=toml_diagnosis", target="explain")
+    check_explanation(program)
+    program = build_with_pkg_config(directory / "explain-by-pkg-config",
+                                    path=libraries / "pkgconfig", target="explain")
+    check_explanation(program, LD_LIBRARY_PATH=str(libraries))
+    header = (prefix / "include/vorn/parsers/toml_diagnosis.h").read_text(encoding="ascii")
+    if textwrap.indent(EXPLANATION, "//   ") not in header:
+        raise Failure(f"the header's example prints something else than\n{EXPLANATION}")
 
 
 def check_installed(options, directory):
@@ -125,6 +175,8 @@ def check_installed(options, directory):
     # What pkg-config says is enough to link; where the library is the loader has to be told.
     program = build_with_pkg_config(directory / "by-pkg-config", path=libraries / "pkgconfig")
     check_run(program, options.version, mark, LD_LIBRARY_PATH=str(libraries))
+    check_diagnosis(prefix, libraries, directory)
+    check_without_diagnosis(options, directory)
 
     # All of it at another place: what is installed finds its libraries from there, too.
     moved = directory / "moved"
@@ -134,11 +186,15 @@ def check_installed(options, directory):
         raise Failure(f"the tool prints {said}")
     program = build_with_cmake(directory / "moved-by-cmake", f"-DCMAKE_PREFIX_PATH={moved}")
     check_run(program, options.version, mark)
+    program = build_with_cmake(directory / "moved-explain", f"-DCMAKE_PREFIX_PATH={moved}",
+                               target="explain")
+    check_explanation(program)
 
 
 def main():
     parser = argparse.ArgumentParser()
-    for name in ("version", "soversion", "build", "source", "build-type", "libdir", "document", "cmake"):
+    for name in ("version", "soversion", "diagnosis-soversion", "build", "source", "build-type",
+                 "libdir", "document", "cmake"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
     try:

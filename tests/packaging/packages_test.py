@@ -11,7 +11,15 @@ import shutil
 import sys
 import tempfile
 
-from consumer_build import SOURCE, Failure, build_with_cmake, build_with_pkg_config, check_run, run
+from consumer_build import (
+    SOURCE,
+    Failure,
+    build_with_cmake,
+    build_with_pkg_config,
+    check_explanation,
+    check_run,
+    run,
+)
 from empty_root import EmptyRoot
 from package_files import NAMES, check_all_dependencies, dependencies, packages_in
 
@@ -21,9 +29,11 @@ MARK = "error vorn_parsers "
 
 def check_tool(root, packages):
     """The tool, with the packages that it depends on and nothing else."""
-    archives = [packages[name] for name in ("libvorn-utils0", "vorn-toml")]
+    names = ("libvorn-utils0", "libvorn-parsers0", "libvorn-toml-diagnosis0", "vorn-toml")
+    archives = [packages[name] for name in names]
     root.add(*sorted(set().union(*map(dependencies, archives)) - set(NAMES)))
-    for name in ("vorn-toml", "libvorn-parsers-dev", "libvorn-parsers0"):
+    for name in ("vorn-toml", "libvorn-parsers-dev", "libvorn-toml-diagnosis0",
+                 "libvorn-parsers0"):
         if not root.refuses(packages[name]):
             raise Failure(f"{name} can be installed without another of these packages")
     root.install(*archives)
@@ -37,13 +47,26 @@ def check_client(root, packages, version):
     """A client that is built with what the packages have, in both ways, and runs."""
     # The shell, with which Ninja runs the compiler, is essential: nothing depends on it.
     root.add("dash", "g++", "cmake", "ninja-build", "pkgconf")
-    root.install(packages["libvorn-parsers0"], packages["libvorn-parsers-dev"])
+    root.install(packages["libvorn-parsers-dev"])
     shutil.copytree(SOURCE, root.path / "tmp/consumer")
     place = {"source": "/tmp/consumer", "within": root.within}
     program = build_with_cmake("/tmp/build", **place)
     check_run(program, version, MARK, root.within)
     program = build_with_pkg_config("/tmp/by-pkg-config", **place)
     check_run(program, version, MARK, root.within)
+    program = build_with_cmake("/tmp/explain-build", target="explain", **place)
+    check_explanation(program, root.within)
+    program = build_with_pkg_config("/tmp/explain", target="explain", **place)
+    check_explanation(program, root.within)
+
+
+def check_without_diagnosis(root, version):
+    """The library as on a device that does without the diagnosis."""
+    if not root.refuses_to_remove("libvorn-toml-diagnosis0"):
+        raise Failure("libvorn-toml-diagnosis0 can be removed from below others")
+    root.remove("vorn-toml", "libvorn-parsers-dev", "libvorn-toml-diagnosis0")
+    for name in ("build/consumer", "by-pkg-config"):
+        check_run(f"/tmp/{name}", version, MARK, root.within)
 
 
 def main():
@@ -62,6 +85,7 @@ def main():
             root = EmptyRoot(directory)
             check_tool(root, packages)
             check_client(root, packages, options.version)
+            check_without_diagnosis(root, options.version)
     except Failure as failure:
         print(failure)
         return 1

@@ -1,7 +1,7 @@
 """Builds a client that has the library's sources as a subdirectory.
 
 It gets the library alone: no test, no tool, nothing to install, and nothing is looked for
-that only these need.
+that only these need.  The diagnosis is built for a client that links it.
 """
 
 import argparse
@@ -11,12 +11,13 @@ import re
 import sys
 import tempfile
 
-from consumer_build import Failure, check_run, clean_environment, run
+from consumer_build import Failure, check_explanation, check_run, clean_environment, run
 
 SOURCE = pathlib.Path(__file__).with_name("subproject")
 # What the library needs no more than its clients do.
 ABSENT = ("GTest", "CLI11", "nlohmann_json", "Python3", "benchmark")
-TARGETS = {"consumer", "vorn_parsers", "vorn_parsers_objects", "vorn_recognisers", "vorn_utils"}
+TARGETS = {"consumer", "explain", "vorn_parsers", "vorn_parsers_objects", "vorn_recognisers",
+           "vorn_rooms", "vorn_toml_diagnosis", "vorn_toml_diagnosis_objects", "vorn_utils"}
 
 
 def configure(build, *options):
@@ -29,7 +30,7 @@ def configure(build, *options):
 
 
 def check_targets(build, own):
-    """The targets are the library's and the client's `own`."""
+    """The targets are the libraries' and the client's `own`."""
     (model,) = (build / ".cmake/api/v1/reply").glob("codemodel-v2-*.json")
     (configuration,) = json.loads(model.read_text(encoding="utf-8"))["configurations"]
     targets = {target["name"] for target in configuration["targets"]}
@@ -58,8 +59,8 @@ def check_installed(build, directory):
     configure(build, "-DVORN_INSTALL=ON")
     run(["cmake", "--build", build])
     found = installed(build, directory / "with")
-    expected = {"consumer", "libvorn_parsers.so", "libvorn_utils.so.0", "toml.h",
-                "vorn_parsersConfig.cmake", "vorn_parsers.pc"}
+    expected = {"consumer", "libvorn_parsers.so", "libvorn_toml_diagnosis.so.0",
+                "libvorn_utils.so.0", "toml.h", "vorn_parsersConfig.cmake", "vorn_parsers.pc"}
     if not expected <= found or "vorn-toml" in found:
         raise Failure(f"installed on request: {sorted(found)}")
 
@@ -83,9 +84,12 @@ def check_client(options, directory):
     run(["cmake", "--build", build])
     check_run(build / "consumer", options.version, "error vorn_parsers ")
     found = [path.name for path in build.rglob("*")
-             if path.name in ("vorn-toml", "compile_commands.json", "CPackConfig.cmake")]
+             if path.name in ("vorn-toml", "compile_commands.json", "CPackConfig.cmake")
+             or path.suffix == ".o" and "diagnosis" in str(path) or "libvorn_toml" in path.name]
     if found:
         raise Failure(f"the build has {found}")
+    run(["cmake", "--build", build, "--target", "explain"])
+    check_explanation(build / "explain")
     check_installed(build, directory)
 
 

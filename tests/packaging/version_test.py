@@ -1,7 +1,7 @@
 """Checks that all agree that name the library's version.
 
-They are the project, the header, the library as it runs, its SONAME and file, the CMake
-package, the pkg-config file, the tool's manual page and the latest entry of the changelog.
+They are the project, the header, the library as it runs, the libraries' SONAMEs and files, the
+CMake package, the pkg-config files, the tool's manual page and the latest entry of the changelog.
 """
 
 import argparse
@@ -11,6 +11,8 @@ import sys
 import tempfile
 
 from consumer_build import Failure, run
+
+UTILS = "libvorn_utils.so.0"
 
 
 def matched(pattern, text, what):
@@ -31,11 +33,17 @@ def installed_versions(options, prefix):
         encoding="utf-8",
     )
     package = matched(r"^version (.*)$", run([options.cmake, "-P", script]), "the CMake package")
-    (pc,) = prefix.rglob("vorn_parsers.pc")
+    files = sorted(prefix.rglob("*.pc"))
+    if [file.name for file in files] != ["vorn_parsers.pc", "vorn_toml_diagnosis.pc"]:
+        raise Failure(f"the pkg-config files are {files}")
     return {
         "the CMake package": package,
-        "the pkg-config file": run([options.pkg_config, "--modversion", pc]).strip(),
+        **{file.name: run([options.pkg_config, "--modversion", file]).strip() for file in files},
     }
+
+
+def file_version(library):
+    return pathlib.Path(library).resolve().name.partition(".so.")[2]
 
 
 def versions(options):
@@ -47,34 +55,46 @@ def versions(options):
     return {
         "the header": header,
         "the library": runtime,
-        "the library's file": pathlib.Path(options.library).resolve().name.partition(".so.")[2],
+        "the library's file": file_version(options.library),
+        "the diagnosis's file": file_version(options.diagnosis),
         "the manual page": matched(r'^\.TH .*"vorn_parsers ([^"]*)"', page, "the manual page"),
         "the changelog": matched(r"^## \[?([^\s\]]*)", changelog, "the changelog"),
         **installed,
     }
 
 
+def check_links(options, library, soname, needed):
+    """The name of a library, and which of ours it needs: no other, or it links too much."""
+    dynamic = run([options.readelf, "--dynamic", "--wide", library])
+    found = matched(r"\(SONAME\).*\[(.*)\]", dynamic, library)
+    if found != soname:
+        raise Failure(f"the SONAME is {found}, not {soname}")
+    ours = set(re.findall(r"\(NEEDED\).*\[(lib(?:vorn|antlr3c).*)\]", dynamic))
+    if ours != needed:
+        raise Failure(f"{soname} needs {sorted(ours)}, not {sorted(needed)}")
+
+
 def main():
     parser = argparse.ArgumentParser()
-    for name in ("version", "soversion", "program", "library", "build", "manual-page", "changelog", "cmake",
-                 "pkg-config", "readelf"):
+    for name in ("version", "soversion", "diagnosis-soversion", "program", "library", "diagnosis",
+                 "build", "manual-page", "changelog", "cmake", "pkg-config", "readelf"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
     try:
         named = versions(options)
-        dynamic = run([options.readelf, "--dynamic", "--wide", options.library])
-        soname = matched(r"\(SONAME\).*\[(.*)\]", dynamic, "the library")
+        parsers = f"libvorn_parsers.so.{options.soversion}"
+        runtime = "libantlr3c-3.4.so.0"
+        check_links(options, options.library, parsers, {runtime, UTILS})
+        check_links(options, options.diagnosis,
+                    f"libvorn_toml_diagnosis.so.{options.diagnosis_soversion}", {runtime, parsers})
     except Failure as failure:
         sys.exit(str(failure))
 
     wrong = {what: version for what, version in named.items() if version != options.version}
     for what, version in wrong.items():
         print(f"{what} has version {version}, the project {options.version}")
-    right_soname = f"libvorn_parsers.so.{options.soversion}"
-    if soname != right_soname:
-        print(f"the SONAME is {soname}, not {right_soname}")
     print(f"version {options.version}, {len(named)} others")
-    return 1 if wrong or soname != right_soname else 0
+    return 1 if wrong else 0
 
 
 if __name__ == "__main__":

@@ -39,6 +39,7 @@
 namespace vorn::parsers::toml
 {
 
+// How bad a finding is.
 enum class Severity
 {
     error,   // the document is rejected; with `strict`: or is not TOML 1.0
@@ -53,23 +54,27 @@ enum class Severity
 // Another place that a finding is about, such as the first definition of a key.
 struct RelatedPlace
 {
+    // Its bytes, lines and columns, as those of a finding.
     std::size_t begin = 0;
     std::size_t end = 0; // after the last byte
     std::size_t line = 1;
     std::size_t column = 1;
     std::size_t endLine = 1;
     std::size_t endColumn = 1; // after the last character
-    std::string message;       // "the array was opened here"
+    // What is there, as "the array was opened here".
+    std::string message;
 };
 
 // What there is to say about one place of a document.
 struct Finding
 {
+    // Whether it is an error.
     Severity severity = Severity::error;
     // The bytes that it is about.  begin and end are the same where something is
     // missing: there it belongs.  Both are at most the size of the document.
     std::size_t begin = 0;
     std::size_t end = 0; // after the last byte
+    // Where these are for editors.
     std::size_t line = 1;
     std::size_t column = 1;
     std::size_t endLine = 1;
@@ -81,9 +86,11 @@ struct Finding
     // whoever wrote the document.  They may change from version to version.
     std::string message;
     std::string hint; // may be empty
+    // Other places that have to do with it.
     std::vector<RelatedPlace> related;
 };
 
+// What diagnose() looks for.
 struct DiagnosisOptions
 {
     // Whether what the library accepts and TOML 1.0 forbids is an error, too: keys
