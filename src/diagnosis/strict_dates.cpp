@@ -1,6 +1,7 @@
 #include "strict_dates.h"
 
 #include <cstddef>
+#include <numeric>
 
 #include "strict_mistakes.h"
 
@@ -15,12 +16,9 @@ constexpr std::size_t offsetLength = 6; // +00:00
 
 unsigned numberOf(std::string_view digits)
 {
-    unsigned number = 0;
-    for (const char c : digits)
-    {
-        number = number * 10 + static_cast<unsigned>(c - '0');
-    }
-    return number;
+    return std::accumulate(digits.begin(), digits.end(), 0U,
+                           [](unsigned number, char c)
+                           { return number * 10 + static_cast<unsigned>(c - '0'); });
 }
 
 std::string_view daysOf(unsigned month, unsigned year)

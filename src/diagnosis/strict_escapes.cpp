@@ -1,5 +1,7 @@
 #include "strict_escapes.h"
 
+#include <numeric>
+
 #include "scan/escape.h"
 #include "strict_mistakes.h"
 
@@ -57,11 +59,10 @@ Escape nextEscape(std::string_view text, std::size_t at)
         return {text.substr(backslash, 2), shortEscapeCode(kind)};
     }
     const auto count = static_cast<std::size_t>(digits);
-    std::uint32_t code = 0;
-    for (const char c : text.substr(backslash + 2, count))
-    {
-        code = code << 4 | hexDigitValue(c);
-    }
+    const std::string_view number = text.substr(backslash + 2, count);
+    const auto code =
+        std::accumulate(number.begin(), number.end(), std::uint32_t{0},
+                        [](std::uint32_t value, char c) { return value << 4 | hexDigitValue(c); });
     return {text.substr(backslash, 2 + count), code};
 }
 

@@ -42,23 +42,20 @@ void StrictMistakes::add(const StrictRule& rule, std::string_view place, std::st
         {
             return;
         }
-        std::move_backward(next, mistakes_.end() - 1, mistakes_.end());
+        mistakes_.pop_back();
     }
-    else
-    {
-        next = mistakes_.emplace(next);
-    }
-    *next = {Severity::error,
-             begin,
-             begin + place.size(),
-             rule.code,
-             filled(rule.message, known),
-             filled(rule.hint, knownInHint)};
+    Mistake mistake = {Severity::error,
+                       begin,
+                       begin + place.size(),
+                       rule.code,
+                       filled(rule.message, known),
+                       filled(rule.hint, knownInHint)};
     if (!origin.empty())
     {
         const std::size_t first = offsetOf(origin);
-        next->origins.push_back({first, first + origin.size(), "it is defined here first"});
+        mistake.origins.push_back({first, first + origin.size(), "it is defined here first"});
     }
+    mistakes_.insert(next, std::move(mistake));
 }
 
 std::vector<Mistake> StrictMistakes::take()

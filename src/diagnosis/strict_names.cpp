@@ -35,12 +35,12 @@ Names::Found Names::at(TableId table, std::string_view part)
     {
         if (isAt(slot, table, hash, name))
         {
-            return {names_[slots_[slot] - 1], false};
+            return {&names_[slots_[slot] - 1], false};
         }
     }
     names_.push_back({part.data(), table, 0, hash, NameKind::value});
     slots_[slot] = static_cast<std::uint32_t>(names_.size());
-    return {names_.back(), true};
+    return {&names_.back(), true};
 }
 
 void Names::restore(State state)

@@ -57,7 +57,7 @@ public:
 
     struct Found
     {
-        Name& name;
+        Name* name;
         bool isNew; // it has no kind and no members yet
     };
     // The name that a part of a key stands for in a table.

@@ -88,69 +88,69 @@ void StrictTables::define(std::string_view key, NameKind kind)
     }
     isTableKnown_ = true;
     const auto [name, isNew] = names_.at(table, parts.part());
-    const StrictRule* const rule = isNew ? nullptr : ruleAgainst(kind, name.kind);
+    const StrictRule* const rule = isNew ? nullptr : ruleAgainst(kind, name->kind);
     if (rule != nullptr)
     {
-        addMistake(*rule, parts.part(), name);
+        addMistake(*rule, parts.part(), *name);
     }
-    if (!isNew && name.kind == NameKind::arrayOfTables)
+    if (!isNew && name->kind == NameKind::arrayOfTables)
     {
-        name.members = names_.newTable();
-        table_ = name.members;
+        name->members = names_.newTable();
+        table_ = name->members;
         return;
     }
     if (!isNew && rule == nullptr)
     {
         // Its first mention was in the header of another table.
-        name.kind = kind;
-        name.part = parts.part().data();
-        table_ = name.members;
+        name->kind = kind;
+        name->part = parts.part().data();
+        table_ = name->members;
         return;
     }
-    table_ = defineAs(name, parts.part(), kind);
+    table_ = defineAs(*name, parts.part(), kind);
 }
 
 // The table that a part of a header's key, which is not the last, stands for.
 TableId StrictTables::enterByHeader(TableId table, std::string_view part)
 {
     const auto [name, isNew] = names_.at(table, part);
-    if (!isNew && (isTable(name.kind) || name.kind == NameKind::arrayOfTables))
+    if (!isNew && (isTable(name->kind) || name->kind == NameKind::arrayOfTables))
     {
-        return name.members;
+        return name->members;
     }
     if (!isNew)
     {
-        addMistake(tableOver(name.kind), part, name);
+        addMistake(tableOver(name->kind), part, *name);
     }
-    return defineAs(name, part, NameKind::impliedTable);
+    return defineAs(*name, part, NameKind::impliedTable);
 }
 
 // The table that a part of a pair's key, which is not the last, stands for.
 TableId StrictTables::enterByDot(TableId table, std::string_view part, bool isInline)
 {
     const auto [name, isNew] = names_.at(table, part);
-    if (!isNew && name.kind == NameKind::openDottedTable)
+    if (!isNew && name->kind == NameKind::openDottedTable)
     {
-        return name.members;
+        return name->members;
     }
     if (!isInline)
     {
-        openDotted_.push_back(&name);
+        openDotted_.push_back(name);
     }
-    if (!isNew && name.kind == NameKind::impliedTable)
+    if (!isNew && name->kind == NameKind::impliedTable)
     {
-        name.kind = NameKind::openDottedTable;
-        name.part = part.data();
-        return name.members;
+        name->kind = NameKind::openDottedTable;
+        name->part = part.data();
+        return name->members;
     }
     if (!isNew)
     {
-        addMistake(isTable(name.kind) || name.kind == NameKind::arrayOfTables
+        addMistake(isTable(name->kind) || name->kind == NameKind::arrayOfTables
                        ? dottedKeyOverTable
-                       : tableOver(name.kind),
-                   part, name);
+                       : tableOver(name->kind),
+                   part, *name);
     }
-    return defineAs(name, part, NameKind::openDottedTable);
+    return defineAs(*name, part, NameKind::openDottedTable);
 }
 
 // Returns the name, unless it is defined already.
@@ -164,11 +164,11 @@ Name* StrictTables::defineValue(TableId table, std::string_view key, bool isInli
     const auto [name, isNew] = names_.at(table, parts.part());
     if (isNew)
     {
-        return &name;
+        return name;
     }
-    addMistake(isTable(name.kind) || name.kind == NameKind::arrayOfTables ? valueOverTable
-                                                                          : duplicateKey,
-               parts.part(), name);
+    addMistake(isTable(name->kind) || name->kind == NameKind::arrayOfTables ? valueOverTable
+                                                                            : duplicateKey,
+               parts.part(), *name);
     return nullptr;
 }
 

@@ -9,6 +9,7 @@ namespace vorn::parsers::toml::diagnosis
 {
 
 class StrictMistakes;
+struct StrictRule;
 
 // Defines the tables and keys of a document one after another, by the rules of TOML 1.0: each
 // is defined once.  After a mistake a table takes the place of what was there, as if that had
@@ -39,7 +40,7 @@ public:
     struct InlineTable
     {
         Names::State before;
-        TableId members;
+        TableId members = 0;
     };
     InlineTable beginInlineTable();
     void endInlineTable(const InlineTable& table) { names_.restore(table.before); }
@@ -53,7 +54,7 @@ private:
     Name* defineValue(TableId table, std::string_view key, bool isInline);
 
     TableId defineAs(Name& name, std::string_view part, NameKind kind);
-    void addMistake(const struct StrictRule& rule, std::string_view part, const Name& name);
+    void addMistake(const StrictRule& rule, std::string_view part, const Name& name);
 
     const char* documentEnd_;
     StrictMistakes& mistakes_;

@@ -70,6 +70,11 @@ void StrictDocuments::header()
     };
     bracket("[");
     blanks();
+    if (random_.oneIn(3))
+    {
+        // Tables in the same one meet in dotted keys below its header.
+        add("a.");
+    }
     key();
     blanks();
     bracket("]");

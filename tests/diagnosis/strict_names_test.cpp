@@ -27,7 +27,7 @@ TEST(StrictNames, areFoundAgain)
     {
         const Names::Found found = names.at(0, part);
         EXPECT_FALSE(found.isNew);
-        EXPECT_EQ(found.name.part, text.data());
+        EXPECT_EQ(found.name->part, text.data());
     }
     EXPECT_TRUE(names.at(0, text.substr(19, 1)).isNew);
     EXPECT_TRUE(names.at(0, text.substr(21, 2)).isNew);
