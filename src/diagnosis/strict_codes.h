@@ -17,15 +17,15 @@ struct StrictRule
 inline constexpr StrictRule duplicateKey = {
     "duplicate-key", "the key% is defined twice",
     "A table has each key once. Remove one of the two, or give it another name."};
-inline constexpr StrictRule duplicateTable = {
-    "duplicate-table", "the table% is defined twice",
-    "Put all pairs of a table below one header. Elements of an array of tables have [[ and ]]."};
+inline constexpr StrictRule duplicateTable = {"duplicate-table", "the table% is defined twice",
+                                              "Put all pairs of a table below one header. Elements "
+                                              "of an array of tables are written [[key]]."};
 inline constexpr StrictRule tableOverValue = {
     "table-over-value", "the key% has a value already, so it cannot be a table",
-    "Give the table another name, or the value."};
+    "Rename the table or the value."};
 inline constexpr StrictRule valueOverTable = {
     "value-over-table", "the key% is a table already, so it cannot have a value",
-    "Give the value another name, or the table."};
+    "Rename the value or the table."};
 inline constexpr StrictRule tableOverArray = {
     "table-over-array-of-tables", "the key% is an array of tables already",
     "Write [[ and ]] around the key to add an element, or give the table another name."};
@@ -81,7 +81,8 @@ inline constexpr StrictRule escapedApostrophe = {
 
 // Bytes
 inline constexpr StrictRule nul = {
-    "nul", "% not allowed", "Write \\u0000 in a string with double quotes instead. Is it a text?"};
+    "nul", "% not allowed",
+    "In a string with double quotes, write \\u0000 instead. Perhaps the file is not a text."};
 inline constexpr StrictRule controlCharacter = {
     "control-character", "% not allowed",
     "In a string with double quotes, write \\u% instead. Of control characters only tabs and line "

@@ -17,11 +17,10 @@ enum class NameKind : std::uint8_t
 {
     value,
     inlineTable,
-    array,           // between its brackets
-    impliedTable,    // by the headers of tables in it
-    headedTable,     // by a header of its own
-    openDottedTable, // by a dotted key below the current header, or in the same inline table
-    dottedTable,     // by a dotted key below an earlier header
+    array,        // between its brackets
+    impliedTable, // by the headers of tables in it
+    headedTable,  // by a header of its own
+    dottedTable,  // by dotted keys
     arrayOfTables,
 };
 

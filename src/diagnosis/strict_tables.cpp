@@ -11,7 +11,7 @@ namespace
 bool isTable(NameKind kind)
 {
     return kind == NameKind::impliedTable || kind == NameKind::headedTable ||
-           kind == NameKind::openDottedTable || kind == NameKind::dottedTable;
+           kind == NameKind::dottedTable;
 }
 
 // The rule for a table in the place of what is none.
@@ -45,7 +45,6 @@ const StrictRule* ruleAgainst(NameKind header, NameKind there)
 
 void StrictTables::forget()
 {
-    openDotted_.clear();
     names_.restore({});
     leaveTable();
 }
@@ -56,7 +55,7 @@ void StrictTables::definePair(std::string_view key, NameKind value)
     {
         return;
     }
-    if (Name* const name = defineValue(table_, key, false))
+    if (Name* const name = defineValue(table_, key))
     {
         name->kind = value;
     }
@@ -70,16 +69,11 @@ StrictTables::InlineTable StrictTables::beginInlineTable()
 
 Name* StrictTables::definePair(const InlineTable& table, std::string_view key)
 {
-    return defineValue(table.members, key, true);
+    return defineValue(table.members, key);
 }
 
 void StrictTables::define(std::string_view key, NameKind kind)
 {
-    for (Name* const name : openDotted_)
-    {
-        name->kind = NameKind::dottedTable;
-    }
-    openDotted_.clear();
     TableId table = 0;
     KeyParts parts(key);
     for (; !parts.isLast(); parts.next())
@@ -126,20 +120,18 @@ TableId StrictTables::enterByHeader(TableId table, std::string_view part)
 }
 
 // The table that a part of a pair's key, which is not the last, stands for.
-TableId StrictTables::enterByDot(TableId table, std::string_view part, bool isInline)
+TableId StrictTables::enterByDot(TableId table, std::string_view part)
 {
     const auto [name, isNew] = names_.at(table, part);
-    if (!isNew && name->kind == NameKind::openDottedTable)
+    // Only dotted keys below the same header, or in the same inline table, get to it: those below
+    // another header meet the table of this one on their way.
+    if (!isNew && name->kind == NameKind::dottedTable)
     {
         return name->members;
     }
-    if (!isInline)
-    {
-        openDotted_.push_back(name);
-    }
     if (!isNew && name->kind == NameKind::impliedTable)
     {
-        name->kind = NameKind::openDottedTable;
+        name->kind = NameKind::dottedTable;
         name->part = part.data();
         return name->members;
     }
@@ -150,16 +142,16 @@ TableId StrictTables::enterByDot(TableId table, std::string_view part, bool isIn
                        : tableOver(name->kind),
                    part, *name);
     }
-    return defineAs(*name, part, NameKind::openDottedTable);
+    return defineAs(*name, part, NameKind::dottedTable);
 }
 
 // Returns the name, unless it is defined already.
-Name* StrictTables::defineValue(TableId table, std::string_view key, bool isInline)
+Name* StrictTables::defineValue(TableId table, std::string_view key)
 {
     KeyParts parts(key);
     for (; !parts.isLast(); parts.next())
     {
-        table = enterByDot(table, parts.part(), isInline);
+        table = enterByDot(table, parts.part());
     }
     const auto [name, isNew] = names_.at(table, parts.part());
     if (isNew)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string_view>
-#include <vector>
 
 #include "strict_names.h"
 
@@ -50,8 +49,8 @@ public:
 private:
     void define(std::string_view key, NameKind kind);
     TableId enterByHeader(TableId table, std::string_view part);
-    TableId enterByDot(TableId table, std::string_view part, bool isInline);
-    Name* defineValue(TableId table, std::string_view key, bool isInline);
+    TableId enterByDot(TableId table, std::string_view part);
+    Name* defineValue(TableId table, std::string_view key);
 
     TableId defineAs(Name& name, std::string_view part, NameKind kind);
     void addMistake(const StrictRule& rule, std::string_view part, const Name& name);
@@ -61,7 +60,6 @@ private:
     Names names_;
     TableId table_ = 0;
     bool isTableKnown_ = true;
-    std::vector<Name*> openDotted_; // of the current table
 };
 
 } // namespace vorn::parsers::toml::diagnosis

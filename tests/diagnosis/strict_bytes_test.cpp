@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "strict_mistakes_of.h"
+#include "support/guarded_memory.h"
 #include "support/utf8.h"
 
 using namespace vorn::parsers::toml::diagnosis;
@@ -107,6 +108,17 @@ TEST(StrictBytes, lineBreaks)
     EXPECT_EQ(found("a\r\nb\n\r\n\r\n"), "");
     EXPECT_EQ(found("a\r\r\nb\r"), "lone-carriage-return at 1 \r\nlone-carriage-return at 5 \r\n");
     EXPECT_EQ(found("\r\r\r"), "lone-carriage-return at 0 \r\r\r\n");
+}
+
+TEST(StrictBytes, nothingIsReadAfterTheEnd)
+{
+    test::GuardedMemory memory(64);
+    for (const std::string text :
+         {"", "\r", "a\r", "\r\n", "\xE2", "\xE2\x82", "abcdefgh\xF0", "abc"})
+    {
+        const std::string_view held(memory.hold(text), text.size());
+        EXPECT_EQ(findForbiddenBytes(held, 0).size(), findForbiddenBytes(text, 0).size());
+    }
 }
 
 TEST(StrictBytes, aByteOrderMarkIsACharacter)

@@ -57,6 +57,7 @@ TEST(StrictSink, whatIsBeforeAnInvalidPairIsKnownAfterIt)
 {
     EXPECT_EQ(found("a = 1\nb = \na = 2\n"), "duplicate-key at 11 a, first at 0 a\n");
     EXPECT_EQ(found("a = 1\nb.c = 1 2\na = 2\n"), "duplicate-key at 16 a, first at 0 a\n");
+    EXPECT_EQ(found("a = 1\nb = [{c = [1]}] 2\na = 2\n"), "duplicate-key at 24 a, first at 0 a\n");
     EXPECT_EQ(found("[a]\nb = {c = 1} d\n[a]\n"), "duplicate-table at 19 a, first at 1 a\n");
 }
 

@@ -3,7 +3,8 @@
 
 #include <string>
 
-#include "diagnosis/mistake.h"
+#include "diagnosis/strict_mistakes.h"
+#include "diagnosis/strict_tables.h"
 #include "strict_mistakes_of.h"
 
 using namespace test;
@@ -174,12 +175,26 @@ TEST(StrictTables, oneConfusionIsOneMistake)
     });
 }
 
+TEST(StrictTables, inlineTablesLeaveNothingBehind)
+{
+    using namespace vorn::parsers::toml::diagnosis;
+    const std::string document = "a.b";
+    StrictMistakes mistakes(document, 0);
+    StrictTables tables(document.data() + document.size(), mistakes);
+    const StrictTables::InlineTable first = tables.beginInlineTable();
+    EXPECT_NE(tables.definePair(first, document), nullptr);
+    tables.endInlineTable(first);
+    const StrictTables::InlineTable second = tables.beginInlineTable();
+    EXPECT_EQ(second.before.count, first.before.count);
+    EXPECT_EQ(second.members, first.members);
+}
+
 TEST(StrictTables, words)
 {
     const auto mistakes = strictMistakes("[a.'b c']\n[a]\n'b c' = 1\n");
     ASSERT_EQ(mistakes.size(), 1U);
     EXPECT_EQ(mistakes[0].message, "the key 'b c' is a table already, so it cannot have a value");
-    EXPECT_EQ(mistakes[0].hint, "Give the value another name, or the table.");
+    EXPECT_EQ(mistakes[0].hint, "Rename the value or the table.");
     EXPECT_EQ(strictMistakes("\"\t\" = 1\n'\t' = 1\n").at(0).message, "the key is defined twice");
 }
 
