@@ -5,14 +5,11 @@
 
 #include "mistake.h"
 #include "recognition.h"
+#include "string_words.h"
 
 namespace vorn::parsers::toml::diagnosis
 {
 
 Mistake mistakeOf(const LexicalError& error, std::string_view text);
-
-// Whether the error is in a multi-line string.  Then strings and the text between them are
-// swapped in the rest of the document.
-bool isInLongString(const LexicalError& error, std::string_view text);
 
 } // namespace vorn::parsers::toml::diagnosis

@@ -30,6 +30,7 @@ enum class Due
 struct Place
 {
     Due due = Due::statement;
+    std::size_t begin = 0;      // of the statement, if it has begun
     bool isOpen = false;        // whether it is within brackets
     DocumentToken opening = {}; // the innermost of these
     bool isInTable = false;     // whether that is the brace of an inline table
@@ -58,6 +59,7 @@ private:
     void leave();
 
     Due due_ = Due::statement;
+    std::size_t begin_ = 0;
     std::vector<DocumentToken> enclosing_; // the brackets of open arrays and inline tables
     unsigned breaks_ = 0;
     DocumentToken newline_ = {};

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "characters.h"
+#include "codes.h"
 #include "scan/utf8.h"
 
 namespace vorn::parsers::toml::diagnosis
@@ -71,10 +72,29 @@ Finding findingOf(Mistake&& mistake)
     return finding;
 }
 
+// In a document of another encoding nothing else means anything: its first error is all.
+void leaveOutConsequences(std::vector<Mistake>& mistakes)
+{
+    const auto isOther = [](const Mistake& one) { return one.code == codes::utf16; };
+    const auto isOtherError = [&](const Mistake& one)
+    { return isOther(one) && one.severity == Severity::error; };
+    auto other = std::find_if(mistakes.begin(), mistakes.end(), isOtherError);
+    other =
+        other == mistakes.end() ? std::find_if(mistakes.begin(), mistakes.end(), isOther) : other;
+    const bool hasOtherErrors =
+        std::any_of(mistakes.begin(), mistakes.end(),
+                    [&](const Mistake& one) { return one.severity == Severity::error; });
+    if (other != mistakes.end() && (other->severity == Severity::error || !hasOtherErrors))
+    {
+        mistakes = {std::move(*other)};
+    }
+}
+
 } // namespace
 
 std::vector<Finding> located(std::string_view text, std::vector<Mistake>&& mistakes)
 {
+    leaveOutConsequences(mistakes);
     std::vector<Finding> findings;
     findings.reserve(mistakes.size());
     for (Mistake& mistake : mistakes)
