@@ -36,7 +36,8 @@ bool isAfterOpening(const Site& site)
 {
     const std::size_t opening = site.place.opening.begin;
     return site.found.type == TokenType::closeBrace ||
-           site.text.substr(opening, site.found.begin - opening).find('\n') != site.text.npos;
+           site.text.substr(opening, site.found.begin - opening).find('\n') !=
+               std::string_view::npos;
 }
 
 Words forClosing(const Place& place)

@@ -81,16 +81,18 @@ std::string quotedKeyAround(std::string_view text, std::size_t at)
     constexpr std::string_view ends = "\n=\"'#,{}[]";
     const std::size_t begin = at == 0 ? 0 : text.find_last_of(ends, at - 1) + 1;
     const std::size_t end = text.find_first_of(ends, at);
-    const std::size_t bracket = begin == 0 ? text.npos : text.find_last_not_of('[', begin - 1);
-    const bool isHeader =
-        begin > 0 && text[begin - 1] == '[' && (bracket == text.npos || text[bracket] == '\n');
+    const std::size_t bracket =
+        begin == 0 ? std::string_view::npos : text.find_last_not_of('[', begin - 1);
+    const bool isHeader = begin > 0 && text[begin - 1] == '[' &&
+                          (bracket == std::string_view::npos || text[bracket] == '\n');
     const bool isPair = begin == 0 || text[begin - 1] == '\n' || text[begin - 1] == '{';
-    if (end == text.npos || !(isHeader ? text[end] == ']' : isPair && text[end] == '='))
+    if (end == std::string_view::npos ||
+        !(isHeader ? text[end] == ']' : isPair && text[end] == '='))
     {
         return {};
     }
     const std::string_view key = restOfLine(text.substr(0, end), begin);
-    return key.find('.') == key.npos ? inQuotes(key) : std::string();
+    return key.find('.') == std::string_view::npos ? inQuotes(key) : std::string();
 }
 
 std::string hintAt(std::string_view text, std::size_t at, char32_t code)
@@ -104,7 +106,7 @@ std::string hintAt(std::string_view text, std::size_t at, char32_t code)
     {
         const std::string_view rest = restOfLine(text, at);
         return rest.size() == 1 ? "Pairs and headers end without a semicolon."
-               : rest.find('=') != rest.npos
+               : rest.find('=') != std::string_view::npos
                    ? "Put each pair on its own line."
                    : "Elements are separated by commas. A comment starts with '#'.";
     }

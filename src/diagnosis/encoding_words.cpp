@@ -77,6 +77,17 @@ Mistake malformedBytes(std::string_view text, std::size_t at, Severity severity)
                   "file as UTF-8."};
 }
 
+std::optional<Mistake> malformedIn(std::string_view part, std::string_view text)
+{
+    const std::size_t at = findMalformed(part);
+    if (at == std::string_view::npos)
+    {
+        return std::nullopt;
+    }
+    const auto begin = static_cast<std::size_t>(part.data() - text.data());
+    return malformedBytes(text, begin + at, Severity::error);
+}
+
 bool isUtf16(std::string_view text)
 {
     constexpr std::size_t looked = 64;

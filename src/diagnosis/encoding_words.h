@@ -13,6 +13,9 @@ namespace vorn::parsers::toml::diagnosis
 // Bytes that are not valid UTF-8.
 Mistake malformedBytes(std::string_view text, std::size_t at, Severity severity);
 
+// That of a part of the text, if it has such bytes.
+std::optional<Mistake> malformedIn(std::string_view part, std::string_view text);
+
 // Whether the document is UTF-16: then nothing in it means anything.
 bool isUtf16(std::string_view text);
 Mistake otherEncoding(std::size_t at, Severity severity);

@@ -45,8 +45,8 @@ bool hasShape(std::string_view text, std::size_t at, std::string_view shape)
 
 std::size_t lineBegin(std::string_view text, std::size_t at)
 {
-    const std::size_t lineBreak = at == 0 ? text.npos : text.rfind('\n', at - 1);
-    return lineBreak == text.npos ? 0 : lineBreak + 1;
+    const std::size_t lineBreak = at == 0 ? std::string_view::npos : text.rfind('\n', at - 1);
+    return lineBreak == std::string_view::npos ? 0 : lineBreak + 1;
 }
 
 Mistake errorAt(std::size_t begin, std::size_t end, const char* code, std::string message,
@@ -104,12 +104,24 @@ Mistake inDateTime(const LexicalError& error, std::string_view text)
                    "expected digits after the dot of the time", std::string(timeHint));
 }
 
+bool isAfterString(std::size_t begin, std::string_view text)
+{
+    const std::size_t before = begin == 0 ? begin : text.find_last_not_of(" \t", begin - 1);
+    return before != std::string_view::npos && isQuote(text[before]);
+}
+
 Mistake inNumber(const LexicalError& error, std::string_view text)
 {
     const std::string hint = "A float is written 1.5, 1e6 or 1.5e-6, with digits on both sides of "
                              "the dot and after the e.";
     if (byteAt(text, error.begin) == '+' && error.at <= error.begin + 1)
     {
+        if (isAfterString(error.begin, text))
+        {
+            return errorAt(error.begin, error.begin + 1, codes::extraText,
+                           "expected the end of the line, found '+'",
+                           "Strings cannot be joined. Write them as one.");
+        }
         return errorAt(error.begin, error.begin + 1, codes::invalidNumber,
                        "expected a number after '+'",
                        "A plus sign may only start a number: +1, +1.5 or +inf.");
@@ -133,7 +145,7 @@ bool isMeantAsNumber(const LexicalError& error, std::string_view value, std::str
 {
     return value == "+" || hasShape(text, error.begin, date) ||
            (isTimeOrDate(error, text) &&
-            value.find_first_not_of("0123456789:-+.Zz ") == value.npos);
+            value.find_first_not_of("0123456789:-+.Zz ") == std::string_view::npos);
 }
 
 // Bytes of other encodings, and characters that are not allowed anywhere.
@@ -178,6 +190,10 @@ std::optional<Mistake> asItIsMeant(const LexicalError& error, std::string_view t
     const std::string_view value = unquotedAround(text, error.begin);
     if (!value.empty() && !isOnlyMistyped(text, error.begin))
     {
+        if (auto mistake = malformedIn(value, text))
+        {
+            return mistake;
+        }
         const auto begin = static_cast<std::size_t>(value.data() - text.data());
         Words words = forUnquoted(value);
         if (words.code == codes::unquotedString && isMeantAsNumber(error, value, text))

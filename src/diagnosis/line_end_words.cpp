@@ -14,9 +14,9 @@ namespace
 std::string withQuotesIn(std::string_view rest)
 {
     const bool isClear = rest.size() > 2 && rest.back() == rest[0] && rest[1] != rest[0] &&
-                         rest.find_first_of("#=,[]{}\\") == rest.npos;
+                         rest.find_first_of("#=,[]{}\\") == std::string_view::npos;
     const std::string string = isClear ? inQuotes(rest.substr(1, rest.size() - 2)) : "";
-    return string.find('\\') == string.npos ? string : std::string();
+    return string.find('\\') == std::string_view::npos ? string : std::string();
 }
 
 } // namespace
@@ -30,7 +30,9 @@ Words forLineEnd(const Site& site)
 {
     constexpr const char* code = codes::extraText;
     const TokenType type = site.found.type;
-    if (isString(site.before.type) && site.before.end == site.found.begin)
+    const bool isPunctuation = type == TokenType::comma || type == TokenType::equals ||
+                               type == TokenType::closeBracket || type == TokenType::closeBrace;
+    if (isString(site.before.type) && site.before.end == site.found.begin && !isPunctuation)
     {
         const bool isBasic = site.text[site.before.begin] == '"';
         const std::string meant = withQuotesIn(restOfLine(site.text, site.before.begin));

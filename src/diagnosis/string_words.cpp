@@ -73,9 +73,9 @@ std::string asLiteral(const LexicalError& error, std::string_view text)
     const std::string_view content = text.substr(error.begin + 1, end - error.begin - 1);
     const std::string literal = inQuotes(content);
     // Of other escapes in it these would be a part, too.
-    const bool isMeant = content.find("\\\"") == content.npos &&
-                         content.find("\\n") == content.npos &&
-                         content.find("\\\\") == content.npos;
+    const bool isMeant = content.find("\\\"") == std::string_view::npos &&
+                         content.find("\\n") == std::string_view::npos &&
+                         content.find("\\\\") == std::string_view::npos;
     return isMeant && !literal.empty() && literal[0] == '\'' ? literal : std::string();
 }
 

@@ -99,7 +99,7 @@ std::string_view keyOfHeader(const Site& site)
     const std::string_view key = text.substr(begin, end - begin);
     const bool isClosed = end < text.size() && text[end] == ']' && end > site.found.begin;
     return isClosed && site.found.type == TokenType::bareKey && !inQuotes(key).empty() &&
-                   key.find_first_of("\"'.=#\\") == key.npos
+                   key.find_first_of("\"'.=#\\") == std::string_view::npos
                ? key
                : std::string_view();
 }
@@ -240,6 +240,10 @@ Mistake mistakeAt(const Site& site)
     }
     Words words = wordsFor(site);
     const bool isLonger = !words.about.empty();
+    if (auto mistake = malformedIn(words.about, site.text))
+    {
+        return std::move(*mistake);
+    }
     const std::size_t begin =
         isLonger ? static_cast<std::size_t>(words.about.data() - site.text.data()) : placed(site);
     const std::size_t end = isLineEnd(site.found.type) ? begin : site.found.end;

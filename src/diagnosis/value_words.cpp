@@ -156,7 +156,8 @@ std::string_view continuedValue(const Site& site)
     const std::string_view value = unquotedAt(site.text, site.before.begin, site.place.isOpen);
     const std::size_t size = site.before.end - site.before.begin;
     // (A list with blanks is one, or the start of another pair.)
-    const bool goesOn = value.size() > size && (!isList || value.find(' ') == value.npos);
+    const bool goesOn =
+        value.size() > size && (!isList || value.find(' ') == std::string_view::npos);
     return goesOn ? value : std::string_view();
 }
 

@@ -55,6 +55,10 @@ TEST(DiagnosisOfMistakenText, bytesOfOtherEncodings)
          {{"1:10-1:11", "not-utf8", "the byte FC is not valid UTF-8",
            "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xbc'. Save the file "
            "as UTF-8."}}},
+        {"name = M\xfcller\n",
+         {{"1:9-1:10", "not-utf8", "the byte FC is not valid UTF-8",
+           "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xbc'. Save the file "
+           "as UTF-8."}}},
         {"name = \"\xfc\"\n",
          {{"1:9-1:10", "not-utf8", "the byte FC is not valid UTF-8",
            "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xbc'. Save the file "
