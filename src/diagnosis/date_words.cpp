@@ -1,11 +1,12 @@
 #include "date_words.h"
 
+#include <algorithm>
 #include <array>
+#include <numeric>
 #include <string>
 
 #include "codes.h"
 #include "token_words.h"
-#include "unquoted.h"
 
 namespace vorn::parsers::toml::diagnosis
 {
@@ -63,11 +64,9 @@ bool isAtMost(std::string_view number, unsigned most)
     {
         return false;
     }
-    unsigned value = 0;
-    for (const char c : number)
-    {
-        value = 10 * value + static_cast<unsigned>(c - '0');
-    }
+    const unsigned value = std::accumulate(
+        number.begin(), number.end(), 0U,
+        [](unsigned sum, char digit) { return 10 * sum + static_cast<unsigned>(digit - '0'); });
     return value > 0 && value <= most;
 }
 

@@ -5,7 +5,6 @@
 
 #include "codes.h"
 #include "token_words.h"
-#include "unquoted.h"
 
 namespace vorn::parsers::toml::diagnosis
 {

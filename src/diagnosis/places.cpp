@@ -1,6 +1,7 @@
 #include "places.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "characters.h"
 #include "codes.h"
@@ -97,10 +98,8 @@ std::vector<Finding> located(std::string_view text, std::vector<Mistake>&& mista
     leaveOutConsequences(mistakes);
     std::vector<Finding> findings;
     findings.reserve(mistakes.size());
-    for (Mistake& mistake : mistakes)
-    {
-        findings.push_back(findingOf(std::move(mistake)));
-    }
+    std::transform(mistakes.begin(), mistakes.end(), std::back_inserter(findings),
+                   [](Mistake& mistake) { return findingOf(std::move(mistake)); });
     std::vector<Wanted> wanted;
     wanted.reserve(2 * findings.size());
     for (Finding& finding : findings)

@@ -94,8 +94,8 @@ Words forMissing(const Site& site)
 
 std::string quotedContent(std::string_view text)
 {
-    const std::string inQuotes = quoted(text);
-    return inQuotes.substr(1, inQuotes.size() - 2);
+    const std::string word = quoted(text);
+    return word.substr(1, word.size() - 2);
 }
 
 Words forUnquoted(std::string_view value)
