@@ -146,7 +146,14 @@ private:
         lastPlace_ = place;
         lastLine_ = lines_.lineOf(place);
         hasMistake_ = true;
-        mistakes_.push_back(std::move(mistake));
+        // (Several errors of a statement may follow from the same bytes before them.)
+        const auto before =
+            std::find_if(mistakes_.rbegin(), mistakes_.rend(),
+                         [&mistake](const Mistake& one) { return one.begin <= mistake.begin; });
+        if (before == mistakes_.rend() || before->begin != mistake.begin)
+        {
+            mistakes_.push_back(std::move(mistake));
+        }
     }
 
     // The parser accepts a document without the last line break, the walk over its tree does not.

@@ -78,6 +78,10 @@ TEST(DiagnosisOfMistakenText, bytesOfOtherEncodings)
          {{"1:14-1:15", "not-utf8", "the byte E9 is not valid UTF-8",
            "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xa9'. Save the file "
            "as UTF-8."}}},
+        {"a = [\n1, # caf\xe9\n2, 3,\n{b = 1 2},\n{d = \n",
+         {{"2:9-2:10", "not-utf8", "the byte E9 is not valid UTF-8",
+           "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xa9'. Save the file "
+           "as UTF-8."}}},
         {"a = \x93x\x94\n",
          {{"1:5-1:6", "not-utf8", "the byte 93 is not valid UTF-8",
            "It looks like Windows-1252. Save the file as UTF-8."}}},
