@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "codes.h"
 #include "token_words.h"
 #include "value_words.h"
 
@@ -22,26 +23,37 @@ std::size_t lineOf(std::size_t offset, std::string_view text)
 Words unclosed(const Site& site)
 {
     const std::size_t line = lineOf(site.place.opening.begin, site.text);
-    return {"unclosed-array",
+    return {codes::unclosedArray,
             "the array opened on line " + std::to_string(line) + " is not closed before " +
                 described(site.found, site.foundText()),
-            "Close it with ']' after its last element."};
+            "Close it with ']' after its last element.",
+            {},
+            true};
+}
+
+// Whether the opening bracket is on an earlier line, or the wrong one closes it.
+bool isAfterOpening(const Site& site)
+{
+    const std::size_t opening = site.place.opening.begin;
+    return site.found.type == TokenType::closeBrace ||
+           site.text.substr(opening, site.found.begin - opening).find('\n') !=
+               std::string_view::npos;
 }
 
 Words forClosing(const Place& place)
 {
     if (place.due == Due::firstElement)
     {
-        return {"empty-array", "the array is empty",
+        return {codes::emptyArray, "the array is empty",
                 "An array needs at least one element. Leave the key out instead."};
     }
     if (place.due == Due::element)
     {
-        return {"bracket-on-own-line", "']' is not on the same line as the comma before it",
+        return {codes::bracketOnOwnLine, "']' is not on the same line as the comma before it",
                 "After a trailing comma, ']' must be on the same line. Without the comma, it may "
                 "be on its own line after two or more elements."};
     }
-    return {"bracket-on-own-line", "']' is on its own line after a single element",
+    return {codes::bracketOnOwnLine, "']' is on its own line after a single element",
             "']' may only be on its own line after two or more elements. Put it on the line of the "
             "element."};
 }
@@ -65,14 +77,18 @@ Words forArray(const Site& site)
     }
     if (place.due == Due::arrayEnd)
     {
-        return {"missing-comma",
-                "expected ',' or ']' after the element, found " +
-                    described(site.found, site.foundText()),
-                std::string(commaHint)};
+        const std::string_view continued = continuedValue(site);
+        return continued.empty() ? Words{codes::missingComma,
+                                         "expected ',' or ']' after the element, found " +
+                                             described(site.found, site.foundText()),
+                                         std::string(commaHint),
+                                         {},
+                                         isAfterOpening(site)}
+                                 : forUnquoted(continued);
     }
     if (type == TokenType::comma)
     {
-        return {"missing-element", "an element is missing before the comma",
+        return {codes::missingElement, "an element is missing before the comma",
                 std::string(commaHint)};
     }
     return forValue(site);
@@ -89,14 +105,14 @@ Mistake lineWithoutElement(const Site& site)
         return {Severity::error,
                 first,
                 lineEnd,
-                "comment-in-array",
+                codes::commentInArray,
                 "a line in an array contains only a comment",
                 "In an array, put comments after an element, a comma or the '['."};
     }
     return {Severity::error,
             begin,
             lineEnd,
-            "blank-line-in-array",
+            codes::blankLineInArray,
             "a line in an array contains only spaces or tabs",
             "In an array, a line without an element must be empty. Remove the spaces and tabs."};
 }

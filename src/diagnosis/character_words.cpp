@@ -3,6 +3,11 @@
 #include <cstdio>
 #include <string>
 
+#include "codes.h"
+#include "encoding_words.h"
+#include "unquoted.h"
+#include "value_words.h"
+
 namespace vorn::parsers::toml::diagnosis
 {
 namespace
@@ -17,8 +22,8 @@ std::string hintFor(char32_t code)
     {
     case ':':
         return "Write '=' between a key and its value.";
-    case ';':
-        return "Put each pair on its own line, with nothing after it. A comment starts with '#'.";
+    case '>':
+        return "A pair is written key = value.";
     case '/':
     case '!':
     case '%':
@@ -50,6 +55,69 @@ std::string hintFor(char32_t code)
     return std::string(bareKeyHint);
 }
 
+bool isCurly(char32_t code)
+{
+    return code >= 0x2018 && code <= 0x201E && code != 0x201B;
+}
+
+// A string in quotes of a word processor, with its own; empty if it is not closed.
+std::string straightened(std::string_view text, std::size_t at)
+{
+    constexpr std::size_t size = 3; // of such a quote
+    const std::string_view rest = restOfLine(text, at);
+    for (std::size_t end = size; end + size <= rest.size(); end += characterAt(rest, end).length)
+    {
+        if (isCurly(characterAt(rest, end).code))
+        {
+            return inQuotes(rest.substr(size, end - size));
+        }
+    }
+    return {};
+}
+
+// The part of a key that a character is in, in quotes; empty if it is in no key.
+std::string quotedKeyAround(std::string_view text, std::size_t at)
+{
+    constexpr std::string_view ends = "\n=\"'#,{}[]";
+    const std::size_t begin = at == 0 ? 0 : text.find_last_of(ends, at - 1) + 1;
+    const std::size_t end = text.find_first_of(ends, at);
+    const std::size_t bracket =
+        begin == 0 ? std::string_view::npos : text.find_last_not_of('[', begin - 1);
+    const bool isHeader = begin > 0 && text[begin - 1] == '[' &&
+                          (bracket == std::string_view::npos || text[bracket] == '\n');
+    const bool isPair = begin == 0 || text[begin - 1] == '\n' || text[begin - 1] == '{';
+    if (end == std::string_view::npos ||
+        !(isHeader ? text[end] == ']' : isPair && text[end] == '='))
+    {
+        return {};
+    }
+    const std::string_view key = restOfLine(text.substr(0, end), begin);
+    return key.find('.') == std::string_view::npos ? inQuotes(key) : std::string();
+}
+
+std::string hintAt(std::string_view text, std::size_t at, char32_t code)
+{
+    const std::string straight = isCurly(code) ? straightened(text, at) : "";
+    if (!straight.empty())
+    {
+        return "It looks like a quote. Write " + straight + " instead.";
+    }
+    if (code == ';')
+    {
+        const std::string_view rest = restOfLine(text, at);
+        return rest.size() == 1 ? "Pairs and headers end without a semicolon."
+               : rest.find('=') != std::string_view::npos
+                   ? "Put each pair on its own line."
+                   : "Elements are separated by commas. A comment starts with '#'.";
+    }
+    const std::string key = isOnlyMistyped(text, at) ? "" : quotedKeyAround(text, at);
+    if (!key.empty())
+    {
+        return "Bare keys consist of A-Z a-z 0-9 _ and -. Other keys need quotes: " + key + '.';
+    }
+    return hintFor(code);
+}
+
 } // namespace
 
 Mistake highCharacter(std::size_t at, const Character& character)
@@ -59,25 +127,11 @@ Mistake highCharacter(std::size_t at, const Character& character)
     return {Severity::error,
             at,
             at + character.length,
-            "high-character",
+            codes::highCharacter,
             "the character " + codeName(character.code) + " is above U+FFFF",
             "Emoji and other characters above U+FFFF are not allowed, not even in comments. In a "
             "string with double quotes, write " +
                 std::string(escape) + " instead."};
-}
-
-Mistake malformedBytes(std::string_view text, std::size_t at, Severity severity)
-{
-    char byte[8] = {};
-    std::snprintf(byte, sizeof(byte), "%02X",
-                  static_cast<unsigned>(static_cast<unsigned char>(text[at])));
-    return {severity,
-            at,
-            at + 1,
-            "not-utf8",
-            "the byte " + std::string(byte) + " is not valid UTF-8",
-            "It may be read as one character together with the bytes after it. Save the file as "
-            "UTF-8."};
 }
 
 Mistake loneCarriageReturn(std::size_t at)
@@ -85,7 +139,7 @@ Mistake loneCarriageReturn(std::size_t at)
     return {Severity::error,
             at,
             at + 1,
-            "lone-carriage-return",
+            codes::loneCarriageReturn,
             "a carriage return without a line feed after it",
             "Lines end with a line feed (LF), or with a carriage return and a line feed (CR LF)."};
 }
@@ -93,6 +147,10 @@ Mistake loneCarriageReturn(std::size_t at)
 Mistake strayCharacter(std::string_view text, std::size_t at)
 {
     const Character character = characterAt(text, at);
+    if (character.code == 0 && isUtf16(text))
+    {
+        return otherEncoding(at, Severity::error);
+    }
     const std::string seen = shown(text, character, at).text;
     const bool isPlain = character.code > 0x20 && character.code < 0x7F;
     const std::string name = isPlain ? '\'' + seen + '\''
@@ -102,9 +160,9 @@ Mistake strayCharacter(std::string_view text, std::size_t at)
     return {Severity::error,
             at,
             at + character.length,
-            "stray-character",
+            codes::strayCharacter,
             "the character " + name + " is not allowed here",
-            hintFor(character.code)};
+            hintAt(text, at, character.code)};
 }
 
 } // namespace vorn::parsers::toml::diagnosis

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "characters.h"
+#include "encoding_words.h"
 #include "mistake.h"
 
 namespace vorn::parsers::toml::diagnosis
@@ -12,9 +13,6 @@ namespace vorn::parsers::toml::diagnosis
 
 // A character above U+FFFF.
 Mistake highCharacter(std::size_t at, const Character& character);
-
-// Bytes that are not valid UTF-8.
-Mistake malformedBytes(std::string_view text, std::size_t at, Severity severity);
 
 Mistake loneCarriageReturn(std::size_t at);
 

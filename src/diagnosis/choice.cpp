@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "codes.h"
 #include "lexical_words.h"
 #include "source_lines.h"
 #include "statements.h"
@@ -162,7 +163,14 @@ private:
         lastPlace_ = place;
         lastLine_ = lines_.lineOf(place);
         hasMistake_ = true;
-        mistakes_.push_back(std::move(mistake));
+        // (Several errors of a statement may follow from the same bytes before them.)
+        const auto before =
+            std::find_if(mistakes_.rbegin(), mistakes_.rend(),
+                         [&mistake](const Mistake& one) { return one.begin <= mistake.begin; });
+        if (before == mistakes_.rend() || before->begin != mistake.begin)
+        {
+            mistakes_.push_back(std::move(mistake));
+        }
     }
 
     // The parser accepts a document without the last line break, the walk over its tree does not.
@@ -210,7 +218,7 @@ Mistake missingLineBreak(std::size_t end)
     return {Severity::error,
             end,
             end,
-            "missing-last-line-break",
+            codes::missingLastLineBreak,
             "the line break at the end of the file is missing",
             "Every pair and every header ends with a line break, including the last one."};
 }

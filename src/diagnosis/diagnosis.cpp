@@ -2,15 +2,20 @@
 
 #include <algorithm>
 
-#include "character_words.h"
 #include "characters.h"
 #include "choice.h"
+#include "codes.h"
 #include "damaged_part.h"
+#include "encoding_words.h"
 #include "location.h"
 #include "long_statement.h"
 #include "pipeline/input_stream.h"
 #include "refused_document.h"
 #include "scan/utf8.h"
+#include "selection.h"
+#include "statements.h"
+#include "strict_bytes.h"
+#include "strict_sink.h"
 #include "valid_lines.h"
 
 namespace vorn::parsers::toml
@@ -20,11 +25,21 @@ namespace diagnosis
 namespace
 {
 
+// The document goes on after a statement that is not valid.
+void skip(LastLine&)
+{
+}
+
+void skip(StrictSink& sink)
+{
+    sink.statementSkipped();
+}
+
 class Diagnosis
 {
 public:
     Diagnosis(const std::string& document, const DiagnosisOptions& options)
-        : document_(document),
+        : document_(document), options_(options),
           max_(options.maxFindings == 0 ? std::string::npos : options.maxFindings), lines_(document)
     {
     }
@@ -35,13 +50,41 @@ public:
         {
             return {tooLarge()};
         }
-        LastLine sink;
+        if (options_.strict)
+        {
+            findStrictly();
+        }
+        else
+        {
+            LastLine sink;
+            find(sink);
+        }
+        keepFirst(max_, mistakes_);
+        addWarnings();
+        leaveOutConsequences(mistakes_);
+        return std::move(mistakes_);
+    }
+
+private:
+    void findStrictly()
+    {
+        StrictSink sink(document_, options_.maxFindings);
+        find(sink);
+        addOthers(sink.takeMistakes(), mistakes_);
+        addOthers(findForbiddenBytes(document_, options_.maxFindings), mistakes_);
+    }
+
+    // The sink gets the valid lines.
+    template <typename Sink>
+    void find(Sink& sink)
+    {
         std::size_t at = lines_.pass(byteOrderMarkLength(document_), sink);
         const bool isReadDirectly = at == document_.size();
         while (at < document_.size() && mistakes_.size() < max_)
         {
             const DamagedPart damaged = damagedPart(document_, at, lines_);
-            examine(damaged);
+            skip(sink);
+            examine(damaged, sink);
             at = damaged.isLast ? document_.size() : lines_.pass(damaged.part.end, sink);
             end_ = damaged.isLast && !damaged.hasUnclosedString ? damaged.part.next.begin : end_;
         }
@@ -49,12 +92,10 @@ public:
         {
             addRefusal();
         }
-        addWarnings();
-        return std::move(mistakes_);
     }
 
-private:
-    void examine(const DamagedPart& damaged)
+    template <typename Sink>
+    void examine(const DamagedPart& damaged, Sink& sink)
     {
         if (!damaged.isLong)
         {
@@ -62,12 +103,30 @@ private:
             if (!found.isTooDeep)
             {
                 addMistakes(document_, found, mistakes_);
+                skipStatements(found.tokens, sink);
                 return;
             }
         }
         if (auto mistake = firstMistake(document_, damaged))
         {
             mistakes_.push_back(std::move(*mistake));
+        }
+    }
+
+    // The first statement of the part has been skipped.
+    template <typename Sink>
+    void skipStatements(const std::vector<DocumentToken>& tokens, Sink& sink)
+    {
+        const Statements statements(tokens);
+        bool isFirst = true;
+        for (std::size_t at = 0; at < tokens.size(); at = statements.nextAfter(at))
+        {
+            const bool isEmpty = tokens[at].type == TokenType::newline;
+            if (!isEmpty && !isFirst && !lines_.read(tokens[at].begin, sink))
+            {
+                skip(sink);
+            }
+            isFirst = isFirst && isEmpty;
         }
     }
 
@@ -82,22 +141,18 @@ private:
     // The first errors come before all warnings where there are too many.
     void addWarnings()
     {
-        mistakes_.erase(mistakes_.begin() +
-                            static_cast<std::ptrdiff_t>(std::min(mistakes_.size(), max_)),
-                        mistakes_.end());
         const std::size_t malformed = findMalformed(document_);
-        if (malformed < end_)
+        if (malformed < end_ && !options_.strict)
         {
             addWarning(malformedBytes(document_, malformed, Severity::warning));
         }
         if (end_ < document_.size())
         {
-            addWarning({Severity::warning, end_, end_ + 1, "unread-bytes",
+            addWarning({Severity::warning, end_, end_ + 1, codes::unreadBytes,
                         "the file is only read up to these bytes, which are not valid UTF-8",
                         "They are read as the end of the file. Save the file as UTF-8."});
         }
-        std::stable_sort(mistakes_.begin(), mistakes_.end(),
-                         [](const Mistake& a, const Mistake& b) { return a.begin < b.begin; });
+        keepFirst(max_, mistakes_);
     }
 
     void addWarning(Mistake&& warning)
@@ -113,6 +168,7 @@ private:
     }
 
     const std::string& document_;
+    const DiagnosisOptions& options_;
     const std::size_t max_;
     ValidLines lines_;
     std::size_t end_ = document_.size(); // where the library finds it

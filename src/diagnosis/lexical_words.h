@@ -5,6 +5,7 @@
 
 #include "lexical_error.h"
 #include "mistake.h"
+#include "string_words.h"
 
 namespace vorn::parsers::toml::diagnosis
 {

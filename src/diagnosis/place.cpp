@@ -16,6 +16,7 @@ void Follower::take(const DocumentToken& token)
     switch (due_)
     {
     case Due::statement:
+        begin_ = token.begin;
         due_ = type == TokenType::openBracket ? Due::header : Due::equals;
         break;
     case Due::header:
@@ -51,6 +52,7 @@ Place Follower::place() const
 {
     Place place;
     place.due = due_;
+    place.begin = begin_;
     place.isOpen = !openings_.empty();
     if (place.isOpen)
     {

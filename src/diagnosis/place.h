@@ -31,6 +31,7 @@ enum class Due
 struct Place
 {
     Due due = Due::statement;
+    std::size_t begin = 0;      // of the statement, if it has begun
     bool isOpen = false;        // whether it is within brackets
     DocumentToken opening = {}; // the innermost of these
     bool isInTable = false;     // whether that is the brace of an inline table
@@ -60,6 +61,7 @@ private:
     void leave();
 
     Due due_ = Due::statement;
+    std::size_t begin_ = 0;
     // The brackets of open arrays and inline tables: in little room, as there may be as many as
     // bytes.
     std::vector<std::uint32_t> openings_;

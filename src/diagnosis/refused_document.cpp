@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "codes.h"
 #include "pipeline/refusal.h"
 #include "pipeline/stack_room.h"
 #include "recognition.h"
@@ -45,7 +46,7 @@ Mistake tooDeep(const DocumentToken& bracket)
     return {Severity::error,
             bracket.begin,
             bracket.end,
-            "nested-too-deeply",
+            codes::nestedTooDeeply,
             "arrays or inline tables are nested too deeply for the stack of the thread",
             hint};
 }
@@ -79,8 +80,12 @@ std::optional<Mistake> refusedDocument(const std::string& text)
 
 Mistake tooLarge()
 {
-    return {
-        Severity::error, 0, 0, "too-large", "there is not enough memory to read the document", ""};
+    return {Severity::error,
+            0,
+            0,
+            codes::tooLarge,
+            "there is not enough memory to read the document",
+            ""};
 }
 
 } // namespace vorn::parsers::toml::diagnosis

@@ -1,7 +1,15 @@
 #include "syntax_words.h"
 
+#include <algorithm>
+#include <optional>
+
 #include "array_words.h"
+#include "codes.h"
+#include "encoding_words.h"
+#include "foreign_words.h"
+#include "line_end_words.h"
 #include "token_words.h"
+#include "unquoted.h"
 #include "value_words.h"
 
 namespace vorn::parsers::toml::diagnosis
@@ -11,14 +19,12 @@ namespace
 
 constexpr std::string_view pairHint = "A line contains a pair, key = value, or a header, [key].";
 
-bool isLineEnd(TokenType type)
-{
-    return type == TokenType::newline || type == TokenType::endOfInput;
-}
+constexpr std::string_view tableHint = "In an inline table, pairs are written {a = 1, b = 2}.";
 
-std::string foundIn(const Site& site)
+// A document of YAML may start with such a line.
+bool isYaml(const Site& site)
 {
-    return ", found " + described(site.found, site.foundText());
+    return isLineEnd(site.found.type) && site.textOf(site.before) == "---";
 }
 
 // Where a key is expected.
@@ -27,14 +33,14 @@ Words forKey(const char* code, const std::string& expected, const Site& site,
 {
     if (isValueLikeKey(site.found.type))
     {
-        return {"value-as-key", "expected a key" + foundIn(site),
+        return {codes::unquotedKey, "expected a key" + foundIn(site),
                 "It is read as a value. Quote it to use it as a key: \"" +
                     quotedContent(site.foundText()) + "\"."};
     }
     if (site.found.type == TokenType::mlBasicString ||
         site.found.type == TokenType::mlLiteralString)
     {
-        return {"multi-line-key", expected + foundIn(site),
+        return {codes::multiLineKey, expected + foundIn(site),
                 "A quoted key is written on one line, with \" or '."};
     }
     return {code, expected + foundIn(site), hint};
@@ -45,25 +51,31 @@ Words forStatement(const Site& site)
     const TokenType type = site.found.type;
     if (type == TokenType::equals)
     {
-        return {"missing-key", "the key before '=' is missing", std::string(pairHint)};
+        return {codes::missingKey, "the key before '=' is missing", std::string(pairHint)};
     }
     if (type == TokenType::closeBracket || type == TokenType::closeBrace)
     {
-        return {"stray-bracket", std::string(kindName(type)) + " closes nothing here",
+        return {codes::strayBracket, std::string(kindName(type)) + " closes nothing here",
                 std::string(pairHint)};
     }
-    return forKey("missing-key", "expected a key or a header", site, std::string(pairHint));
+    return forKey(codes::missingKey, "expected a key or a header", site,
+                  type == TokenType::openBrace
+                      ? "It looks like JSON. There are no braces around a document, and " +
+                            std::string("each line contains one pair, key = value.")
+                      : std::string(pairHint));
 }
 
 Words forEquals(const Site& site)
 {
     const TokenType type = site.found.type;
-    const std::string hint = site.place.isInTable
-                                 ? "In an inline table, pairs are written {a = 1, b = 2}."
-                             : type == TokenType::bareKey || isValueLikeKey(type)
-                                 ? "A key of several words needs quotes: \"my key\" = 1."
-                                 : std::string(pairHint);
-    return {"missing-equals", "expected '=' after the key" + foundIn(site), hint};
+    const bool isWord =
+        type == TokenType::bareKey || isValueLikeKey(type) || isString(type) || isYaml(site);
+    if (isWord && !site.place.isInTable)
+    {
+        return forWords(site);
+    }
+    const std::string hint(site.place.isInTable ? tableHint : pairHint);
+    return {codes::missingEquals, "expected '=' after the key" + foundIn(site), hint};
 }
 
 Words forHeader(const Site& site)
@@ -73,9 +85,23 @@ Words forHeader(const Site& site)
                                  : "A header is written [key].";
     if (site.found.type == TokenType::closeBracket)
     {
-        return {"missing-header-key", "the key of the header is missing", hint};
+        return {codes::missingKey, "the key of the header is missing", hint};
     }
-    return forKey("missing-header-key", "expected the key of a header", site, hint);
+    return forKey(codes::missingKey, "expected the key of a header", site, hint);
+}
+
+// The words of a header without quotes.
+std::string_view keyOfHeader(const Site& site)
+{
+    const std::string_view text = site.text;
+    const std::size_t begin = text.find_first_not_of("[ \t", site.place.begin);
+    const std::size_t end = std::min(text.find_first_of("]\n", begin), text.size());
+    const std::string_view key = text.substr(begin, end - begin);
+    const bool isClosed = end < text.size() && text[end] == ']' && end > site.found.begin;
+    return isClosed && site.found.type == TokenType::bareKey && !inQuotes(key).empty() &&
+                   key.find_first_of("\"'.=#\\") == std::string_view::npos
+               ? key
+               : std::string_view();
 }
 
 Words forHeaderEnd(const Site& site)
@@ -83,49 +109,16 @@ Words forHeaderEnd(const Site& site)
     const std::string hint = site.place.isOfArray
                                  ? "A header of an array of tables is written [[key]], on one line."
                                  : "A header is written [key], on one line.";
-    return {"unclosed-header", "expected ']' after the key of the header" + foundIn(site), hint};
-}
-
-bool isString(TokenType type)
-{
-    return type == TokenType::basicString || type == TokenType::literalString ||
-           type == TokenType::mlBasicString || type == TokenType::mlLiteralString;
-}
-
-Words forLineEnd(const Site& site)
-{
-    constexpr const char* code = "text-after-value";
-    const TokenType type = site.found.type;
-    if (isString(site.before.type) && site.before.end == site.found.begin)
+    const std::string_view key = keyOfHeader(site);
+    if (!key.empty())
     {
-        const bool isBasic = site.text[site.before.begin] == '"';
-        return {"quote-in-string", "expected the end of the line after the string" + foundIn(site),
-                isBasic ? "A quote in a string is written \\\"."
-                        : "Put double quotes around a string with an apostrophe in it."};
+        const std::string brackets = site.place.isOfArray ? "]]" : "]";
+        return {codes::unquotedKey, "expected ']' after the key of the header" + foundIn(site),
+                "A key of several words needs quotes: " + std::string(brackets.size(), '[') +
+                    inQuotes(key) + brackets + '.'};
     }
-    if (type == TokenType::closeBracket || type == TokenType::closeBrace)
-    {
-        return {"stray-bracket", std::string(kindName(type)) + " closes nothing here",
-                "Every ']' needs a '[' before it, and every '}' a '{'."};
-    }
-    const bool isNumber = isValueLikeKey(site.before.type);
-    if (type == TokenType::comma && isLineEnd(site.after.type))
-    {
-        return {code, "expected the end of the line, found ','",
-                "Pairs and headers end without a comma."};
-    }
-    if (isNumber && type == TokenType::comma)
-    {
-        return {code, "expected the end of the line, found ','",
-                "A float is written 1.5, an array [1, 5]."};
-    }
-    if (isNumber && type == TokenType::dot)
-    {
-        return {code, "expected the end of the line, found '.'",
-                "A float has one dot. Versions and addresses are strings: they need quotes."};
-    }
-    return {code, "expected the end of the line" + foundIn(site),
-            "Put each pair and each header on its own line. Strings need quotes."};
+    return {codes::unclosedHeader, "expected ']' after the key of the header" + foundIn(site),
+            hint};
 }
 
 // In an inline table, closed or not.
@@ -134,26 +127,37 @@ Words forTable(const Site& site)
     const Place& place = site.place;
     if (isLineEnd(site.found.type) || place.breaks > 0)
     {
-        return {"unclosed-inline-table", "the inline table is not closed on its line",
+        return {codes::unclosedInlineTable,
+                "the inline table is not closed on its line",
                 "An inline table must be on one line, up to its '}'. For a longer table, write a "
-                "header, [key]."};
+                "header, [key].",
+                {},
+                true};
     }
     if (site.found.type == TokenType::closeBrace)
     {
         return place.due == Due::firstPair
-                   ? Words{"empty-inline-table", "the inline table is empty",
+                   ? Words{codes::emptyInlineTable, "the inline table is empty",
                            "An inline table needs at least one pair. Leave the key out, or use a "
                            "header, [key], with nothing below it."}
-                   : Words{"trailing-comma", "expected a pair after the comma, found '}'",
+                   : Words{codes::trailingComma, "expected a pair after the comma, found '}'",
                            "An inline table has no comma before its '}'."};
     }
     if (place.due == Due::tableEnd)
     {
-        return {"missing-comma", "expected ',' or '}' after the pair" + foundIn(site),
-                "In an inline table, pairs are written {a = 1, b = 2}."};
+        const std::string_view continued = continuedValue(site);
+        if (!continued.empty())
+        {
+            return forUnquoted(continued);
+        }
+        return {codes::missingComma,
+                "expected ',' or '}' after the pair" + foundIn(site),
+                std::string(tableHint),
+                {},
+                site.found.type == TokenType::closeBracket};
     }
-    return forKey("missing-key", "expected a key in the inline table", site,
-                  "In an inline table, pairs are written {a = 1, b = 2}.");
+    return forKey(codes::missingKey, "expected a key in the inline table", site,
+                  std::string(tableHint));
 }
 
 Words wordsFor(const Site& site)
@@ -166,7 +170,7 @@ Words wordsFor(const Site& site)
         return site.place.isInTable && isLineEnd(site.found.type) ? forTable(site)
                                                                   : forEquals(site);
     case Due::keyPart:
-        return forKey("missing-key", "expected a key after the dot", site,
+        return forKey(codes::missingKey, "expected a key after the dot", site,
                       "A dotted key is written a.b.c.");
     case Due::header:
         return forHeader(site);
@@ -200,10 +204,32 @@ std::size_t placed(const Site& site)
     return between.find('\n') == std::string_view::npos ? before : site.found.begin;
 }
 
+std::vector<Origin> originsOf(const Place& place)
+{
+    return {{place.opening.begin, place.opening.end,
+             place.isInTable ? "the inline table was opened here" : "the array was opened here"}};
+}
+
+// Bytes that are misread, and what else has nothing to do with the statement.
+std::optional<Mistake> beforeAll(const Site& site)
+{
+    const std::size_t found = site.found.begin;
+    const std::size_t begin = site.place.due == Due::statement ? found : site.place.begin;
+    if (const auto misread = misreadIn(site.text, begin, found + 1))
+    {
+        return malformedBytes(site.text, *misread, Severity::error);
+    }
+    return found < site.text.size() ? mergeConflictAt(site.text, found) : std::nullopt;
+}
+
 } // namespace
 
 Mistake mistakeAt(const Site& site)
 {
+    if (auto mistake = beforeAll(site))
+    {
+        return std::move(*mistake);
+    }
     const Place& place = site.place;
     const bool isInArray =
         place.due == Due::firstElement || place.due == Due::element || place.due == Due::arrayEnd;
@@ -213,13 +239,21 @@ Mistake mistakeAt(const Site& site)
         return lineWithoutElement(site);
     }
     Words words = wordsFor(site);
-    const std::size_t begin = placed(site);
+    const bool isLonger = !words.about.empty();
+    if (auto mistake = malformedIn(words.about, site.text))
+    {
+        return std::move(*mistake);
+    }
+    const std::size_t begin =
+        isLonger ? static_cast<std::size_t>(words.about.data() - site.text.data()) : placed(site);
+    const std::size_t end = isLineEnd(site.found.type) ? begin : site.found.end;
     return {Severity::error,
             begin,
-            isLineEnd(site.found.type) ? begin : site.found.end,
+            isLonger ? begin + words.about.size() : end,
             words.code,
             std::move(words.message),
-            std::move(words.hint)};
+            std::move(words.hint),
+            words.showsOpening ? originsOf(place) : std::vector<Origin>()};
 }
 
 } // namespace vorn::parsers::toml::diagnosis

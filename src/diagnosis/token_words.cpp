@@ -110,6 +110,17 @@ bool isValueLikeKey(TokenType type)
     }
 }
 
+bool isLineEnd(TokenType type)
+{
+    return type == TokenType::newline || type == TokenType::endOfInput;
+}
+
+bool isString(TokenType type)
+{
+    return type == TokenType::basicString || type == TokenType::literalString ||
+           type == TokenType::mlBasicString || type == TokenType::mlLiteralString;
+}
+
 std::string described(const DocumentToken& token, std::string_view text)
 {
     const std::string name(kindName(token.type));

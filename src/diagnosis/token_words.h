@@ -16,6 +16,11 @@ std::string_view kindName(TokenType type);
 // Whether a token is a value that looks like a key: true, 123, 2024-01-01.
 bool isValueLikeKey(TokenType type);
 
+// Whether it is the end of a line or of the file.
+bool isLineEnd(TokenType type);
+
+bool isString(TokenType type);
+
 // "the integer 123", "'='", "the end of the line".
 std::string described(const DocumentToken& token, std::string_view text);
 

@@ -59,6 +59,14 @@ public:
         return text_.size();
     }
 
+    // Reads one line.  Returns whether it is valid.
+    template <typename Sink>
+    bool read(std::size_t from, Sink& sink) const
+    {
+        NestingStack nesting(words_.begin(), text_.size());
+        return Reader(text_.data() + from, end(), nesting, sink).line();
+    }
+
     // Whether a valid pair or header comes next, or the document's end.
     bool isNext(std::size_t from) const
     {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace vorn::parsers::toml::diagnosis
 {
@@ -11,6 +12,8 @@ struct Words
     const char* code;
     std::string message;
     std::string hint;
+    std::string_view about = {}; // of the document, where that is more than the token
+    bool showsOpening = false;   // of the brackets
 };
 
 } // namespace vorn::parsers::toml::diagnosis

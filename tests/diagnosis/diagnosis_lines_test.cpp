@@ -24,7 +24,6 @@ const Said keyAlone = {"error: expected '=' after the key, found the end of the 
 const std::string valueOnLine = "The value must start on the line of its key.";
 const Said noValue = {"error: expected a value, found the end of the line", valueOnLine};
 const std::string pairForm = "A pair is written key = value.";
-const std::string keyOfWords = "A key of several words needs quotes: \"my key\" = 1.";
 const std::string valueForms =
     "Strings need quotes. Arrays are written [1, 2], inline tables {a = 1}.";
 const Said noCommaBefore2 = {"error: expected ',' or ']' after the element, found the integer 2",
@@ -81,7 +80,7 @@ TEST(DiagnosisOfLines, headers)
            headerOnOneLine}}},
         {"[a b]\n",
          {{"1:4 error: expected ']' after the key of the header, found the word 'b'",
-           headerOnOneLine}}},
+           "A key of several words needs quotes: [\"a b\"]."}}},
         {"[a] b = 1\n", {{"1:5 error: expected the end of the line, found the word 'b'", ownLine}}},
         {"[a]]\n", {{"1:4 error: ']' closes nothing here", unopened}}},
         {"[[a]\n",
@@ -116,10 +115,15 @@ TEST(DiagnosisOfLines, pairs)
         {"a =", {{"1:4 error: expected a value, found the end of the file", valueOnLine}}},
         {"= 1\n", {{"1:1 error: the key before '=' is missing", lineForm}}},
         {"a = = 1\n", {{"1:5 error: expected a value, found a second '='", pairForm}}},
-        {"a b = 1\n", {{"1:3 error: expected '=' after the key, found the word 'b'", keyOfWords}}},
-        {"a 1\n", {{"1:3 error: expected '=' after the key, found the integer 1", keyOfWords}}},
+        {"a b = 1\n",
+         {{"1:3 error: expected '=' after the key, found the word 'b'",
+           "A key of several words needs quotes: \"a b\" = 1."}}},
+        {"a 1\n",
+         {{"1:3 error: expected '=' after the key, found the integer 1",
+           "Write '=' between a key and its value: a = 1."}}},
         {"a.b c = 1\n",
-         {{"1:5 error: expected '=' after the key, found the word 'c'", keyOfWords}}},
+         {{"1:5 error: expected '=' after the key, found the word 'c'",
+           "A pair is written key = value. A key of several words needs quotes."}}},
         {"a. = 1\n",
          {{"1:4 error: expected a key after the dot, found '='",
            "A dotted key is written a.b.c."}}},
@@ -132,7 +136,10 @@ TEST(DiagnosisOfLines, pairs)
            "Pairs and headers end without a comma."}}},
         {"]\n", {{"1:1 error: ']' closes nothing here", lineForm}}},
         {"}\n", {{"1:1 error: '}' closes nothing here", lineForm}}},
-        {"{a = 1}\n", {{"1:1 error: expected a key or a header, found '{'", lineForm}}},
+        {"{a = 1}\n",
+         {{"1:1 error: expected a key or a header, found '{'",
+           "It looks like JSON. There are no braces around a document, and each line contains one "
+           "pair, key = value."}}},
         {"\"\"\"a\"\"\" = 1\n",
          {{"1:1 error: expected a key or a header, found the multi-line string \"\"\"a\"\"\"",
            quotedKey}}},
@@ -180,14 +187,16 @@ TEST(DiagnosisOfLines, severalErrors)
           at("3:6", emptyTable)}},
         {"a = [\n1 2,\n3 4,\n[]\n]\n", {at("2:3", noCommaBefore2)}},
         {"a = @ []\nb = $\n",
-         {{"1:5 error: the character '@' is not allowed here", bareKeys},
-          {"2:5 error: the character '$' is not allowed here", bareKeys}}},
+         {{"1:5 error: '@' is not a value", "Strings need quotes: \"@\"."},
+          {"2:5 error: '$' is not a value", "Strings need quotes: \"$\"."}}},
         {"a = \"b\nc = $\n\nd = []\n", {at("1:5", unclosed), at("4:6", emptyArray)}},
         {"a = 1]\nb = []\n",
          {{"1:6 error: ']' closes nothing here", unopened}, at("2:6", emptyArray)}},
         {"x\ny\nz\n", {at("1:2", keyAlone), at("2:2", keyAlone), at("3:2", keyAlone)}},
         {"a = [1 2\nb = 2\nc =\n", {at("1:8", noCommaBefore2), at("3:4", noValue)}},
         {"a = [@,\n 1,\n # c\n 2]\nb =\n",
-         {{"1:6 error: the character '@' is not allowed here", bareKeys}, at("5:4", noValue)}},
+         {{"1:6 error: '@' is not a value", "Strings need quotes: \"@\"."},
+          {"5:4 error: expected a value, found the end of the line",
+           "The value must start on the line of its key."}}},
     });
 }

@@ -16,8 +16,6 @@ const Said highCharacter = {
     "with double quotes, write \\U0001F600 instead."};
 const std::string escapes = "The valid escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX "
                             "\\UXXXXXXXX. In 'literal strings' a backslash is just a backslash.";
-const std::string fourDigits = "Four hexadecimal digits follow \\u, as in \\u00E9. In 'literal "
-                               "strings' a backslash is just a backslash.";
 const std::string unclosedLiteral = "Close the string with ' on the same line. Put double quotes "
                                     "around a string with an apostrophe in it.";
 const std::string quoteInString = "A quote in a string is written \\\".";
@@ -54,14 +52,27 @@ TEST(DiagnosisOfStrings, escapes)
          {{"1:6 error: unknown escape \\x",
            "Write \\u0041 instead of \\x41. A backslash itself is written \\\\."}}},
         {"a = \"\\q\"\nb = []\n",
-         {{"1:6 error: unknown escape \\q", escapes}, at("2:6", emptyArray)}},
-        {"a = \"C:\\dir\"\n", {{"1:8 error: unknown escape \\d", escapes}}},
-        {"a = \"\\u12\"\n", {{"1:6 error: the escape \\u has too few digits", fourDigits}}},
+         {{"1:6 error: unknown escape \\q",
+           "In a literal string a backslash is just a backslash: '\\q'. The valid escapes are \\\" "
+           "\\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."},
+          {"2:6 error: the array is empty",
+           "An array needs at least one element. Leave the key out instead."}}},
+        {"a = \"C:\\dir\"\n",
+         {{"1:8 error: unknown escape \\d",
+           "In a literal string a backslash is just a backslash: 'C:\\dir'. The valid escapes are "
+           "\\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
+        {"a = \"\\u12\"\n",
+         {{"1:6 error: the escape \\u has too few digits",
+           "Four hexadecimal digits follow \\u, as in \\u00E9. In a literal string a backslash is "
+           "just a backslash: '\\u12'."}}},
         {"a = \"\\U0001F60\"\n",
          {{"1:6 error: the escape \\U has too few digits",
-           "Eight hexadecimal digits follow \\U, as in \\U000000E9. In 'literal strings' a "
-           "backslash is just a backslash."}}},
-        {"a = \"\\ud8g0\"\n", {{"1:6 error: the escape \\u has too few digits", fourDigits}}},
+           "Eight hexadecimal digits follow \\U, as in \\U000000E9. In a literal string a "
+           "backslash is just a backslash: '\\U0001F60'."}}},
+        {"a = \"\\ud8g0\"\n",
+         {{"1:6 error: the escape \\u has too few digits",
+           "Four hexadecimal digits follow \\u, as in \\u00E9. In a literal string a backslash is "
+           "just a backslash: '\\ud8g0'."}}},
         {"a = \"\"\"\\ \n\"\"\"\nb = []\n",
          {{"1:8 error: there is whitespace after the backslash",
            "A backslash that joins lines must be the last character of its line. A backslash "
@@ -79,8 +90,14 @@ TEST(DiagnosisOfStrings, escapes)
          {{"1:9 error: a carriage return without a line feed after it",
            "Lines end with a line feed (LF), or with a carriage return and a line feed (CR LF). "
            "The rest is not checked until this string is fixed."}}},
-        {"\"\\q\" = 1\n", {{"1:2 error: unknown escape \\q", escapes}}},
-        {"a = \"\\\xc3\xa9\"\n", {{"1:6 error: unknown escape \\\xc3\xa9", escapes}}},
+        {"\"\\q\" = 1\n",
+         {{"1:2 error: unknown escape \\q",
+           "In a literal string a backslash is just a backslash: '\\q'. The valid escapes are \\\" "
+           "\\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
+        {"a = \"\\\xc3\xa9\"\n",
+         {{"1:6 error: unknown escape \\\xc3\xa9",
+           "In a literal string a backslash is just a backslash: '\\\xc3\xa9'. The valid escapes "
+           "are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"x\\\n",
          {{"1:7 error: there is nothing to escape after the backslash",
            "A backslash joins lines only in strings with \"\"\" around them. A backslash itself is "
@@ -102,10 +119,10 @@ TEST(DiagnosisOfStrings, stringsThatAreNotClosed)
          {{"1:5 error: the string that starts here is never closed", "Close it with '''."}}},
         {"a = 'it's'\nbc = 2\n",
          {{"1:9 error: expected the end of the line after the string, found the word 's'",
-           "Put double quotes around a string with an apostrophe in it."}}},
+           "Put double quotes around a string with an apostrophe in it: \"it's\"."}}},
         {"a = \"say \"hi\"\"\n",
          {{"1:11 error: expected the end of the line after the string, found the word 'hi'",
-           quoteInString}}},
+           "A quote in a string is written \\\", or: 'say \"hi\"'."}}},
         {"a = \"\"\"b\"\"\"\"\"\"\n",
          {{"1:13 error: expected the end of the line after the string, found the string \"\"",
            quoteInString}}},
@@ -117,25 +134,24 @@ TEST(DiagnosisOfStrings, characters)
 {
     expectSaid({
         {"a: 1\n",
-         {{"1:2 error: the character ':' is not allowed here",
-           "Write '=' between a key and its value."}}},
+         {{"1:2 error: expected '=' after the key, found ':'",
+           "Write '=' between a key and its value: a = 1."}}},
         {"a = 1;\n",
          {{"1:6 error: the character ';' is not allowed here",
-           "Put each pair on its own line, with nothing after it. A comment starts with '#'."}}},
-        {"a = @b\n", {{"1:5 error: the character '@' is not allowed here", bareKeys}}},
-        {"// c\n",
-         {{"1:1 error: the character '/' is not allowed here",
-           "A comment starts with '#'. Strings need quotes."}}},
-        {"a = $b\n", {{"1:5 error: the character '$' is not allowed here", bareKeys}}},
+           "Pairs and headers end without a semicolon."}}},
+        {"a = @b\n", {{"1:5 error: '@b' is not a value", "Strings need quotes: \"@b\"."}}},
+        {"// c\n", {{"1:1 error: a comment starts with '#', not with '//'", "Write # c instead."}}},
+        {"a = $b\n", {{"1:5 error: '$b' is not a value", "Strings need quotes: \"$b\"."}}},
         {"\xc3\xa9 = 1\n",
-         {{"1:1 error: the character '\xc3\xa9' (U+00E9) is not allowed here", bareKeys}}},
+         {{"1:1 error: the character '\xc3\xa9' (U+00E9) is not allowed here",
+           "Bare keys consist of A-Z a-z 0-9 _ and -. Other keys need quotes: \"\xc3\xa9\"."}}},
         {"a\xc2\xa0= 1\n",
          {{"1:2 error: the character U+00A0 is not allowed here",
            "It looks like a space. Write a space or a tab."}}},
         {"a = \xe2\x80\x9c"
          "b\xe2\x80\x9d\n",
          {{"1:5 error: the character '\xe2\x80\x9c' (U+201C) is not allowed here",
-           "It looks like a quote. Write \" or ' instead."}}},
+           "It looks like a quote. Write \"b\" instead."}}},
         {"a = 1\n\xef\xbb\xbf"
          "b = 2\n",
          {{"2:1 error: the character U+FEFF is not allowed here",
@@ -146,9 +162,7 @@ TEST(DiagnosisOfStrings, characters)
         {"a = (1)\n",
          {{"1:5 error: the character '(' is not allowed here",
            "Arrays are written [1, 2], inline tables {a = 1}. Strings need quotes."}}},
-        {"a = \\b\n",
-         {{"1:5 error: the character '\\' is not allowed here",
-           "A backslash may only appear in strings and comments."}}},
+        {"a = \\b\n", {{"1:5 error: '\\b' is not a value", "Strings need quotes: '\\b'."}}},
         {"\x00\n"s, {{"1:1 error: the character U+0000 is not allowed here", controlCharacters}}},
         {"\xe2\x80\xae"
          "a = 1\n",
@@ -159,18 +173,32 @@ TEST(DiagnosisOfStrings, characters)
 TEST(DiagnosisOfStrings, bytesThatAreNotUtf8)
 {
     expectSaid({
-        {"a = \"\xe9t\xe9\"\n", {{"1:6 warning: the byte E9 is not valid UTF-8", malformed}}},
-        {"# \xe9\nb = 1\n", {{"1:3 warning: the byte E9 is not valid UTF-8", malformed}}},
+        {"a = \"\xe9t\xe9\"\n",
+         {{"1:6 warning: the byte E9 is not valid UTF-8",
+           "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xa9'. Save the file "
+           "as UTF-8."}}},
+        {"# \xe9\nb = 1\n",
+         {{"1:3 warning: the byte E9 is not valid UTF-8",
+           "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xa9'. Save the file "
+           "as UTF-8."}}},
         {"a = 1\n\xc1?\nb =\n", {at("2:1", readsAsEnd)}},
         {"a = 1\n\xc3", {at("2:1", readsAsEnd)}},
         {"a = 1\xc3", {at("1:6", noLastLineBreak), at("1:6", readsAsEnd)}},
-        {"\x80 = 1\n", {{"1:1 error: the byte 80 is not valid UTF-8", malformed}}},
+        {"\x80 = 1\n",
+         {{"1:1 error: the byte 80 is not valid UTF-8",
+           "It looks like Windows-1252. Save the file as UTF-8."}}},
         {"a = \"\xc1?\"\n",
-         {{"1:6 error: the byte C1 is not valid UTF-8", malformed}, at("1:6", readsAsEnd)}},
+         {{"1:6 error: the byte C1 is not valid UTF-8",
+           "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\x81'. Save the file "
+           "as UTF-8."},
+          {"1:6 warning: the file is only read up to these bytes, which are not valid UTF-8",
+           "They are read as the end of the file. Save the file as UTF-8."}}},
         {"a = \xe9",
-         {{"1:4 error: expected a value, found the end of the file",
-           "The value must start on the line of its key."},
-          at("1:5", readsAsEnd)}},
+         {{"1:5 error: the byte E9 is not valid UTF-8",
+           "It may be read as one character together with the bytes after it. Save the file as "
+           "UTF-8."},
+          {"1:5 warning: the file is only read up to these bytes, which are not valid UTF-8",
+           "They are read as the end of the file. Save the file as UTF-8."}}},
         {"# caf\xe9\n", {at("1:6", readsAsEnd)}},
         {"a = \"\xed\xa0\x80\"\n", {{"1:6 warning: the byte ED is not valid UTF-8", malformed}}},
     });

@@ -147,7 +147,7 @@ TEST(Diagnose, tellsTheFirstMistakeOfALongStatement)
               "20002:4 empty-array\n20005:2 missing-equals\n");
     EXPECT_EQ(shown(toml::diagnose("x = 1\na = [\n" + elements)), "20003:1 unclosed-array\n");
     EXPECT_EQ(shown(toml::diagnose("a = '" + std::string(100000, 'x') + "' 1\nb\n")),
-              "1:100008 text-after-value\n2:2 missing-equals\n");
+              "1:100008 extra-text\n2:2 missing-equals\n");
     EXPECT_EQ(shown(toml::diagnose("a\n" + std::string(100000, '@') + "\nb\n")),
               "1:2 missing-equals\n2:1 stray-character\n3:2 missing-equals\n");
 }

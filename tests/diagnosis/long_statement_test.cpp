@@ -52,12 +52,12 @@ TEST(LongStatement, hasTheMistakeAtWhichTheReaderStops)
         {"a = [1, [], []]\n", 9, "empty-array"},
         {"a = [1 2]\n", 7, "missing-comma"},
         {"a = {b = {}}\n", 10, "empty-inline-table"},
-        {"a = 1 b = 2\n", 6, "text-after-value"},
-        {"a = x\n", 4, "not-a-value"},
-        {"1 = 2\n", 0, "value-as-key"},
-        {"[a.]\n", 3, "missing-header-key"},
+        {"a = 1 b = 2\n", 6, "extra-text"},
+        {"a = x\n", 4, "unquoted-string"},
+        {"1 = 2\n", 0, "unquoted-key"},
+        {"[a.]\n", 3, "missing-key"},
         {"[a\n", 2, "unclosed-header"},
-        {"a.b.1 = 2\n", 4, "value-as-key"},
+        {"a.b.1 = 2\n", 4, "unquoted-key"},
         {"a = [1\n\n,\n \n2]\n", 10, "blank-line-in-array"},
         {"a = 1", 5, "missing-last-line-break"},
         {"a = [\"\\q\"]\n", 6, "unknown-escape"},
@@ -89,10 +89,12 @@ TEST(LongStatement, hasTheFirstMistakeOfTheParser)
         if (first)
         {
             ++rejected;
-            EXPECT_EQ(first->begin, mistakes[0].begin) << mistakes[0].message;
-            const std::string code = mistakes[0].code;
-            EXPECT_TRUE(code == first->code || code == firstMistake(text, true)->code)
-                << mistakes[0].message;
+            // (The parser's words depend on whether a bracket is closed.)
+            const auto isFirst = [&](const Mistake& one)
+            { return one.begin == mistakes[0].begin && one.code == mistakes[0].code; };
+            EXPECT_TRUE(isFirst(*first) || isFirst(*firstMistake(text, true)))
+                << first->message << " at " << first->begin << ", not " << mistakes[0].message
+                << " at " << mistakes[0].begin;
         }
     }
     EXPECT_GT(rejected, 1000U / VORN_TEST_STEP);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks that the page of errors has the messages that the library logs, and no others.
+"""Checks that the page of log lines has the messages that the library logs, and no others.
 
 A message of the page is code in a heading or at the start of a list's line.
 """

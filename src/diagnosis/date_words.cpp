@@ -1,0 +1,201 @@
+#include "date_words.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <string>
+
+#include "codes.h"
+#include "token_words.h"
+
+namespace vorn::parsers::toml::diagnosis
+{
+namespace
+{
+
+constexpr std::size_t npos = std::string_view::npos;
+constexpr std::string_view digits = "0123456789";
+
+Words invalid(std::string_view value, std::string&& hint)
+{
+    return {codes::invalidDateTime, quoted(value) + " is not a value", std::move(hint), value};
+}
+
+// Three numbers with the same character between them.
+struct Parts
+{
+    std::array<std::string_view, 3> numbers;
+    char separator;
+};
+
+std::optional<Parts> partsOf(std::string_view value)
+{
+    Parts parts = {};
+    for (std::size_t part = 0; part < 3; ++part)
+    {
+        const std::size_t end = std::min(value.find_first_not_of(digits), value.size());
+        const bool isLast = part == 2;
+        if (end == 0 || isLast != (end == value.size()))
+        {
+            return std::nullopt;
+        }
+        parts.numbers[part] = value.substr(0, end);
+        if (!isLast)
+        {
+            parts.separator = part == 0 ? value[end] : parts.separator;
+            if (value[end] != parts.separator)
+            {
+                return std::nullopt;
+            }
+            value.remove_prefix(end + 1);
+        }
+    }
+    return parts;
+}
+
+std::string padded(std::string_view number)
+{
+    return (number.size() == 1 ? "0" : "") + std::string(number);
+}
+
+bool isAtMost(std::string_view number, unsigned most)
+{
+    if (number.size() > 2)
+    {
+        return false;
+    }
+    const unsigned value = std::accumulate(
+        number.begin(), number.end(), 0U,
+        [](unsigned sum, char digit) { return 10 * sum + static_cast<unsigned>(digit - '0'); });
+    return value > 0 && value <= most;
+}
+
+std::string dateOf(std::string_view year, std::string_view month, std::string_view day)
+{
+    return std::string(year) + '-' + padded(month) + '-' + padded(day);
+}
+
+std::optional<Words> forDateAlone(std::string_view value)
+{
+    constexpr std::size_t yearSize = 4;
+    const auto parts = partsOf(value);
+    if (!parts || (parts->separator != '-' && parts->separator != '.' && parts->separator != '/'))
+    {
+        return std::nullopt;
+    }
+    const auto& [first, second, third] = parts->numbers;
+    if (first.size() == yearSize && isAtMost(second, 12) && isAtMost(third, 31))
+    {
+        return invalid(value, "A date is written " + dateOf(first, second, third) + '.');
+    }
+    if (third.size() != yearSize || !isAtMost(first, 31) || !isAtMost(second, 31))
+    {
+        return std::nullopt;
+    }
+    // Which one is the day is known only of some.
+    if (isAtMost(second, 12) && !isAtMost(first, 12))
+    {
+        return invalid(value,
+                       "A date is written year first: " + dateOf(third, second, first) + '.');
+    }
+    if (isAtMost(first, 12) && !isAtMost(second, 12))
+    {
+        return invalid(value,
+                       "A date is written year first: " + dateOf(third, first, second) + '.');
+    }
+    return invalid(value, "A date is written year first, then the month: 2024-01-31.");
+}
+
+// The hour, minute and second at the start of a text, with seconds and two digits each; what
+// follows is left.
+std::string takeTime(std::string_view& text)
+{
+    const std::size_t hour = text.find_first_not_of(digits);
+    if ((hour != 1 && hour != 2) || text[hour] != ':' || text.size() < hour + 3 ||
+        text.substr(hour + 1, 2).find_first_not_of(digits) != npos)
+    {
+        return {};
+    }
+    std::string time = padded(text.substr(0, hour)) + std::string(text.substr(hour, 3));
+    text.remove_prefix(hour + 3);
+    const bool hasSeconds =
+        text.size() >= 3 && text[0] == ':' && text.substr(1, 2).find_first_not_of(digits) == npos;
+    time += hasSeconds ? std::string(text.substr(0, 3)) : ":00";
+    text.remove_prefix(hasSeconds ? 3 : 0);
+    return time;
+}
+
+std::optional<Words> forTime(std::string_view value)
+{
+    std::string_view rest = value;
+    const std::string time = takeTime(rest);
+    if (time.empty())
+    {
+        return std::nullopt;
+    }
+    if (rest.empty())
+    {
+        return invalid(value, "A time is written with seconds: " + time + '.');
+    }
+    if (rest == "Z" || rest == "z" || rest[0] == '+' || rest[0] == '-')
+    {
+        return invalid(value, "A time without a date has no offset: " + time + '.');
+    }
+    return std::nullopt;
+}
+
+std::optional<Words> forDateTime(std::string_view value)
+{
+    constexpr std::size_t dateSize = 10;
+    if (value.size() <= dateSize || value.find_first_not_of("0123456789-") != dateSize ||
+        !partsOf(value.substr(0, dateSize)))
+    {
+        return std::nullopt;
+    }
+    const char joint = value[dateSize];
+    std::string_view rest = value.substr(dateSize + 1);
+    const std::string time = takeTime(rest);
+    if ((joint != 'T' && joint != 't' && joint != ' ') || time.empty())
+    {
+        return invalid(value, "A date is written 2024-01-31, a date-time 2024-01-31T07:32:00.");
+    }
+    const std::string start = std::string(value.substr(0, dateSize + 1)) + time;
+    if (rest.empty() || rest == "Z" || rest == "z")
+    {
+        return invalid(value,
+                       "A date-time is written with seconds: " + start + std::string(rest) + '.');
+    }
+    const bool isOffset = rest[0] == '+' || rest[0] == '-';
+    if (isOffset && rest.substr(1).find_first_not_of("0123456789:") == npos && rest.size() <= 6)
+    {
+        std::string offset;
+        for (const char c : rest.substr(1))
+        {
+            offset += c == ':' ? "" : std::string(1, c);
+        }
+        if (offset.size() == 2 || offset.size() == 4)
+        {
+            return invalid(value, "An offset is written Z or +01:00: " + start + rest[0] +
+                                      offset.substr(0, 2) + ':' +
+                                      (offset.size() == 2 ? "00" : offset.substr(2)) + '.');
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<Words> forDate(std::string_view value)
+{
+    if (auto words = forDateAlone(value))
+    {
+        return words;
+    }
+    if (auto words = forTime(value))
+    {
+        return words;
+    }
+    return forDateTime(value);
+}
+
+} // namespace vorn::parsers::toml::diagnosis

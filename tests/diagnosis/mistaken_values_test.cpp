@@ -1,0 +1,130 @@
+// What is told of values that are written as elsewhere.
+#include "diagnosis/told.h"
+
+#include <gtest/gtest.h>
+
+using namespace test;
+
+TEST(DiagnosisOfMistakenValues, stringsWithoutQuotes)
+{
+    expectTold({
+        {"host = gw.example\n",
+         {{"1:8-1:18", "unquoted-string", "'gw.example' is not a value",
+           "Strings need quotes: \"gw.example\"."}}},
+        {"host=gw.example\n",
+         {{"1:6-1:16", "unquoted-string", "'gw.example' is not a value",
+           "Strings need quotes: \"gw.example\"."}}},
+        {"host = gw.example # c\n",
+         {{"1:8-1:18", "unquoted-string", "'gw.example' is not a value",
+           "Strings need quotes: \"gw.example\"."}}},
+        {"path = C:\\temp\\x\n",
+         {{"1:8-1:17", "unquoted-string", "'C:\\temp\\x' is not a value",
+           "Strings need quotes: 'C:\\temp\\x'."}}},
+        {"path = /etc/foo\n",
+         {{"1:8-1:16", "unquoted-string", "'/etc/foo' is not a value",
+           "Strings need quotes: \"/etc/foo\"."}}},
+        {"url = http://x/y\n",
+         {{"1:7-1:17", "unquoted-string", "'http://x/y' is not a value",
+           "Strings need quotes: \"http://x/y\"."}}},
+        {"mail = me@x.org\n",
+         {{"1:8-1:16", "unquoted-string", "'me@x.org' is not a value",
+           "Strings need quotes: \"me@x.org\"."}}},
+        {"version = 1.2.3\n",
+         {{"1:11-1:16", "unquoted-string", "'1.2.3' is not a value",
+           "Strings need quotes: \"1.2.3\"."}}},
+        {"net = 10.0.0.0/8\n",
+         {{"1:7-1:17", "unquoted-string", "'10.0.0.0/8' is not a value",
+           "Strings need quotes: \"10.0.0.0/8\"."}}},
+        {"name = my name\n",
+         {{"1:8-1:15", "unquoted-string", "'my name' is not a value",
+           "Strings need quotes: \"my name\"."}}},
+        {"name = O'Brien\n",
+         {{"1:8-1:15", "unquoted-string", "'O'Brien' is not a value",
+           "Strings need quotes: \"O'Brien\"."}}},
+        {"mac = 00:1b:44:11:3a:b7\n",
+         {{"1:7-1:24", "unquoted-string", "'00:1b:44:11:3a:b7' is not a value",
+           "Strings need quotes: \"00:1b:44:11:3a:b7\"."}}},
+        {"ip = fe80::1\n",
+         {{"1:6-1:13", "unquoted-string", "'fe80::1' is not a value",
+           "Strings need quotes: \"fe80::1\"."}}},
+        {"size = 10kB\n",
+         {{"1:8-1:12", "unquoted-string", "'10kB' is not a value",
+           "Strings need quotes: \"10kB\". A number has no unit."}}},
+        {"size = 10 km\n",
+         {{"1:11-1:13", "extra-text", "expected the end of the line, found the word 'km'",
+           "Put each pair and each header on its own line. Strings need quotes: \"10 km\"."}}},
+        {"share = 50%\n",
+         {{"1:9-1:12", "unquoted-string", "'50%' is not a value",
+           "Strings need quotes: \"50%\". A number has no unit."}}},
+        {"home = $HOME/x;\n",
+         {{"1:8-1:15", "unquoted-string", "'$HOME/x' is not a value",
+           "Strings need quotes: \"$HOME/x\"."}}},
+        {"a = `x`\n",
+         {{"1:5-1:8", "unquoted-string", "'`x`' is not a value", "Strings need quotes: \"x\"."}}},
+        {"a = r\"x\"\n",
+         {{"1:5-1:9", "unquoted-string", "'r\"x\"' is not a value",
+           "A string starts with its quote. In 'literal strings' a backslash is just a "
+           "backslash."}}},
+        {"a = hello b = 2\n",
+         {{"1:5-1:10", "unquoted-string", "'hello' is not a value",
+           "Strings need quotes: \"hello\"."}}},
+        {"a = foo // bar\n",
+         {{"1:5-1:8", "unquoted-string", "'foo' is not a value", "Strings need quotes: \"foo\"."}}},
+        {"colour = #FF0000\n",
+         {{"1:9-1:9", "missing-value", "expected a value, found a comment",
+           "'#' starts a comment. Strings need quotes: \"#FF0000\"."}}},
+        {"a = say \"x\"\n",
+         {{"1:5-1:8", "unquoted-string", "'say' is not a value", "Strings need quotes: \"say\"."}}},
+    });
+}
+
+TEST(DiagnosisOfMistakenValues, stringsWithoutQuotesInBrackets)
+{
+    expectTold({
+        {"a = [1.2.3, 4]\n",
+         {{"1:6-1:11", "unquoted-string", "'1.2.3' is not a value",
+           "Strings need quotes: \"1.2.3\"."}}},
+        {"a = [/etc/x, 1]\n",
+         {{"1:6-1:12", "unquoted-string", "'/etc/x' is not a value",
+           "Strings need quotes: \"/etc/x\"."}}},
+        {"a = [\n  /etc/x,\n  1\n]\n",
+         {{"2:3-2:9", "unquoted-string", "'/etc/x' is not a value",
+           "Strings need quotes: \"/etc/x\"."}}},
+        {"a = {b = x.y, c = 1}\n",
+         {{"1:10-1:13", "unquoted-string", "'x.y' is not a value",
+           "Strings need quotes: \"x.y\"."}}},
+        {"a = {b = 1.2.3}\n",
+         {{"1:10-1:15", "unquoted-string", "'1.2.3' is not a value",
+           "Strings need quotes: \"1.2.3\"."}}},
+        {"a = {b = /x}\n",
+         {{"1:10-1:12", "unquoted-string", "'/x' is not a value", "Strings need quotes: \"/x\"."}}},
+    });
+}
+
+TEST(DiagnosisOfMistakenValues, wordsOfOtherLanguages)
+{
+    expectTold({
+        {"a = True\n",
+         {{"1:5-1:9", "invalid-boolean", "'True' is not a value",
+           "Write it in lower case: true."}}},
+        {"a = yes\n",
+         {{"1:5-1:8", "invalid-boolean", "'yes' is not a value",
+           "Write true, or \"yes\" for a string."}}},
+        {"a = OFF\n",
+         {{"1:5-1:8", "invalid-boolean", "'OFF' is not a value",
+           "Write false, or \"OFF\" for a string."}}},
+        {"a = null\n",
+         {{"1:5-1:9", "null-value", "'null' is not a value",
+           "TOML has no such value. Leave the key out."}}},
+        {"a = None\n",
+         {{"1:5-1:9", "null-value", "'None' is not a value",
+           "TOML has no such value. Leave the key out."}}},
+        {"a = ~\n",
+         {{"1:5-1:6", "null-value", "'~' is not a value",
+           "TOML has no such value. Leave the key out."}}},
+        {"a = Infinity\n",
+         {{"1:5-1:13", "invalid-number", "'Infinity' is not a value", "Write it as inf."}}},
+        {"a = -.inf\n",
+         {{"1:5-1:10", "invalid-number", "'-.inf' is not a value", "Write it as -inf."}}},
+    });
+}
