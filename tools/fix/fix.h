@@ -1,0 +1,37 @@
+// Rewrites documents of TOML 1.0 into what the library accepts, with the same meaning.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "../finding.h"
+
+namespace tool::fixing
+{
+
+struct FixOptions
+{
+    bool dropsComments = false; // those that cannot be expressed
+};
+
+enum class FixOutcome
+{
+    unchanged,     // the library accepts the document
+    fixed,         // it accepts the result, which means the same
+    inexpressible, // the findings say what the library has no form for
+    notToml,       // it is not TOML 1.0, and the library does not accept it; the finding says why
+    failed,        // the result is not as it should be: a mistake of this program
+};
+
+struct FixResult
+{
+    FixOutcome outcome;
+    std::string text; // what is to be written, if it is fixed
+    std::vector<Finding> findings;
+};
+
+// All that the library accepts stays, byte for byte.  It may log, for a document that is not
+// UTF-8.
+FixResult fix(const std::string& text, const FixOptions& options);
+
+} // namespace tool::fixing
