@@ -5,10 +5,11 @@ namespace tool
 {
 
 constexpr const char* fixExample =
-    "  $ printf 'ports = [\\n  80, # HTTP\\n]\\n8080 = true' | vorn-toml fix -\n"
-    "  # HTTP\n"
+    "  $ printf 'ports = [\\n  80,\\n  443, # TLS\\n]\\n8080 = true' | vorn-toml fix -\n"
     "  ports = [\n"
-    "    80,]\n"
+    "    80,\n"
+    "    443 # TLS\n"
+    "  ]\n"
     "  \"8080\" = true\n"
     "  $ vorn-toml fix network.toml --check\n"
     "  network.toml: unchanged\n"

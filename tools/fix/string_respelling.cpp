@@ -60,7 +60,8 @@ std::string respelledBasic(std::string_view inner, bool isMultiline)
 }
 
 // Of a literal string's inner text.  In one of several lines a quote needs an escape where it
-// would be a third one, or belong to the closing delimiter.
+// would be a third one, or belong to the closing delimiter.  The library's conversion takes any
+// backslash before a line break for a line-ending one, so there it gets another escape.
 std::string basicFromLiteral(std::string_view inner, bool isMultiline)
 {
     std::string result;
@@ -69,6 +70,12 @@ std::string basicFromLiteral(std::string_view inner, bool isMultiline)
     {
         const char c = inner[at];
         quotes = c == '"' ? quotes + 1 : 0;
+        if (c == '\\' && newlineLength(inner, at + 1) > 0)
+        {
+            result += "\\u005C";
+            ++at;
+            continue;
+        }
         if (c == '\\' || (c == '"' && (!isMultiline || quotes == 3 || at + 1 == inner.size())))
         {
             result += '\\';
