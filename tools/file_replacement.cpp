@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 namespace tool
 {
@@ -32,12 +33,7 @@ public:
     int number() const { return number_; }
 
     // Whether all that was written has arrived.
-    bool close()
-    {
-        const int number = number_;
-        number_ = -1;
-        return ::close(number) == 0;
-    }
+    bool close() { return ::close(std::exchange(number_, -1)) == 0; }
 
 private:
     int number_;

@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <utility>
 
 #include "commands.h"
 #include "each_file.h"

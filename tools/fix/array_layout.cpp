@@ -146,9 +146,8 @@ private:
         {
             if (!draft_.isDropped(piece))
             {
-                const bool isNewline = draft_.kind(piece) == Kind::newline;
-                runs += isNewline && !isInRun ? 1 : 0;
-                isInRun = isNewline;
+                runs += isNewline(piece) && !isInRun ? 1 : 0;
+                isInRun = isNewline(piece);
             }
         }
         return runs;

@@ -33,7 +33,8 @@ public:
 
     std::vector<Match> match()
     {
-        matchRange({0, before_.size(), 0, after_.size()}, true);
+        matchEnds({0, before_.size(), 0, after_.size()},
+                  [this](const Range& range) { matchBetweenUnique(range); });
         if (matches_.empty() || matches_.back().before + matches_.back().count < before_.size() ||
             matches_.back().after + matches_.back().count < after_.size())
         {
@@ -55,8 +56,9 @@ private:
         matches_.push_back({before, after, 1});
     }
 
-    // Matches the same start and end, and what is between them.
-    void matchRange(Range range, bool isWhole)
+    // Matches what is the same at the start and at the end, and what is between that.
+    template <typename MatchBetween>
+    void matchEnds(Range range, MatchBetween matchBetween)
     {
         while (range.before < range.beforeEnd && range.after < range.afterEnd &&
                before_[range.before] == after_[range.after])
@@ -70,7 +72,7 @@ private:
             --range.beforeEnd;
             --range.afterEnd;
         }
-        isWhole ? matchBetweenUnique(range) : matchBest(range);
+        matchBetween(range);
         for (std::size_t line = range.beforeEnd; line < all.beforeEnd; ++line)
         {
             add(line, line - range.beforeEnd + range.afterEnd);
@@ -80,19 +82,20 @@ private:
     // Lines that occur once in each text say what corresponds in between.
     void matchBetweenUnique(const Range& range)
     {
+        const auto best = [this](const Range& between) { matchBest(between); };
         Range part = range;
         for (const Pair& pair : ascending(uniquePairs(range)))
         {
             part.beforeEnd = pair.before;
             part.afterEnd = pair.after;
-            matchRange(part, false);
+            matchEnds(part, best);
             add(pair.before, pair.after);
             part.before = pair.before + 1;
             part.after = pair.after + 1;
         }
         part.beforeEnd = range.beforeEnd;
         part.afterEnd = range.afterEnd;
-        matchRange(part, false);
+        matchEnds(part, best);
     }
 
     // In the order of the text before.
@@ -130,7 +133,7 @@ private:
     // The longest series of pairs that ascend in both texts.
     static std::vector<Pair> ascending(const std::vector<Pair>& pairs)
     {
-        constexpr std::size_t none = static_cast<std::size_t>(-1);
+        constexpr auto none = static_cast<std::size_t>(-1);
         std::vector<std::size_t> last; // of the series of each length, the one that ends first
         std::vector<std::size_t> previous(pairs.size(), none);
         for (std::size_t at = 0; at < pairs.size(); ++at)

@@ -29,15 +29,14 @@ std::string resolved(std::string_view text)
     std::string content;
     for (std::size_t at = 0; at < text.size();)
     {
-        if (text[at] != '\\')
+        const bool isEscape = text[at] == '\\';
+        const std::size_t lineEnd = isEscape ? lineEndingEnd(text, at) : at;
+        const Escape escape = isEscape ? escapeAt(text, at) : Escape{0, 0};
+        if (lineEnd > at)
         {
-            content += text[at++];
+            at = lineEnd;
         }
-        else if (const std::size_t end = lineEndingEnd(text, at); end > at)
-        {
-            at = end;
-        }
-        else if (const Escape escape = escapeAt(text, at); escape.length > 0)
+        else if (escape.length > 0)
         {
             appendCharacter(content, escape.code);
             at += escape.length;

@@ -22,7 +22,6 @@ public:
 
     StringReading read()
     {
-        StringReading reading;
         while (!isClosed_ && !mistake_)
         {
             readOne();

@@ -1,5 +1,8 @@
 #include "toml_reader.h"
 
+#include <string>
+#include <utility>
+
 #include "scan/utf8.h"
 
 #include "../utf8.h"
