@@ -42,6 +42,7 @@ TEST(FixArrayLayout, LinesOfBlanks)
         {"a = [ \n \n1]\n", "a = [ \n\n1]\n"},
         {"a = [1, 2\n \n]\n", "a = [1, 2\n\n]\n"},
         {"a = [1 \n \n , 2]\n", "a = [1 \n\n , 2]\n"},
+        {"a = [1, 2\n \n,]\n", "a = [1, 2\n\n,]\n"},
         {"a = [1, 2\n \n \n , 3]\n", "a = [1, 2\n\n\n , 3]\n"},
     });
 }
