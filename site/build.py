@@ -22,6 +22,7 @@ PAGES = [
     "docs/getting-started.md",
     "docs/events.md",
     "docs/language.md",
+    "docs/fix.md",
     "docs/conversions.md",
     "docs/errors.md",
     "docs/log-lines.md",

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "fix_switches.h"
 #include "status.h"
 #include "terminal.h"
 
@@ -16,6 +17,7 @@ struct Options
     Colour colour = Colour::automatic;
     bool json = false; // of check
     bool dot = false;  // of tree
+    FixSwitches fix;
 };
 
 // Prints the visitor calls of documents as they come.
@@ -33,5 +35,8 @@ Status printTrees(const Options& options);
 
 // Lists the tokens of documents.
 Status printTokens(const Options& options);
+
+// Rewrites documents of TOML 1.0 into what the library accepts.
+Status fixFiles(const Options& options);
 
 } // namespace tool

@@ -11,6 +11,7 @@
 #include <string>
 
 #include "commands.h"
+#include "fix_help.h"
 #include "help.h"
 #include "standard_streams.h"
 
@@ -54,6 +55,19 @@ void addColour(CLI::App& subcommand, Run& run)
         ->check(CLI::IsMember({"auto", "always", "never"}));
 }
 
+void addFix(CLI::App& app, Run& run)
+{
+    CLI::App& fix =
+        addCommand(app, run, tool::fixFiles, "fix",
+                   "Rewrite documents of TOML 1.0 into what is accepted", tool::fixExample);
+    fix.add_flag("--diff", run.options.fix.diff, "Print what would change, and write nothing");
+    fix.add_flag("--check", run.options.fix.check,
+                 "Write nothing, and exit with 1 if a file would change");
+    fix.add_flag("--drop-comments", run.options.fix.dropComments,
+                 "Remove comments that have characters above U+FFFF");
+    addColour(fix, run);
+}
+
 void addCommands(CLI::App& app, Run& run)
 {
     addCommand(app, run, tool::printEvents, "events",
@@ -73,6 +87,7 @@ void addCommands(CLI::App& app, Run& run)
     addColour(addCommand(app, run, tool::printTokens, "tokens",
                          "List the tokens of documents with their positions", tool::tokensExample),
               run);
+    addFix(app, run);
 }
 
 void print(const char* what, const char* why)

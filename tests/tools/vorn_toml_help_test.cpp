@@ -36,6 +36,7 @@ std::vector<HelpCase> helpCases()
         {{"check", "-h"}, check},
         {{"tree", "--help"}, tree},
         {{"tokens", "--help"}, tokens},
+        {{"fix", "--help"}, "Usage: vorn-toml fix [OPTIONS] FILE...\n"},
     };
 }
 
