@@ -24,6 +24,7 @@ PAGES = [
     "docs/language.md",
     "docs/conversions.md",
     "docs/errors.md",
+    "docs/editors-and-ci.md",
     "docs/reliability.md",
     "docs/performance.md",
     "docs/growth.md",

@@ -1,7 +1,8 @@
+#include <sched.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <new>
-#include <thread>
 
 #include "check_report.h"
 #include "commands.h"
@@ -53,13 +54,21 @@ FileReport checkFile(const std::string& name, Progress& progress, const CheckOpt
     return file;
 }
 
+// Those that the process may use: std::thread counts those of the machine.
+std::size_t countProcessors()
+{
+    cpu_set_t processors;
+    return sched_getaffinity(0, sizeof processors, &processors) == 0
+               ? static_cast<std::size_t>(CPU_COUNT(&processors))
+               : 1;
+}
+
 // One for each processor, at most one for each file.  Standard input can be read once: if it is
 // named more often, the first of its names has it.
 unsigned threadsFor(const std::vector<std::string>& files)
 {
     const bool isInputOnce = std::count(files.begin(), files.end(), "-") < 2;
-    const std::size_t processors = std::thread::hardware_concurrency();
-    return isInputOnce ? static_cast<unsigned>(std::min(files.size(), processors)) : 1;
+    return isInputOnce ? static_cast<unsigned>(std::min(files.size(), countProcessors())) : 1;
 }
 
 } // namespace

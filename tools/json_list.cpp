@@ -31,7 +31,7 @@ void JsonList::print(const std::string& elements)
     }
 }
 
-void JsonList::end()
+void JsonList::end() const
 {
     std::printf(isEmpty_ ? "[%*s]" : "\n%*s]", isEmpty_ ? 0 : spaces_, "");
 }

@@ -23,7 +23,7 @@ public:
     void print(const std::string& elements);
 
     // The closing bracket, without a line feed.
-    void end();
+    void end() const;
 
     // What belongs between two elements.
     static const char* separator() { return ",\n"; }

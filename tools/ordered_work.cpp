@@ -15,6 +15,10 @@ namespace tool
 namespace
 {
 
+// So many reports may wait for their turn.  A report is small; where the processors are busy, it
+// takes a while until the thread that prints runs.
+constexpr std::size_t reportsPerThread = 64;
+
 struct Outcome
 {
     FileReport report;
@@ -24,7 +28,8 @@ struct Outcome
 class Workers
 {
 public:
-    Workers(const OrderedWork& work, unsigned threads) : work_(work), window_(4 * threads)
+    Workers(const OrderedWork& work, unsigned threads)
+        : work_(work), window_(reportsPerThread * threads)
     {
         try
         {
