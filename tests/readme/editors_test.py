@@ -176,9 +176,12 @@ def check_gitlab(job):
 def check_hooks(configurations, hooks, root):
     known = {hook["id"] for hook in hooks}
     for hook in hooks:
-        program = hook["entry"].split()[0]
+        program, *words = hook["entry"].split()
         if hook["language"] != "script" or not os.access(root / program, os.X_OK):
             raise Failure(f"{hook['id']}: {program} is no script")
+        if words[0] == "check":
+            run(["vorn-toml", *words, "conf.d/good.toml", "conf.d/odd name.toml"], 0)
+            run(["vorn-toml", *words, "conf.d/good.toml", "conf.d/bad.toml"], 1)
         if not re.search(hook["files"], "a.toml") or re.search(hook["files"], "a.tomlx"):
             raise Failure(f"{hook['id']} takes other files")
     for configuration in configurations:

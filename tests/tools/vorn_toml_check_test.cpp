@@ -2,10 +2,13 @@
 #include "support/temporary_directory.h"
 #include "tools/tool_run.h"
 
+#include <vorn/parsers/toml_diagnosis.h>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -97,6 +100,30 @@ TEST(VornTomlCheck, PrintsOnlyFindingsIfItIsToBeQuiet)
         expectRun(runTool({"check", option, "-"}, "a = 1\n"), accepted, "", "");
         expectRun(runTool({"check", option, "-", "/no/such.toml"}, "a = 1\n"), unreadable, "",
                   "vorn-toml: /no/such.toml: No such file or directory\n");
+    }
+}
+
+// Whether --strict is what the library means by it.
+TEST(VornTomlCheck, IsAsStrictAsTheLibraryIfAskedTo)
+{
+    namespace toml = vorn::parsers::toml;
+    toml::DiagnosisOptions strict;
+    strict.strict = true;
+    for (const std::string text :
+         {"a = 1\n", "a = 1\na = 2\n", "a = 2024-02-30\n", "a = 9223372036854775808\n",
+          "[t]\n[t]\n", "a = '\x80'\n", "a = []\n"})
+    {
+        SCOPED_TRACE(text);
+        const std::vector<toml::Finding> findings = toml::diagnose(text, strict);
+        const bool hasError = std::any_of(findings.begin(), findings.end(),
+                                          [](const toml::Finding& one)
+                                          { return one.severity == toml::Severity::error; });
+        for (const char* const format : {"text", "json", "sarif", "github"})
+        {
+            EXPECT_EQ(runTool({"check", "--strict", "--format", format, "-"}, text).status,
+                      hasError ? rejected : accepted);
+        }
+        EXPECT_EQ(runTool({"check", "-"}, text).status, text == "a = []\n" ? rejected : accepted);
     }
 }
 

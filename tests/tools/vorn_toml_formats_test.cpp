@@ -90,6 +90,13 @@ TEST(VornTomlFormats, PrintsJsonOfAnything)
     }
 }
 
+TEST(VornTomlFormats, ReplacesBytesOfNamesThatAreNotUtf8)
+{
+    const test::ProgramRun run =
+        runTool({"check", "--json", "--stdin-name", "\xc3\xa9\xff\n.toml", "-"}, "a = 1\n");
+    EXPECT_EQ(Json::parse(run.standardOutput)[0]["file"], "\xc3\xa9\xef\xbf\xbd\n.toml");
+}
+
 TEST(VornTomlFormats, PrintsSarif)
 {
     const test::TemporaryDirectory directory;
