@@ -30,7 +30,7 @@ public:
         if (file.examination.status != unreadable)
         {
             report.error = textReport(file.name, file.text, file.examination, colour_);
-            report.output = quiet_ ? "" : line(file);
+            report.output = quiet_ ? "" : statusLine(file);
         }
         return report;
     }
@@ -61,7 +61,7 @@ public:
     }
 
 private:
-    static std::string line(const CheckedFile& file)
+    static std::string statusLine(const CheckedFile& file)
     {
         return printable(file.name) + ": " + statusName(file.examination.status) + '\n';
     }

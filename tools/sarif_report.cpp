@@ -2,7 +2,9 @@
 
 #include <vorn/parsers/toml.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 #include "file_address.h"
 
@@ -101,10 +103,10 @@ void SarifReport::end()
 {
     results_.end();
     Json rules = Json::array();
-    for (const std::string& code : codes_)
-    {
-        rules.push_back({{"id", code}});
-    }
+    std::transform(codes_.begin(), codes_.end(), std::back_inserter(rules),
+                   [](const std::string& code) {
+                       return Json{{"id", code}};
+                   });
     const Json tool = {{"driver",
                         {{"name", "vorn-toml"},
                          {"version", vorn::parsers::toml::version()},

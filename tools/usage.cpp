@@ -1,6 +1,7 @@
 #include "usage.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "suggestion.h"
 
@@ -13,12 +14,10 @@ using Names = std::vector<std::string>;
 
 Names subcommandsOf(const CLI::App& app)
 {
+    const auto all = app.get_subcommands([](const CLI::App* /*any*/) { return true; });
     Names names;
-    for (const CLI::App* const subcommand :
-         app.get_subcommands([](const CLI::App* /*any*/) { return true; }))
-    {
-        names.push_back(subcommand->get_name());
-    }
+    std::transform(all.begin(), all.end(), std::back_inserter(names),
+                   [](const CLI::App* one) { return one->get_name(); });
     return names;
 }
 
@@ -27,10 +26,9 @@ Names optionsOf(const CLI::App& app)
     Names names;
     for (const CLI::Option* const option : app.get_options())
     {
-        for (const std::string& name : option->get_lnames())
-        {
-            names.push_back("--" + name);
-        }
+        const Names& all = option->get_lnames();
+        std::transform(all.begin(), all.end(), std::back_inserter(names),
+                       [](const std::string& name) { return "--" + name; });
     }
     return names;
 }
