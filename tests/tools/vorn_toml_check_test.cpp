@@ -85,7 +85,9 @@ TEST(VornTomlCheck, ShowsTwentyErrorsAndSaysIfThereAreMore)
 
 TEST(VornTomlCheck, LeavesOutAWarningBeforeAnError)
 {
-    const test::ProgramRun run = runTool({"check", "-"}, repeated("a = []\n", 20) + "\xc1?\n");
+    const std::string warning = "c = '\x80'\n";
+    EXPECT_EQ(countOf("warning: ", runTool({"check", "-"}, warning).standardError), 1U);
+    const test::ProgramRun run = runTool({"check", "-"}, warning + repeated("a = []\n", 20));
     EXPECT_EQ(countOf("error: the array is empty\n", run.standardError), 20U);
     EXPECT_EQ(countOf("warning: ", run.standardError), 0U);
     EXPECT_EQ(countOf("-: there are more findings; check --all shows them\n", run.standardError),

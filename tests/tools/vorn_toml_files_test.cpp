@@ -108,13 +108,18 @@ TEST_F(VornTomlFiles, KeepsTheOrderOfTheArguments)
     expectRun(runTool(words), rejected, output + "200 files: 133 accepted, 67 rejected\n", error);
 }
 
+// The first that is called so has all of it.
 TEST_F(VornTomlFiles, ReadsStandardInputOnce)
 {
     const std::string a = write("a.toml");
-    expectRun(runTool({"check", "--stdin-name=x", a, "-", a, "-"}, "a = 1\n"), accepted,
-              a + ": accepted\nx: accepted\n" + a + ": accepted\nx: accepted\n" +
-                  "4 files: 4 accepted\n",
-              "");
+    const std::string input = test::repeated("a = 1\n", 300000) + "x = []\n";
+    expectRun(runTool({"check", "--stdin-name=x", "-", "-", a, "-"}, input), rejected,
+              "x: rejected\nx: accepted\n" + a +
+                  ": accepted\nx: accepted\n4 files: 3 accepted, 1 rejected\n",
+              "x:300001:6: error: the array is empty\n"
+              "300001 | x = []\n"
+              "       |      ^\n"
+              "       = hint: An array needs at least one element. Leave the key out instead.\n");
 }
 
 } // namespace
