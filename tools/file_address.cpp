@@ -25,7 +25,7 @@ std::string uriOf(const std::string& name)
 {
     constexpr std::string_view digits = "0123456789ABCDEF";
     const std::string path = plainPath(name);
-    std::string uri = path.front() == '/' ? "file://" : "";
+    std::string uri = path.rfind('/', 0) == 0 ? "file://" : "";
     for (const char c : path)
     {
         if (isUnreserved(c))

@@ -143,6 +143,13 @@ TEST(VornTomlFormats, PrintsSarifOfNothingAndOfTooMuch)
     EXPECT_EQ(note["locations"][0]["physicalLocation"]["artifactLocation"]["uri"], "x/y.toml");
 }
 
+TEST(VornTomlFormats, PrintsSarifOfAFileWithoutAName)
+{
+    const test::ProgramRun run = runTool({"check", "--format=sarif", ""});
+    EXPECT_EQ(run.status, unreadable);
+    EXPECT_EQ(Json::parse(run.standardOutput)["runs"][0]["results"], Json::array());
+}
+
 TEST(VornTomlFormats, PrintsAnnotations)
 {
     const std::string error = ",line=1,endLine=1,col=6,endColumn=7,title=empty-array::"
