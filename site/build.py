@@ -26,6 +26,7 @@ PAGES = [
     "docs/conversions.md",
     "docs/errors.md",
     "docs/log-lines.md",
+    "docs/editors-and-ci.md",
     "docs/reliability.md",
     "docs/performance.md",
     "docs/growth.md",

@@ -1,59 +1,109 @@
+#include <sched.h>
+
+#include <algorithm>
 #include <cstdio>
+#include <new>
 
-#include <nlohmann/json.hpp>
-
-#include <vorn/parsers/toml.h>
-
+#include "check_report.h"
 #include "commands.h"
-#include "each_file.h"
-#include "json_report.h"
-#include "shown_text.h"
+#include "file_list.h"
+#include "input.h"
+#include "ordered_work.h"
 
 namespace tool
 {
 namespace
 {
 
-Status checkFile(const std::string& name, Progress& progress, const Options& options,
-                 nlohmann::ordered_json& reports)
+void diagnose(CheckedFile& checked, const std::string& name, Progress& progress,
+              const CheckOptions& options)
 {
-    const std::optional<std::string> text = readInput(name, progress);
-    Examination examination;
-    examination.status = unreadable;
-    if (text)
+    Content content = contentOf(name, progress);
+    checked.problem = content.problem;
+    checked.examination.status = unreadable;
+    if (content.text)
     {
-        progress.work(text->size());
-        vorn::parsers::toml::TomlTreeVisitor visitor;
-        examination = examine(*text, visitor);
-        progress.clear();
+        progress.work(content.text->size());
+        checked.text = std::move(*content.text);
+        checked.examination = diagnosed(checked.text, {options.strict, options.all});
     }
-    if (options.json)
+}
+
+FileReport checkFile(const std::string& name, Progress& progress, const CheckOptions& options,
+                     const CheckReport& report)
+{
+    CheckedFile checked;
+    checked.name = name == "-" ? options.standardInput : name;
+    try
     {
-        reports.push_back(jsonReport(name, examination));
+        diagnose(checked, name, progress, options);
     }
-    else if (text)
+    catch (const std::bad_alloc&)
     {
-        explain(name, *text, examination, options);
-        std::printf("%s: %s\n", printable(name).c_str(),
-                    examination.status == accepted ? "accepted" : "rejected");
+        checked.text = std::string();
+        checked.problem = "not enough memory";
+        checked.examination.status = unreadable;
     }
-    return examination.status;
+    progress.clear();
+    FileReport file = report.of(checked);
+    file.status = checked.examination.status;
+    if (file.status == unreadable)
+    {
+        file.error = unreadableLine(name, checked.problem);
+    }
+    return file;
+}
+
+// Those that the process may use: std::thread counts those of the machine.
+std::size_t countProcessors()
+{
+    cpu_set_t processors;
+    return sched_getaffinity(0, sizeof processors, &processors) == 0
+               ? static_cast<std::size_t>(CPU_COUNT(&processors))
+               : 1;
+}
+
+// One for each processor, at most one for each file.  Standard input can be read once: if it is
+// named more often, the first of its names has it.
+unsigned threadsFor(const std::vector<std::string>& files)
+{
+    const bool isInputOnce = std::count(files.begin(), files.end(), "-") < 2;
+    return isInputOnce ? static_cast<unsigned>(std::min(files.size(), countProcessors())) : 1;
 }
 
 } // namespace
 
 Status check(const Options& options)
 {
-    nlohmann::ordered_json reports = nlohmann::ordered_json::array();
-    const Status status = eachFile(options, true,
-                                   [&](const std::string& name, Progress& progress)
-                                   { return checkFile(name, progress, options, reports); });
-    if (options.json)
+    const std::vector<std::string> files = filesOf(options.files);
+    const unsigned threads = threadsFor(files);
+    const std::unique_ptr<CheckReport> report = makeReport(options, files.size());
+    // With several threads, only this one shows progress.
+    Progress progress(files.size(), isErrorTerminal());
+    Status worst = accepted;
+    OrderedWork work;
+    work.files = files.size();
+    work.make = [&](std::size_t file)
     {
-        const auto replace = nlohmann::ordered_json::error_handler_t::replace;
-        std::printf("%s\n", reports.dump(2, ' ', true, replace).c_str());
-    }
-    return status;
+        Progress hidden(files.size(), false);
+        return checkFile(files[file], threads > 1 ? hidden : progress, options.check, *report);
+    };
+    work.wait = [&](std::size_t file)
+    {
+        if (threads > 1)
+        {
+            progress.wait(file, files[file]);
+        }
+    };
+    work.take = [&](const FileReport& file)
+    {
+        progress.clear();
+        worst = std::max(worst, file.status);
+        report->print(file);
+    };
+    workInOrder(work, threads);
+    report->end();
+    return worst;
 }
 
 } // namespace tool

@@ -29,8 +29,7 @@ Status eachFile(const Options& options, bool isShown, Look look)
 inline void explain(const std::string& name, const std::string& text,
                     const Examination& examination, const Options& options)
 {
-    const std::string report =
-        textReport(name, text, examination.findings, useColour(options.colour));
+    const std::string report = textReport(name, text, examination, useColour(options.colour));
     std::fputs(report.c_str(), stderr);
 }
 

@@ -14,12 +14,22 @@ namespace tool
 using vorn::parsers::toml::Finding;
 using vorn::parsers::toml::Severity;
 
-// Whether the library accepts a document, and what there is to say about it.
+// Whether a document is accepted, and what there is to say about it.
 struct Examination
 {
     Status status = accepted;
     std::vector<Finding> findings;
+    std::string more; // says that there are more findings than these; empty if there are none
 };
+
+struct DiagnosisRange
+{
+    bool strict = false;      // what TOML 1.0 forbids is an error, too
+    bool isUnlimited = false; // not only the first findings
+};
+
+// Diagnoses a document; it is accepted if there is no error.
+Examination diagnosed(const std::string& text, const DiagnosisRange& range);
 
 // Asks the library, which calls the visitor and is not heard otherwise, and diagnoses the
 // document.

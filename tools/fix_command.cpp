@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "commands.h"
+#include "diagnosis/source_lines.h"
 #include "each_file.h"
 #include "file_replacement.h"
 #include "fix/fix.h"
 #include "fix/unified_diff.h"
-#include "log.h"
-#include "silent_error_stream.h"
+#include "shown_text.h"
 
 namespace tool
 {
@@ -18,13 +18,6 @@ namespace
 
 using fixing::FixOutcome;
 using fixing::FixResult;
-
-FixResult fixSilently(const std::string& text, const FixSwitches& switches)
-{
-    const HeldLog log;
-    const SilentErrorStream silent;
-    return fixing::fix(text, {switches.dropComments});
-}
 
 // Whether standard output is for the document, or the difference, alone.
 bool printsContent(const std::string& name, const FixSwitches& switches)
@@ -35,6 +28,21 @@ bool printsContent(const std::string& name, const FixSwitches& switches)
 void print(const std::string& text)
 {
     std::fwrite(text.data(), 1, text.size(), stdout);
+}
+
+// Counts the lines and columns of findings.
+void locate(const std::string& text, std::vector<fixing::Finding>& findings)
+{
+    const vorn::parsers::toml::diagnosis::SourceLines lines(text);
+    for (fixing::Finding& finding : findings)
+    {
+        const auto begin = lines.placeOf(finding.begin);
+        const auto end = lines.placeOf(finding.end);
+        finding.line = begin.line;
+        finding.column = begin.column;
+        finding.endLine = end.line;
+        finding.endColumn = end.column;
+    }
 }
 
 void explainResult(const std::string& name, const std::string& text, FixResult& result,
@@ -48,11 +56,14 @@ void explainResult(const std::string& name, const std::string& text, FixResult& 
                      printable(name).c_str());
         return;
     }
-    Diagnosis diagnosis;
-    diagnosis.errors = result.findings.size();
-    diagnosis.findings = std::move(result.findings);
-    diagnosis.findings.resize(std::min(diagnosis.errors, maxErrors));
-    explain(name, text, diagnosis, options);
+    constexpr std::size_t maxShown = 20;
+    Examination examination;
+    examination.status = rejected;
+    examination.findings = std::move(result.findings);
+    examination.more = examination.findings.size() > maxShown ? "there are more errors" : "";
+    examination.findings.resize(std::min(examination.findings.size(), maxShown));
+    locate(text, examination.findings);
+    explain(name, text, examination, options);
 }
 
 // Writes the fixed document to where it belongs.
@@ -90,7 +101,7 @@ Status fixFile(const std::string& name, Progress& progress, const Options& optio
         return unreadable;
     }
     progress.work(text->size());
-    FixResult result = fixSilently(*text, options.fix);
+    FixResult result = fixing::fix(*text, {options.fix.dropComments});
     progress.clear();
     Status status = accepted;
     const char* said = "unchanged";

@@ -11,8 +11,8 @@ constexpr const char* mainHelp =
     "\n"
     "Exit status: 0 accepted, 1 rejected, 2 wrong usage, 3 a file could not be read, or the\n"
     "output could not be written.\n"
-    "Errors in a document go to standard error: check, tree and tokens explain them, events\n"
-    "and values print what the library logs, with long texts shortened.";
+    "Errors in a document go to standard error: check, tree, tokens and json explain them,\n"
+    "events and values print what the library logs, with long texts shortened.";
 
 constexpr const char* eventsExample = "  $ printf 'a = 1\\n' | vorn-toml events -\n"
                                       "  beginDocument\n"
@@ -47,11 +47,39 @@ constexpr const char* checkExample =
     "        = hint: An array needs at least one element. Leave the key out instead.\n"
     "  -: rejected\n"
     "\n"
+    "  $ printf 'names = []\\n' | vorn-toml check --format github --stdin-name a.toml - || true\n"
+    "  ::error file=a.toml,line=1,endLine=1,col=10,endColumn=11,title=empty-array::the array is "
+    "empty%0AAn array needs at least one element. Leave the key out instead.\n"
+    "\n"
     "Explanations go to standard error, at most 20 errors per file; the lines that end with\n"
-    "accepted or rejected go to standard output.  Columns count characters.\n"
+    "accepted or rejected go to standard output.  Columns count characters.  Of a directory all\n"
+    "*.toml files are read, in hidden directories and behind links to directories none.\n"
+    "\n"
+    "--strict rejects what the library accepts and TOML 1.0 forbids, too: keys and tables that\n"
+    "are defined twice, dates that do not exist, integers beyond 64 bits, bytes that are not\n"
+    "UTF-8 and the like.  A service reads such a document, but another reader may not.\n"
+    "\n"
     "--json prints an array with an object for each file: file, status (accepted, rejected or\n"
-    "unreadable), errors (how many), findings (severity, line, column, endLine, endColumn,\n"
-    "message and usually hint), and refusal where a document is too large or too deep.\n";
+    "unreadable), errors (how many are listed), findings (severity, line, column, endLine,\n"
+    "endColumn, code, message, usually hint, and related where other places matter), and\n"
+    "\"more\": true if there are more findings than these.\n";
+
+constexpr const char* jsonExample =
+    "  $ printf 'a.b = [1, 0x1F]\\nc = 07:32:00\\n' | vorn-toml json -\n"
+    "  {\n"
+    "    \"a\": {\n"
+    "      \"b\": [\n"
+    "        1,\n"
+    "        31\n"
+    "      ]\n"
+    "    },\n"
+    "    \"c\": \"07:32:00\"\n"
+    "  }\n"
+    "\n"
+    "Keys keep their order.  Dates and times become strings, as they are written; infinities\n"
+    "and not-a-numbers become \"inf\", \"-inf\" and \"nan\"; bytes that are not UTF-8 become\n"
+    "U+FFFD.  A document that defines something twice, or has an integer beyond 64 bits, is an\n"
+    "error; check --strict shows where.\n";
 
 constexpr const char* treeExample = "  $ printf 'a.b = [1, 2]\\n' | vorn-toml tree -\n"
                                     "  document\n"

@@ -1,5 +1,6 @@
 #include "input.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -35,29 +36,44 @@ bool readAll(std::FILE* file, std::string& content, Progress& progress)
     return std::ferror(file) == 0;
 }
 
-std::optional<std::string> fail(const std::string& name, Progress& progress)
+// strerror() may only be called by one thread at a time.
+std::string textOf(int reason)
 {
-    const int reason = errno;
-    progress.clear();
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): the tool has one thread.
-    std::fprintf(stderr, "vorn-toml: %s: %s\n", printable(name).c_str(), std::strerror(reason));
-    return std::nullopt;
+    std::array<char, 256> buffer = {};
+    return strerror_r(reason, buffer.data(), buffer.size());
 }
 
 } // namespace
 
-std::optional<std::string> readInput(const std::string& name, Progress& progress)
+Content contentOf(const std::string& name, Progress& progress)
 {
     progress.begin(name);
-    std::string content;
-    if (name == "-")
+    const bool isInput = name == "-";
+    const std::unique_ptr<std::FILE, CloseFile> file(isInput ? nullptr
+                                                             : std::fopen(name.c_str(), "rb"));
+    std::string text;
+    if ((isInput || file) && readAll(isInput ? stdin : file.get(), text, progress))
     {
-        return readAll(stdin, content, progress) ? std::optional(std::move(content))
-                                                 : fail("standard input", progress);
+        return {std::move(text), ""};
     }
-    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(name.c_str(), "rb"));
-    return file && readAll(file.get(), content, progress) ? std::optional(std::move(content))
-                                                          : fail(name, progress);
+    return {std::nullopt, textOf(errno)};
+}
+
+std::string unreadableLine(const std::string& name, const std::string& problem)
+{
+    const std::string shown = name == "-" ? "standard input" : printable(name);
+    return "vorn-toml: " + shown + ": " + problem + '\n';
+}
+
+std::optional<std::string> readInput(const std::string& name, Progress& progress)
+{
+    Content content = contentOf(name, progress);
+    if (!content.text)
+    {
+        progress.clear();
+        std::fputs(unreadableLine(name, content.problem).c_str(), stderr);
+    }
+    return std::move(content.text);
 }
 
 Status visitInput(const std::string& name, Progress& progress,

@@ -1,15 +1,21 @@
 #pragma once
 
-#include <nlohmann/json_fwd.hpp>
-
-#include <string>
-
-#include "examination.h"
+#include "check_report.h"
+#include "json_list.h"
 
 namespace tool
 {
 
-// The status and the diagnosis of a file, for editors.
-nlohmann::ordered_json jsonReport(const std::string& name, const Examination& examination);
+// An array with an object for each file, for editors.
+class JsonReport : public CheckReport
+{
+public:
+    FileReport of(const CheckedFile& file) const override;
+    void print(const FileReport& file) override;
+    void end() override;
+
+private:
+    JsonList files_ = JsonList(0);
+};
 
 } // namespace tool

@@ -15,8 +15,9 @@ namespace tool
 namespace
 {
 
+// The lines of a document come on the thread that reads it.
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-non-const-global-variables): loggers have no context.
-bool isHeld = false;
+thread_local bool isHeld = false;
 
 std::string formatted(const char* format, va_list arguments)
 {

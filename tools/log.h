@@ -4,7 +4,7 @@
 namespace tool
 {
 
-// While one lives, the library's log lines are not printed.
+// While one lives, the library's log lines of its thread are not printed.
 class HeldLog
 {
 public:

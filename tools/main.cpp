@@ -1,6 +1,8 @@
 // vorn-toml: the library on the command line.
 #include <CLI/CLI.hpp>
 
+#include <vorn/parsers/toml.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -9,17 +11,21 @@
 #include <new>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "commands.h"
 #include "fix_help.h"
 #include "help.h"
+#include "shown_text.h"
 #include "standard_streams.h"
+#include "usage.h"
 
 namespace
 {
 
 using tool::Options;
 using tool::Status;
+using Words = std::vector<std::string>;
 using Command = Status (*)(const Options& options);
 
 // The subcommand to run, and its options.
@@ -68,6 +74,44 @@ void addFix(CLI::App& app, Run& run)
     addColour(fix, run);
 }
 
+void addFormat(CLI::App& check, tool::CheckOptions& options)
+{
+    static const std::map<std::string, tool::Format> names = {{"text", tool::Format::text},
+                                                              {"json", tool::Format::json},
+                                                              {"sarif", tool::Format::sarif},
+                                                              {"github", tool::Format::github}};
+    CLI::Option* const format =
+        check
+            .add_option_function<std::string>(
+                "--format", [&](const std::string& name) { options.format = names.at(name); },
+                "How everything is printed: text, json, sarif (2.1.0) or github (annotations)")
+            ->option_text("FORMAT")
+            ->check(CLI::IsMember({"text", "json", "sarif", "github"}));
+    check
+        .add_flag_callback(
+            "--json", [&] { options.format = tool::Format::json; }, "The same as --format json")
+        ->excludes(format);
+}
+
+void addCheck(CLI::App& app, Run& run)
+{
+    CLI::App& check = addCommand(app, run, tool::check, "check",
+                                 "Say whether documents are accepted, and explain their errors",
+                                 tool::checkExample);
+    check.get_option("FILE")->description(
+        "A document, or a directory with *.toml files; - means standard input");
+    tool::CheckOptions& options = run.options.check;
+    check.add_flag("--strict", options.strict,
+                   "Reject what the library accepts and TOML 1.0 forbids, too");
+    check.add_flag("--all", options.all, "Explain all errors, not only the first 20 of each file");
+    check.add_flag("-q,--quiet", options.quiet,
+                   "Print no lines that say what is accepted or rejected");
+    check.add_option("--stdin-name", options.standardInput, "What standard input is called")
+        ->option_text("NAME");
+    addFormat(check, options);
+    addColour(check, run);
+}
+
 void addCommands(CLI::App& app, Run& run)
 {
     addCommand(app, run, tool::printEvents, "events",
@@ -75,11 +119,7 @@ void addCommands(CLI::App& app, Run& run)
     addCommand(app, run, tool::printValues, "values",
                "Print the visitor calls of documents, with the values of their texts",
                tool::valuesExample);
-    CLI::App& check = addCommand(app, run, tool::check, "check",
-                                 "Say whether documents are accepted, and explain their errors",
-                                 tool::checkExample);
-    check.add_flag("--json", run.options.json, "Print everything as one JSON array, for editors");
-    addColour(check, run);
+    addCheck(app, run);
     CLI::App& tree = addCommand(app, run, tool::printTrees, "tree",
                                 "Draw the syntax trees of documents", tool::treeExample);
     tree.add_flag("--dot", run.options.dot, "Print graphs for Graphviz");
@@ -88,6 +128,17 @@ void addCommands(CLI::App& app, Run& run)
                          "List the tokens of documents with their positions", tool::tokensExample),
               run);
     addFix(app, run);
+    CLI::App& json = addCommand(app, run, tool::printJson, "json", "Print a document as JSON",
+                                tool::jsonExample);
+    json.get_option("FILE")->expected(1);
+    addColour(json, run);
+}
+
+std::string versions()
+{
+    return "vorn-toml " VORN_TOML_VERSION "\nlibvorn_parsers " +
+           std::string(vorn::parsers::toml::version()) +
+           "\nlibvorn_toml_diagnosis " VORN_TOML_VERSION;
 }
 
 void print(const char* what, const char* why)
@@ -108,12 +159,16 @@ int ended(int status, const tool::StandardStreams& streams)
 }
 
 // Prints the help that was asked for, or what is wrong with the arguments.
-int explainUsage(const CLI::App& app, const CLI::ParseError& error,
+int explainUsage(const CLI::App& app, const CLI::ParseError& error, const Words& words,
                  const tool::StandardStreams& streams)
 {
     std::ostringstream help;
     if (app.exit(error, help, std::cerr) != 0)
     {
+        if (const std::string question = tool::questionAbout(words, app); !question.empty())
+        {
+            std::cerr << tool::printable(question) << '\n';
+        }
         return tool::usage;
     }
     std::fputs(help.str().c_str(), stdout);
@@ -128,6 +183,7 @@ int main(int argc, char** argv)
     tool::StandardStreams streams;
     CLI::App app("Reads TOML documents the way the services of the device do.", "vorn-toml");
     app.require_subcommand(1);
+    app.set_version_flag("--version", versions, "Print the versions of the tool and its library");
     app.footer(tool::mainHelp);
     Run run;
     addCommands(app, run);
@@ -137,7 +193,7 @@ int main(int argc, char** argv)
     }
     catch (const CLI::ParseError& error)
     {
-        return explainUsage(app, error, streams);
+        return explainUsage(app, error, Words(argv + 1, argv + argc), streams);
     }
     int status = tool::unreadable;
     try

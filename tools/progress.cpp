@@ -37,6 +37,12 @@ void Progress::begin(const std::string& name)
     }
 }
 
+void Progress::wait(std::size_t file, const std::string& name)
+{
+    number_ = file;
+    begin(name);
+}
+
 void Progress::read(std::size_t bytes)
 {
     if (std::chrono::steady_clock::now() >= next_)

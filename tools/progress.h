@@ -19,6 +19,9 @@ public:
     // Starts with the next file.
     void begin(const std::string& name);
 
+    // Called while the work on a file, counted from 0, is done by others.
+    void wait(std::size_t file, const std::string& name);
+
     // Called after so many of its bytes have been read.
     void read(std::size_t bytes);
 

@@ -6,7 +6,8 @@ namespace tool
 {
 
 // While one lives, everything that is printed on the C library's standard error stream is
-// dropped: the runtime's reports, which are of no use here.  The descriptor stays as it is.
+// dropped: the runtime's reports, which are of no use here.  The descriptor stays as it is.  Only
+// while there is one thread: the stream is that of the process.
 class SilentErrorStream
 {
 public:

@@ -13,4 +13,10 @@ enum Status
     unreadable = 3, // or the output could not be written
 };
 
+// Of a file.
+inline const char* statusName(Status status)
+{
+    return status == accepted ? "accepted" : status == rejected ? "rejected" : "unreadable";
+}
+
 } // namespace tool

@@ -12,7 +12,7 @@ namespace
 
 std::string_view variable(const char* name)
 {
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): the tool has one thread.
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): nothing sets variables.
     const char* const value = std::getenv(name);
     return value != nullptr ? value : "";
 }

@@ -81,14 +81,16 @@ private:
 } // namespace
 
 std::string textReport(const std::string& name, const std::string& text,
-                       const std::vector<Finding>& findings, bool colour)
+                       const Examination& examination, bool colour)
 {
     Report report(name, text, colour);
-    for (const Finding& finding : findings)
+    for (const Finding& finding : examination.findings)
     {
         report.add(finding);
     }
-    return report.text();
+    return examination.more.empty()
+               ? report.text()
+               : report.text() + printable(name) + ": " + examination.more + '\n';
 }
 
 } // namespace tool

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "examination.h"
 
@@ -10,6 +9,6 @@ namespace tool
 
 // The findings of a document as lines for a terminal: place, message, source, caret, hint.
 std::string textReport(const std::string& name, const std::string& text,
-                       const std::vector<Finding>& findings, bool colour);
+                       const Examination& examination, bool colour);
 
 } // namespace tool

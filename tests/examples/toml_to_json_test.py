@@ -3,7 +3,7 @@
 The example configurations and the documents below must give the same values, in the same
 order, and what tomllib does not accept toml_to_json must complain of.  Usage:
 
-    toml_to_json_test.py PROGRAM CONFIGURATION...
+    toml_to_json_test.py PROGRAM[:SUBCOMMAND] CONFIGURATION...
 """
 
 import json
@@ -127,7 +127,7 @@ def difference(actual, expected, path="document"):
 
 
 def run_on(program, path):
-    run = subprocess.run([program, path], capture_output=True, check=False, timeout=60)
+    run = subprocess.run([*program.split(":"), path], capture_output=True, check=False, timeout=60)
     return run.returncode, run.stdout.decode(), run.stderr.decode()
 
 

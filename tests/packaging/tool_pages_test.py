@@ -79,7 +79,8 @@ def check_completion(script, tool, directory):
     cases += [([name, ""], files) for name in names]
     cases += [([name, "a"], {"a.toml"}) for name in names]
     cases += [(["check", "a.toml", "n"], {"notes.txt"}), (["--help", "che"], {"check"}),
-              (["check", "--color", "a"], {"auto", "always"})]
+              (["check", "--color", "a"], {"auto", "always"}),
+              (["check", "--format", ""], {"text", "json", "sarif", "github"})]
     for words, expected in cases:
         offered = completions(script, directory, *words)
         if offered != expected:

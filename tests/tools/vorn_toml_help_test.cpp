@@ -25,6 +25,7 @@ std::vector<HelpCase> helpCases()
     const std::string check = "Usage: vorn-toml check [OPTIONS] FILE...\n";
     const std::string tree = "Usage: vorn-toml tree [OPTIONS] FILE...\n";
     const std::string tokens = "Usage: vorn-toml tokens [OPTIONS] FILE...\n";
+    const std::string json = "Usage: vorn-toml json [OPTIONS] FILE\n";
     return {
         {{"--help"}, tool},
         {{"-h"}, tool},
@@ -37,6 +38,7 @@ std::vector<HelpCase> helpCases()
         {{"tree", "--help"}, tree},
         {{"tokens", "--help"}, tokens},
         {{"fix", "--help"}, "Usage: vorn-toml fix [OPTIONS] FILE...\n"},
+        {{"json", "--help"}, json},
     };
 }
 
@@ -97,8 +99,8 @@ TEST(VornTomlHelp, NamesSubcommandsAndExitStatuses)
 {
     const std::string help = helpOf({{"--help"}, ""});
     for (const std::string text :
-         {"\n  events ", "\n  values ", "\n  check ", "\n  tree ", "\n  tokens ", "0 accepted",
-          "1 rejected", "2 wrong usage", "3 a file could not be read"})
+         {"\n  events ", "\n  values ", "\n  check ", "\n  tree ", "\n  tokens ", "\n  json ",
+          "0 accepted", "1 rejected", "2 wrong usage", "3 a file could not be read"})
     {
         EXPECT_NE(help.find(text), std::string::npos) << text << " is not in:\n" << help;
     }

@@ -56,15 +56,21 @@ TEST_F(VornTomlTerminal, showsProgressOfLargeFilesAndTakesItAway)
 {
     const std::string large =
         directory_.write("large.toml", std::string(std::size_t{33} * 1024 * 1024, '\n'));
-    const test::TerminalRun run =
-        test::runOnTerminal({VORN_TOML, "check", large, directory_.path("none.toml")});
-    EXPECT_EQ(run.status, test::unreadable);
-    const std::string shown = "[1/2] " + large + ", 35 MB";
-    const std::size_t at = run.terminal.find(shown);
-    ASSERT_NE(at, std::string::npos) << run.terminal;
-    EXPECT_EQ(run.terminal.substr(at + shown.size(), 4), "\r\x1B[K");
-    EXPECT_EQ(run.terminal.substr(run.terminal.rfind("\x1B[K") + 3),
-              "vorn-toml: " + directory_.path("none.toml") + ": No such file or directory\r\n");
+    const test::TerminalRun run = test::runOnTerminal({VORN_TOML, "check", large});
+    EXPECT_EQ(run.status, test::accepted);
+    EXPECT_EQ(run.terminal, "[1/1] " + large + ", 35 MB\r\x1B[K") << run.terminal;
+}
+
+TEST_F(VornTomlTerminal, showsWhichOfManyFilesTakesLong)
+{
+    const std::string fifo = directory_.path("fifo.toml");
+    const test::TerminalRun run = test::runOnTerminal(
+        {"/bin/sh", "-c", R"(mkfifo "$2"; (sleep 1; echo >"$2") & exec "$0" check -q "$1" "$2")",
+         VORN_TOML, bad_, fifo});
+    EXPECT_EQ(run.status, test::rejected);
+    const std::size_t at = run.terminal.find("[2/2] " + fifo + "\r\x1B[K");
+    EXPECT_NE(at, std::string::npos) << run.terminal;
+    EXPECT_EQ(run.terminal.substr(run.terminal.size() - 4), "\r\x1B[K");
 }
 
 TEST_F(VornTomlTerminal, showsNoProgressOfSmallFilesNorElsewhere)

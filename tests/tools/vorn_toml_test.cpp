@@ -158,7 +158,8 @@ TEST(VornTomlCheck, PrintsOneLineADocument)
         {{good, bad, good},
          "",
          rejected,
-         good + ": accepted\n" + bad + ": rejected\n" + good + ": accepted\n"},
+         good + ": accepted\n" + bad + ": rejected\n" + good +
+             ": accepted\n3 files: 2 accepted, 1 rejected\n"},
     };
     for (const Case& c : cases)
     {
@@ -191,10 +192,13 @@ TEST(VornToml, SaysWhatCannotBeReadAndGoesOn)
         {{"tokens", missing}, "", noSuchFile},
         {{"events", directory.path(".")}, "", isDirectory},
         {{"values", directory.path(".")}, "", isDirectory},
-        {{"check", directory.path(".")}, "", isDirectory},
+        {{"json", missing}, "", noSuchFile},
+        {{"json", directory.path(".")}, "", isDirectory},
         {{"events", missing, good}, pairEvents("a"), noSuchFile},
-        {{"check", good, missing, good}, good + ": accepted\n" + good + ": accepted\n", noSuchFile},
-        {{"check", directory.path("."), missing}, "", isDirectory + noSuchFile},
+        {{"check", good, missing, good},
+         good + ": accepted\n" + good + ": accepted\n3 files: 2 accepted, 1 unreadable\n",
+         noSuchFile},
+        {{"tree", directory.path("."), missing}, "", isDirectory + noSuchFile},
     };
     for (const Case& c : cases)
     {
