@@ -34,7 +34,8 @@ def run(tool, directory, *words, names):
                           encoding="utf-8", timeout=TIME_LIMIT, check=False)
     if done.returncode not in (0, 1):
         raise Failure(f"{words} exits with {done.returncode}: {done.stderr[-2000:]}")
-    said = dict(line.rsplit(": ", 1) for line in done.stdout.splitlines())
+    # After the files is a line about all of them.
+    said = dict(line.rsplit(": ", 1) for line in done.stdout.splitlines()[:len(names)])
     if list(said) != names:
         raise Failure(f"{words} does not say something of each file")
     return said, done.stderr

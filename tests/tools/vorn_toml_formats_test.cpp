@@ -41,8 +41,8 @@ TEST(VornTomlFormats, PrintsJson)
             {"endColumn", 2},
             {"code", "stray-character"},
             {"message", "the character '\xc3\xa9' (U+00E9) is not allowed here"},
-            {"hint", "Bare keys consist of A-Z a-z 0-9 _ and -. Other keys, and all strings, need "
-                     "quotes."}},
+            {"hint", "Bare keys consist of A-Z a-z 0-9 _ and -. Other keys need quotes: "
+                     "\"\xc3\xa9\"."}},
            {{"severity", "error"},
             {"line", 2},
             {"column", 6},
