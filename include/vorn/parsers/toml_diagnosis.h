@@ -129,7 +129,8 @@ VORN_TOML_DIAGNOSIS_API std::vector<Finding> diagnose(const std::string& documen
 // Returns the source line of a finding with its number, and a line of marks below
 // it, each ended by a line feed; then the same for the related places, with their
 // messages.  The part of a long line that is shown is at most 100 columns wide, and is
-// safe to print: control characters and bytes that are not UTF-8 are shown as \x1B.
+// safe to print: control characters, invisible ones and bytes that are not UTF-8 are
+// shown as \x1B or \u202E.
 //
 // The document is the one that the finding is about; for any other one the
 // excerpt says nothing useful, but the call is safe.  Throws std::bad_alloc if
