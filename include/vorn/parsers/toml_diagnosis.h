@@ -80,7 +80,7 @@ struct Finding
     std::size_t endLine = 1;
     std::size_t endColumn = 1; // after the last character
     // Which kind of mistake it is, as "empty-array": stable, to tell findings
-    // apart in a program.  docs/errors.md lists the codes, each with an example.
+    // apart in a program.  docs/errors.md lists the codes, with examples.
     std::string code;
     // What is wrong, and how to put it right; each a line of printable UTF-8 for
     // whoever wrote the document.  They may change from version to version.
