@@ -11,7 +11,7 @@ constexpr const char* mainHelp =
     "\n"
     "Exit status: 0 accepted, 1 rejected, 2 wrong usage, 3 a file could not be read, or the\n"
     "output could not be written.\n"
-    "Errors in a document go to standard error: check, tree, tokens and json explain them,\n"
+    "Errors in a document go to standard error: check, tree, tokens, json and fix explain them,\n"
     "events and values print what the library logs, with long texts shortened.";
 
 constexpr const char* eventsExample = "  $ printf 'a = 1\\n' | vorn-toml events -\n"
@@ -51,9 +51,11 @@ constexpr const char* checkExample =
     "  ::error file=a.toml,line=1,endLine=1,col=10,endColumn=11,title=empty-array::the array is "
     "empty%0AAn array needs at least one element. Leave the key out instead.\n"
     "\n"
-    "Explanations go to standard error, at most 20 errors per file; the lines that end with\n"
-    "accepted or rejected go to standard output.  Columns count characters.  Of a directory all\n"
-    "*.toml files are read, in hidden directories and behind links to directories none.\n"
+    "Explanations go to standard error, at most 20 for each file; the lines that end with\n"
+    "accepted or rejected go to standard output, and so does all of the other formats.  Columns\n"
+    "count characters.  Of a directory all *.toml files below it are read, except those in hidden\n"
+    "directories and behind links to directories.  A warning is about what is accepted, but\n"
+    "perhaps not read as it was meant.\n"
     "\n"
     "--strict rejects what the library accepts and TOML 1.0 forbids, too: keys and tables that\n"
     "are defined twice, dates that do not exist, integers beyond 64 bits, bytes that are not\n"

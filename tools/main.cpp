@@ -105,7 +105,7 @@ void addCheck(CLI::App& app, Run& run)
                    "Reject what the library accepts and TOML 1.0 forbids, too");
     check.add_flag("--all", options.all, "Explain all errors, not only the first 20 of each file");
     check.add_flag("-q,--quiet", options.quiet,
-                   "Print no lines that say what is accepted or rejected");
+                   "Print no lines that say what is accepted or rejected, and no sum");
     check.add_option("--stdin-name", options.standardInput, "What standard input is called")
         ->option_text("NAME");
     addFormat(check, options);
@@ -127,11 +127,11 @@ void addCommands(CLI::App& app, Run& run)
     addColour(addCommand(app, run, tool::printTokens, "tokens",
                          "List the tokens of documents with their positions", tool::tokensExample),
               run);
-    addFix(app, run);
     CLI::App& json = addCommand(app, run, tool::printJson, "json", "Print a document as JSON",
                                 tool::jsonExample);
     json.get_option("FILE")->expected(1);
     addColour(json, run);
+    addFix(app, run);
 }
 
 std::string versions()
@@ -183,7 +183,7 @@ int main(int argc, char** argv)
     tool::StandardStreams streams;
     CLI::App app("Reads TOML documents the way the services of the device do.", "vorn-toml");
     app.require_subcommand(1);
-    app.set_version_flag("--version", versions, "Print the versions of the tool and its library");
+    app.set_version_flag("--version", versions, "Print the versions of the tool and its libraries");
     app.footer(tool::mainHelp);
     Run run;
     addCommands(app, run);

@@ -16,7 +16,7 @@ struct StrictRule
 // Names
 inline constexpr StrictRule duplicateKey = {
     "duplicate-key", "the key% is defined twice",
-    "A table has each key once. Remove one of the two, or give it another name."};
+    "A table has each key only once. Remove or rename one of the two."};
 inline constexpr StrictRule duplicateTable = {"duplicate-table", "the table% is defined twice",
                                               "Put all pairs of a table below one header. Elements "
                                               "of an array of tables are written [[key]]."};
@@ -27,7 +27,7 @@ inline constexpr StrictRule valueOverTable = {
     "value-over-table", "the key% is a table already, so it cannot have a value",
     "Rename the value or the table."};
 inline constexpr StrictRule tableOverArray = {
-    "table-over-array-of-tables", "the key% is an array of tables already",
+    "table-over-array-of-tables", "the key% is an array of tables already, so it cannot be a table",
     "Write [[ and ]] around the key to add an element, or give the table another name."};
 inline constexpr StrictRule arrayOverTable = {
     "array-of-tables-over-table", "the key% is a table already, so it cannot be an array of tables",
@@ -82,14 +82,14 @@ inline constexpr StrictRule escapedApostrophe = {
 // Bytes
 inline constexpr StrictRule nul = {
     "nul", "% not allowed",
-    "In a string with double quotes, write \\u0000 instead. Perhaps the file is not a text."};
+    "In a string with double quotes, write \\u0000 instead. Perhaps this is not a text file."};
 inline constexpr StrictRule controlCharacter = {
     "control-character", "% not allowed",
     "In a string with double quotes, write \\u% instead. Of control characters only tabs and line "
     "breaks are allowed."};
 inline constexpr StrictRule notUtf8 = {
     "not-utf8", "% not valid UTF-8",
-    "It may be read as one character together with the bytes after it. Save the file as UTF-8."};
+    "Such bytes may be misread, together with those after them. Save the file as UTF-8."};
 inline constexpr StrictRule loneCarriageReturn = {
     "lone-carriage-return", "a carriage return without a line feed after it",
     "Lines end with a line feed (LF), or with a carriage return and a line feed (CR LF)."};

@@ -157,4 +157,9 @@ TEST(StrictBytes, words)
     EXPECT_EQ(findForbiddenBytes("\x1B", 0)[0].hint,
               "In a string with double quotes, write \\u001B instead. Of control characters only "
               "tabs and line breaks are allowed.");
+    EXPECT_EQ(findForbiddenBytes("\0"s, 0)[0].hint,
+              "In a string with double quotes, write \\u0000 instead. Perhaps this is not a text "
+              "file.");
+    EXPECT_EQ(findForbiddenBytes("\xFF", 0)[0].hint,
+              "Such bytes may be misread, together with those after them. Save the file as UTF-8.");
 }

@@ -196,6 +196,10 @@ TEST(StrictTables, words)
     EXPECT_EQ(mistakes[0].message, "the key 'b c' is a table already, so it cannot have a value");
     EXPECT_EQ(mistakes[0].hint, "Rename the value or the table.");
     EXPECT_EQ(strictMistakes("\"\t\" = 1\n'\t' = 1\n").at(0).message, "the key is defined twice");
+    EXPECT_EQ(strictMistakes("a = 1\na = 2\n").at(0).hint,
+              "A table has each key only once. Remove or rename one of the two.");
+    EXPECT_EQ(strictMistakes("[[a]]\n[a]\n").at(0).message,
+              "the key 'a' is an array of tables already, so it cannot be a table");
 }
 
 // The time for these would be hours if it grew with the square.

@@ -21,7 +21,7 @@ import tempfile
 from typing import NamedTuple
 
 # Kebab-case in quotes.
-DECLARED = re.compile(r'"([a-z0-9]+(?:-[a-z0-9]+)+)"')
+DECLARED = re.compile(r'"([a-z0-9]+(?:-[a-z0-9]+)*)"')
 HEADING = re.compile(r"^(##|###) (.*)$", re.MULTILINE)
 BLOCK = re.compile(r"^```([a-z]*)\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 BYTE = re.compile("\u2039([0-9A-F]{2})\u203a")

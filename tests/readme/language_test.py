@@ -4,6 +4,8 @@
 In a table with the columns Document, TOML 1.0 and Here each row has a document in
 backquotes, and whether Python's reader of TOML 1.0 and the library accept it.  The
 documents of a column Instead are accepted by both, and mean the same as the row's.
+What the library accepts, check --strict accepts if TOML 1.0 does; what it rejects of
+TOML 1.0, fix rewrites.
 
 U+23CE stands for a line feed, and two hexadecimal digits between U+2039 and U+203A for the
 character of that number.
@@ -22,6 +24,9 @@ NUMBER = re.compile("\u2039([0-9A-F]{2})\u203a")
 CODE = re.compile(r"`([^`]*)`")
 VERDICTS = {True: "accepted", False: "rejected"}
 TIME_LIMIT = 120  # seconds, for a document
+
+# What fix cannot express.
+NOT_FIXED = {"a = []\n", "a = {}\n", "# \U0001F600\n"}
 
 
 class Row(NamedTuple):
@@ -82,9 +87,9 @@ def meaning_of(document):
         return None
 
 
-def accepts(tool, document):
+def accepts(tool, document, *command):
     run = subprocess.run(
-        [tool, "events", "-"],
+        [tool, *(command or ["events"]), "-"],
         input=document.encode(),
         stdout=subprocess.DEVNULL,
         stderr=subprocess.DEVNULL,
@@ -105,6 +110,13 @@ def complaints_of(row, tool):
     here = VERDICTS[accepts(tool, row.document)]
     if row.here != here:
         yield f"the library says {here}"
+    if row.here == VERDICTS[True] and accepts(tool, row.document, "check", "--strict") != (
+        meaning is not None
+    ):
+        yield "check --strict does not say the same as Python's reader"
+    if row.here == VERDICTS[False] and meaning is not None:
+        if accepts(tool, row.document, "fix") != (row.document not in NOT_FIXED):
+            yield "fix can express it, or not, against what is expected"
     for document in row.instead:
         if not accepts(tool, document):
             yield f"the library rejects {document!r}"

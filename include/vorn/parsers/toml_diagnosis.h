@@ -80,7 +80,7 @@ struct Finding
     std::size_t endLine = 1;
     std::size_t endColumn = 1; // after the last character
     // Which kind of mistake it is, as "empty-array": stable, to tell findings
-    // apart in a program.  docs/errors.md lists the codes, each with an example.
+    // apart in a program.  docs/errors.md lists the codes, with examples.
     std::string code;
     // What is wrong, and how to put it right; each a line of printable UTF-8 for
     // whoever wrote the document.  They may change from version to version.
@@ -103,14 +103,21 @@ struct DiagnosisOptions
 };
 
 // Returns what there is to say about a document, in the order of the places.  What
-// only follows from an earlier mistake is left out.
+// only follows from an earlier mistake is left out.  Of a statement of more than
+// 16 KB, or one that is nested too deeply for the stack of the thread, only the first
+// mistake is told.  After a mistake in a string of several lines nothing is told: any
+// quote may be the one that ends it.
 //
 // Without `strict` there is an error exactly if visitTomlTree() returns false for
-// the text on the same thread: for any bytes, of any size, on any stack.  It never
-// logs, never writes to standard error, and keeps nothing between calls; it may be
-// called on any number of threads.  It takes time in proportion to the text, and
-// allocates little beyond the findings: valid lines cost nothing but the time to
-// read them.
+// the text on the same thread: for any bytes, of any size, on any stack.  With
+// `strict` there may be errors for accepted documents, too.  Forbidden bytes are then
+// found in the whole text, even where nothing else is told any more, and after bytes
+// that are read as the end of the text.
+//
+// It never logs, never writes to standard error, and keeps nothing between calls; it
+// may be called on any number of threads.  It takes time in proportion to the text,
+// and little memory beyond the findings: some megabytes for lines with mistakes, and
+// with `strict` some 40 bytes for each key.
 //
 // Throws std::bad_alloc if there is not enough memory, and nothing else.
 //
@@ -120,9 +127,10 @@ VORN_TOML_DIAGNOSIS_API std::vector<Finding> diagnose(const std::string& documen
                                                       const DiagnosisOptions& options = {});
 
 // Returns the source line of a finding with its number, and a line of marks below
-// it, each ended by a line feed; then the same for the related places.  The part
-// of a long line that is shown is at most 100 columns wide, and is safe to print:
-// control characters and bytes that are not UTF-8 are shown as \x1B.
+// it, each ended by a line feed; then the same for the related places, with their
+// messages.  The part of a long line that is shown is at most 100 columns wide, and is
+// safe to print: control characters, invisible ones and bytes that are not UTF-8 are
+// shown as \x1B or \u202E.
 //
 // The document is the one that the finding is about; for any other one the
 // excerpt says nothing useful, but the call is safe.  Throws std::bad_alloc if
