@@ -105,7 +105,20 @@ TEST(Follower, knowsWhatIsDue)
     EXPECT_EQ(placeAfter("a = {").due, Due::firstPair);
     EXPECT_EQ(placeAfter("a = {b = 1").due, Due::tableEnd);
     EXPECT_EQ(placeAfter("a = {b = 1,").due, Due::pair);
+    EXPECT_EQ(placeAfter("a = {b").due, Due::equals);
     EXPECT_EQ(placeAfter("a = [{b = 1}").due, Due::arrayEnd);
+}
+
+TEST(Follower, goesOnAfterTokensThatDoNotFit)
+{
+    EXPECT_EQ(placeAfter("a = {b}").due, Due::lineEnd);
+    EXPECT_EQ(placeAfter("a = [{b.}").due, Due::arrayEnd);
+    EXPECT_EQ(placeAfter("a = {}").due, Due::lineEnd);
+    EXPECT_EQ(placeAfter("a = [{}").due, Due::arrayEnd);
+    EXPECT_EQ(placeAfter("a = {,").due, Due::pair);
+    EXPECT_EQ(placeAfter("a = {b = ,").due, Due::pair);
+    EXPECT_EQ(placeAfter("a = [,").due, Due::element);
+    EXPECT_EQ(placeAfter("a = ,").due, Due::lineEnd);
 }
 
 TEST(Follower, knowsTheInnermostBracket)
