@@ -41,8 +41,8 @@ TEST(DamagedPart, startsWhereItIsToldTo)
 TEST(DamagedPart, hasAllLinesOfAStatement)
 {
     // Lines that are valid by themselves, too.
-    for (const std::string statement :
-         {"a = [\n1\n]\n", "a = [1, # one\n# two\n'b'\n]\n", "a = {\nb = 1\n}\n"})
+    for (const std::string statement : {"a = [\n1\n]\n", "a = [\n[1],\n[2]\n]\n", "a = [\n= 1\n]\n",
+                                        "a = [1, # one\n# two\n'b'\n]\n", "a = {\nb = 1\n}\n"})
     {
         const std::string text = statement + "c = 1\n";
         EXPECT_EQ(textOf(text, partOf(text)), statement);
@@ -57,6 +57,8 @@ TEST(DamagedPart, doesNotGoOnWithBracketsThatAreNeverClosed)
     text = "a = {b = 1,\n[c]\n";
     EXPECT_EQ(textOf(text, partOf(text)), "a = {b = 1,\n");
     text = "[a\n[b]\n";
+    EXPECT_EQ(textOf(text, partOf(text)), "[a\n");
+    text = "[a\n['b']\n";
     EXPECT_EQ(textOf(text, partOf(text)), "[a\n");
 }
 

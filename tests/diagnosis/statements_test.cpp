@@ -64,6 +64,7 @@ TEST(Statements, areNotSwallowedByABracketThatIsNeverClosed)
     EXPECT_EQ(startsIn("a = [1,\n[b]\nc\n"), "0 8 12 ");
     EXPECT_EQ(startsIn("a = {b = 1\nc = 2\n"), "0 11 ");
     EXPECT_EQ(startsIn("[a\n[b\nc = 1\n"), "0 3 6 ");
+    EXPECT_EQ(startsIn("[a\n[b\n['c']\n]\n"), "0 3 6 12 ");
 }
 
 TEST(OpenBrackets, knowHowManyHaveBeenOpen)
