@@ -56,6 +56,7 @@ TEST(Statements, startAfterALineBreakOutsideOfBrackets)
 {
     EXPECT_EQ(startsIn("a = 1\n[b]\n\nc = [\n1,\n2]\nd\n"), "0 6 11 23 ");
     EXPECT_EQ(startsIn("a = {\nb = 1\n}\nc = 1\n"), "0 14 ");
+    EXPECT_EQ(startsIn("a = [\n= 1\n]\nb\n"), "0 12 ");
 }
 
 TEST(Statements, areNotSwallowedByABracketThatIsNeverClosed)
