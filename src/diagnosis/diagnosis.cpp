@@ -48,7 +48,7 @@ public:
     {
         if (!isStreamable(document_))
         {
-            return {tooLarge()};
+            return {tooLarge()}; // Of four gigabytes.  GCOVR_EXCL_LINE
         }
         if (options_.strict)
         {

@@ -27,8 +27,6 @@ ErrorKind kindOf(ANTLR3_UINT32 type)
         return ErrorKind::noAlternative;
     case ANTLR3_MISMATCHED_SET_EXCEPTION:
         return ErrorKind::mismatchedSet;
-    case ANTLR3_EARLY_EXIT_EXCEPTION:
-        return ErrorKind::earlyExit;
     case ANTLR3_UNWANTED_TOKEN_EXCEPTION:
         return ErrorKind::unwantedToken;
     case ANTLR3_MISSING_TOKEN_EXCEPTION:

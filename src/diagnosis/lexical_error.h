@@ -13,10 +13,9 @@ enum class ErrorKind
     recognition, // of a lexer: another character was due; of a parser: not repaired
     noAlternative,
     mismatchedSet,
-    earlyExit,
     unwantedToken,
     missingToken,
-    other,
+    other, // of a lexer: a loop without a first round
 };
 
 // Where the lexer could not make a token.

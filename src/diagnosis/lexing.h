@@ -28,7 +28,7 @@ Owned<Object> owned(Object* made)
 {
     if (made == nullptr)
     {
-        throw std::bad_alloc();
+        throw std::bad_alloc(); // There was enough just before.  GCOVR_EXCL_LINE
     }
     return Owned<Object>(made);
 }

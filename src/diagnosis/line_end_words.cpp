@@ -40,9 +40,8 @@ Words forLineEnd(const Site& site)
                                          : "Put double quotes around a string with an apostrophe "
                                            "in it";
         const std::string example = meant.empty() ? "" : (isBasic ? ", or: " : ": ") + meant;
-        return {codes::quoteInString,
-                "expected the end of the line after the string" + foundIn(site),
-                hint + example + '.'};
+        const std::string message = "expected the end of the line after the string" + foundIn(site);
+        return {codes::quoteInString, message, hint + example + '.'};
     }
     if (type == TokenType::closeBracket || type == TokenType::closeBrace)
     {

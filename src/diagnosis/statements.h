@@ -54,9 +54,6 @@ public:
     // The first token of the next statement, or the number of all tokens.
     std::size_t nextAfter(std::size_t token) const;
 
-    // The first token of the last statement.
-    std::size_t last() const { return begins_.empty() ? 0 : begins_.back(); }
-
     // Whether a bracket is closed.
     bool isClosed(std::size_t opening) const { return closings_[opening] != 0; }
 

@@ -17,7 +17,7 @@ TableId Names::newTable()
 {
     if (lastTable_ == std::numeric_limits<TableId>::max())
     {
-        throw std::bad_alloc();
+        throw std::bad_alloc(); // After 2^32 tables.  GCOVR_EXCL_LINE
     }
     return ++lastTable_;
 }
@@ -76,7 +76,7 @@ void Names::grow()
     const std::size_t count = slots_.empty() ? first : slots_.size() * 2;
     if (count > std::numeric_limits<std::uint32_t>::max())
     {
-        throw std::bad_alloc();
+        throw std::bad_alloc(); // After as many keys.  GCOVR_EXCL_LINE
     }
     // The old ones are not needed to make the new ones.
     slots_ = {};

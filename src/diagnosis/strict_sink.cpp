@@ -83,20 +83,18 @@ void StrictSink::keyOfPair(Event event, std::string_view text)
 
 void StrictSink::lineEnd(const char* /*position*/)
 {
-    switch (statement_)
+    if (statement_ == Statement::header)
     {
-    case Statement::header:
         tables_.defineTable(key_);
-        break;
-    case Statement::arrayHeader:
+    }
+    else if (statement_ == Statement::arrayHeader)
+    {
         checkBrackets(key_, mistakes_);
         tables_.defineArrayElement(key_);
-        break;
-    case Statement::pair:
+    }
+    else
+    {
         tables_.definePair(key_, value_);
-        break;
-    case Statement::unknown:
-        break;
     }
     mistakes_.keepStatement();
     startStatement();

@@ -109,16 +109,16 @@ Words forHeaderEnd(const Site& site)
     const std::string hint = site.place.isOfArray
                                  ? "A header of an array of tables is written [[key]], on one line."
                                  : "A header is written [key], on one line.";
+    const std::string message = "expected ']' after the key of the header" + foundIn(site);
     const std::string_view key = keyOfHeader(site);
     if (!key.empty())
     {
         const std::string brackets = site.place.isOfArray ? "]]" : "]";
-        return {codes::unquotedKey, "expected ']' after the key of the header" + foundIn(site),
+        return {codes::unquotedKey, message,
                 "A key of several words needs quotes: " + std::string(brackets.size(), '[') +
                     inQuotes(key) + brackets + '.'};
     }
-    return {codes::unclosedHeader, "expected ']' after the key of the header" + foundIn(site),
-            hint};
+    return {codes::unclosedHeader, message, hint};
 }
 
 // In an inline table, closed or not.

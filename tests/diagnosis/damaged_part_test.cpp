@@ -41,8 +41,8 @@ TEST(DamagedPart, startsWhereItIsToldTo)
 TEST(DamagedPart, hasAllLinesOfAStatement)
 {
     // Lines that are valid by themselves, too.
-    for (const std::string statement :
-         {"a = [\n1\n]\n", "a = [1, # one\n# two\n'b'\n]\n", "a = {\nb = 1\n}\n"})
+    for (const std::string statement : {"a = [\n1\n]\n", "a = [\n[1],\n[2]\n]\n", "a = [\n= 1\n]\n",
+                                        "a = [1, # one\n# two\n'b'\n]\n", "a = {\nb = 1\n}\n"})
     {
         const std::string text = statement + "c = 1\n";
         EXPECT_EQ(textOf(text, partOf(text)), statement);
@@ -57,6 +57,8 @@ TEST(DamagedPart, doesNotGoOnWithBracketsThatAreNeverClosed)
     text = "a = {b = 1,\n[c]\n";
     EXPECT_EQ(textOf(text, partOf(text)), "a = {b = 1,\n");
     text = "[a\n[b]\n";
+    EXPECT_EQ(textOf(text, partOf(text)), "[a\n");
+    text = "[a\n['b']\n";
     EXPECT_EQ(textOf(text, partOf(text)), "[a\n");
 }
 
@@ -77,6 +79,35 @@ TEST(DamagedPart, endsInAStringOfSeveralLinesWithAMistake)
     EXPECT_TRUE(found.isLast);
     EXPECT_TRUE(found.hasUnclosedString);
     EXPECT_LE(found.part.end, text.find("\nc"));
+}
+
+TEST(DamagedPart, endsBeforeAStatementWithALotOfOtherBytes)
+{
+    const std::string strays(20000, '@');
+    // That there are too many is known at the end of the document only: none is a token.
+    for (const std::string& rest : {strays, "b = " + strays})
+    {
+        const std::string text = "a\n" + rest;
+        const diagnosis::DamagedPart first = partOf(text);
+        EXPECT_EQ(textOf(text, first), "a\n");
+        EXPECT_FALSE(first.isLast);
+        EXPECT_FALSE(first.isLong);
+        EXPECT_EQ(first.part.next.begin, rest == strays ? text.size() : 2U);
+        const diagnosis::DamagedPart second = partOf(text, 2);
+        EXPECT_EQ(textOf(text, second), rest);
+        EXPECT_TRUE(second.isLast);
+        EXPECT_TRUE(second.isLong);
+    }
+}
+
+TEST(DamagedPart, endsBeforeAStatementWithAStringThatIsNeverClosed)
+{
+    const std::string text = "a\nb = " + std::string(20000, '@') + " '''\nc = 1\n";
+    const diagnosis::DamagedPart first = partOf(text);
+    EXPECT_EQ(textOf(text, first), "a\n");
+    EXPECT_FALSE(first.isLast);
+    EXPECT_FALSE(first.hasUnclosedString);
+    EXPECT_TRUE(partOf(text, 2).hasUnclosedString);
 }
 
 TEST(DamagedPart, isLongIfItsOneStatementIs)

@@ -7,6 +7,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "diagnosis/codes.h"
+#include "diagnosis/long_statement.h"
+#include "diagnosis/refused_document.h"
+#include "diagnosis/valid_lines.h"
+
 #include "support/large_documents.h"
 #include "support/memory_limit.h"
 #include "support/stderr_capture.h"
@@ -16,6 +21,7 @@
 #include <algorithm>
 #include <functional>
 #include <new>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -151,6 +157,28 @@ TEST(DiagnosisMemory, mayBeShort)
     }
     EXPECT_TRUE(isFound);
     EXPECT_TRUE(hasThrown);
+}
+
+// Each says so by itself, without the others before it.
+TEST(DiagnosisMemory, isAskedForBeforeItIsNeeded)
+{
+    const std::string text(64 * megabyte, '\n');
+    toml::diagnosis::DamagedPart part;
+    part.part = toml::diagnosis::wholeOf(text);
+    const std::string little = "a = 1\n";
+    std::optional<toml::diagnosis::Mistake> refusal;
+    {
+        const test::MemoryLimit limit(64 * kilobyte);
+        EXPECT_THROW(toml::diagnosis::ValidLines{text}, std::bad_alloc);
+        EXPECT_THROW(toml::diagnosis::firstMistake(text, part), std::bad_alloc);
+        EXPECT_THROW(toml::diagnosis::recognise(little, toml::diagnosis::wholeOf(little)),
+                     std::bad_alloc);
+        refusal = toml::diagnosis::refusedDocument(little);
+    }
+    ASSERT_TRUE(refusal);
+    EXPECT_STREQ(refusal->code, toml::diagnosis::codes::tooLarge);
+    EXPECT_EQ(refusal->begin, 0U);
+    EXPECT_EQ(refusal->message, "there is not enough memory to read the document");
 }
 
 TEST(DiagnosisStack, mayBeOfAnySize)

@@ -157,7 +157,7 @@ void expectEveryKind(const Tally& tally)
 {
     EXPECT_EQ(tally.lexicalKinds,
               (std::set<ErrorKind>{ErrorKind::recognition, ErrorKind::noAlternative,
-                                   ErrorKind::mismatchedSet, ErrorKind::earlyExit}));
+                                   ErrorKind::mismatchedSet, ErrorKind::other}));
     EXPECT_EQ(tally.syntaxKinds,
               (std::set<ErrorKind>{ErrorKind::recognition, ErrorKind::noAlternative,
                                    ErrorKind::unwantedToken, ErrorKind::missingToken}));

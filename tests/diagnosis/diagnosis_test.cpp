@@ -102,6 +102,23 @@ TEST(Diagnose, tellsAnErrorInAStringOfSeveralLinesAsTheLast)
               "1:2 missing-equals\n2:8 unknown-escape\n");
 }
 
+TEST(Diagnose, comparesNoKeysAcrossAStatementThatMayBeAHeader)
+{
+    const auto strictly = [](const std::string& text)
+    {
+        toml::DiagnosisOptions options;
+        options.strict = true;
+        return shown(toml::diagnose(text, options));
+    };
+    EXPECT_EQ(strictly("a = 1\na = 1\n"), "2:1 duplicate-key\n");
+    EXPECT_EQ(strictly("a = 1\n]\na = 1\n"), "2:1 stray-bracket\n");
+    // The rest of a statement is no statement, after empty ones either.
+    EXPECT_EQ(strictly("[b]\n@[b]\n"), "2:1 stray-character\n");
+    EXPECT_EQ(strictly("[b]\n@\n@[b]\n"), "2:1 stray-character\n3:1 stray-character\n");
+    // Bytes that are an error are not a warning, too.
+    EXPECT_EQ(strictly("@\xff\xff, x\n"), "1:1 stray-character\n1:2 not-utf8\n");
+}
+
 TEST(Diagnose, neverLogsOrPrints)
 {
     const test::LogRecorder log;

@@ -42,6 +42,17 @@ TEST(Location, countsLinesAndCharacters)
     EXPECT_EQ(ends, "1:2 2:2 2:3 4:1 4:2 4:2 ");
 }
 
+TEST(Location, countsNothingOfAByteOrderMark)
+{
+    const std::string text = "\xef\xbb\xbf"
+                             "a\n";
+    const auto findings = toml::diagnosis::located(text, {mistake(0, 3), mistake(1, 4)});
+    EXPECT_EQ(shown(findings[0].line, findings[0].column), "1:1");
+    EXPECT_EQ(shown(findings[0].endLine, findings[0].endColumn), "1:1");
+    EXPECT_EQ(shown(findings[1].line, findings[1].column), "1:1");
+    EXPECT_EQ(shown(findings[1].endLine, findings[1].endColumn), "1:2");
+}
+
 TEST(Location, takesPlacesInAnyOrder)
 {
     const std::string text = "a = 1\nb = 2\nc = 3\n";

@@ -72,6 +72,19 @@ TEST(LongStatement, hasTheMistakeAtWhichTheReaderStops)
     }
 }
 
+TEST(LongStatement, isFollowedByTheStatementAfterIt)
+{
+    const std::string text = "a = [1\nb = 2\n";
+    DamagedPart part;
+    part.part = {0, 7, {vorn::parsers::toml::TokenType::bareKey, 7, 8}};
+    const auto mistake = diagnosis::firstMistake(text, part);
+    ASSERT_TRUE(mistake);
+    EXPECT_STREQ(mistake->code, "unclosed-array");
+    EXPECT_EQ(mistake->begin, 7U);
+    EXPECT_EQ(mistake->end, 8U);
+    EXPECT_EQ(mistake->message, "the array opened on line 1 is not closed before the word 'b'");
+}
+
 // The reader over the lexer's tokens and the parser find the first mistake in the same place.
 TEST(LongStatement, hasTheFirstMistakeOfTheParser)
 {

@@ -56,6 +56,7 @@ TEST(Statements, startAfterALineBreakOutsideOfBrackets)
 {
     EXPECT_EQ(startsIn("a = 1\n[b]\n\nc = [\n1,\n2]\nd\n"), "0 6 11 23 ");
     EXPECT_EQ(startsIn("a = {\nb = 1\n}\nc = 1\n"), "0 14 ");
+    EXPECT_EQ(startsIn("a = [\n= 1\n]\nb\n"), "0 12 ");
 }
 
 TEST(Statements, areNotSwallowedByABracketThatIsNeverClosed)
@@ -64,6 +65,7 @@ TEST(Statements, areNotSwallowedByABracketThatIsNeverClosed)
     EXPECT_EQ(startsIn("a = [1,\n[b]\nc\n"), "0 8 12 ");
     EXPECT_EQ(startsIn("a = {b = 1\nc = 2\n"), "0 11 ");
     EXPECT_EQ(startsIn("[a\n[b\nc = 1\n"), "0 3 6 ");
+    EXPECT_EQ(startsIn("[a\n[b\n['c']\n]\n"), "0 3 6 12 ");
 }
 
 TEST(OpenBrackets, knowHowManyHaveBeenOpen)
@@ -105,7 +107,20 @@ TEST(Follower, knowsWhatIsDue)
     EXPECT_EQ(placeAfter("a = {").due, Due::firstPair);
     EXPECT_EQ(placeAfter("a = {b = 1").due, Due::tableEnd);
     EXPECT_EQ(placeAfter("a = {b = 1,").due, Due::pair);
+    EXPECT_EQ(placeAfter("a = {b").due, Due::equals);
     EXPECT_EQ(placeAfter("a = [{b = 1}").due, Due::arrayEnd);
+}
+
+TEST(Follower, goesOnAfterTokensThatDoNotFit)
+{
+    EXPECT_EQ(placeAfter("a = {b}").due, Due::lineEnd);
+    EXPECT_EQ(placeAfter("a = [{b.}").due, Due::arrayEnd);
+    EXPECT_EQ(placeAfter("a = {}").due, Due::lineEnd);
+    EXPECT_EQ(placeAfter("a = [{}").due, Due::arrayEnd);
+    EXPECT_EQ(placeAfter("a = {,").due, Due::pair);
+    EXPECT_EQ(placeAfter("a = {b = ,").due, Due::pair);
+    EXPECT_EQ(placeAfter("a = [,").due, Due::element);
+    EXPECT_EQ(placeAfter("a = ,").due, Due::lineEnd);
 }
 
 TEST(Follower, knowsTheInnermostBracket)

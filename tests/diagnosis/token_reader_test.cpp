@@ -82,6 +82,20 @@ TEST(TokenReader, keepsOnlyIndependentErrorsIfItIsTold)
     EXPECT_EQ(errorsOf("@ \"\"\"\\q\n@\n", TokenReader::Errors::independent), 2U);
 }
 
+TEST(LexerCursor, knowsTheTokensOfOneCharacter)
+{
+    const std::string text = "[]{},.=";
+    LexerCursor cursor(text, 0);
+    for (const char c : text)
+    {
+        EXPECT_FALSE(cursor.isNext('a'));
+        EXPECT_TRUE(cursor.isNext(c)) << c;
+        EXPECT_TRUE(cursor.take(c)) << c;
+    }
+    EXPECT_TRUE(cursor.atEnd());
+    EXPECT_FALSE(cursor.take('='));
+}
+
 TEST(LexerCursor, knowsTheTokenThatWasRefused)
 {
     const std::string text = "a = 1 ]\n";
