@@ -175,7 +175,7 @@ TEST(VornTomlFix, KeepsModeOwnerAndLinks)
     EXPECT_EQ(filesIn(directory), 2U);
 }
 
-TEST(VornTomlFix, SaysWhatItCannotWrite)
+TEST(VornTomlFixWithLimits, SaysWhatItCannotWrite)
 {
     // A limit of the shell's on the size of files stands for a full disk.
     const test::TemporaryDirectory directory;
