@@ -1,0 +1,118 @@
+#include "containers.h"
+
+#include <algorithm>
+
+#include "key_path.h"
+
+namespace vorn::parsers::toml::config
+{
+
+std::uint32_t Containers::find(const Slot& slot) const
+{
+    if (slot.parent == none)
+    {
+        return none;
+    }
+    if (slot.key != nullptr)
+    {
+        const auto found = inMaps_.find(slot.object);
+        return found == inMaps_.end() ? none : found->second;
+    }
+    return slot.node == none ? none : member(slot.parent, slot.node).container;
+}
+
+std::uint32_t Containers::open(const Slot& slot, const Type& type, void* object, const Table* table)
+{
+    const std::uint32_t number = size();
+    Container opened;
+    opened.slot = slot;
+    opened.type = &type;
+    opened.object = object;
+    opened.firstMember = members_.size();
+    if (type.kind == Kind::table)
+    {
+        opened.table = table;
+        members_.resize(members_.size() + table->nodes.size());
+    }
+    containers_.push_back(opened);
+    if (slot.key != nullptr)
+    {
+        inMaps_[slot.object] = number;
+    }
+    else if (slot.node != none)
+    {
+        member(slot.parent, slot.node).container = number;
+    }
+    else if (slot.parent != none)
+    {
+        containers_[slot.parent].last = number;
+    }
+    return number;
+}
+
+bool Containers::isWithin(std::uint32_t number, std::uint32_t outer) const
+{
+    while (number != none && number > outer)
+    {
+        number = containers_[number].slot.parent;
+    }
+    return number == outer;
+}
+
+void Containers::close(std::uint32_t number)
+{
+    const Slot& slot = containers_[number].slot;
+    if (slot.key != nullptr)
+    {
+        inMaps_.erase(slot.object);
+    }
+    else if (slot.node != none)
+    {
+        member(slot.parent, slot.node).container = none;
+    }
+    else if (slot.parent != none)
+    {
+        containers_[slot.parent].last = none;
+    }
+    containers_[number].object = nullptr;
+    while (!containers_.empty() && containers_.back().object == nullptr)
+    {
+        members_.resize(containers_.back().firstMember);
+        containers_.pop_back();
+    }
+}
+
+void Containers::damage(std::uint32_t number)
+{
+    for (; number != none && !containers_[number].isDamaged;
+         number = containers_[number].slot.parent)
+    {
+        containers_[number].isDamaged = true;
+    }
+}
+
+std::string Containers::pathOf(const Slot& slot) const
+{
+    std::string path = slot.parent == none ? std::string() : pathOf(slot.parent);
+    if (slot.key != nullptr)
+    {
+        addKey(path, *slot.key);
+    }
+    else if (slot.index != none)
+    {
+        path += '[' + std::to_string(slot.index) + ']';
+    }
+    else if (slot.node != none)
+    {
+        path += path.empty() ? "" : ".";
+        path += containers_[slot.parent].table->nodes[slot.node].path;
+    }
+    return path;
+}
+
+std::string Containers::pathOf(std::uint32_t number) const
+{
+    return pathOf(containers_[number].slot);
+}
+
+} // namespace vorn::parsers::toml::config

@@ -1,0 +1,151 @@
+#include "expectation.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <string_view>
+
+#include "scalar.h"
+#include "shown_text.h"
+
+namespace vorn::parsers::toml::config
+{
+namespace
+{
+
+std::string nounOf(const Type& type, const Entry& entry, bool isPlural)
+{
+    const std::string_view end = isPlural ? "s" : "";
+    std::string noun;
+    switch (type.kind)
+    {
+    case Kind::boolean:
+        noun = "boolean";
+        break;
+    case Kind::integer:
+        noun = "integer";
+        break;
+    case Kind::floating:
+        noun = "number";
+        break;
+    case Kind::duration:
+        return std::string("number") + (isPlural ? "s of " : " of ") + entry.unitName;
+    case Kind::string:
+    case Kind::choice:
+        noun = "string";
+        break;
+    case Kind::dateTime:
+        return isPlural ? "dates or times" : "date or time";
+    case Kind::optional:
+        return nounOf(*type.element, entry, isPlural);
+    case Kind::list:
+        noun = isPlural ? "arrays of " : "array of ";
+        return noun + nounOf(*type.element, entry, true);
+    case Kind::map:
+        noun = isPlural ? "tables of " : "table of ";
+        return noun + nounOf(*type.element, entry, true);
+    case Kind::table:
+        noun = "table";
+        break;
+    }
+    return noun.append(end);
+}
+
+std::string limitText(const Limit& limit)
+{
+    return limit.isInteger ? std::to_string(limit.integer) : textOf(limit.floating);
+}
+
+} // namespace
+
+const char* nameOf(ScalarKind kind)
+{
+    switch (kind)
+    {
+    case ScalarKind::string:
+        return "a string";
+    case ScalarKind::integer:
+        return "an integer";
+    case ScalarKind::floating:
+        return "a float";
+    case ScalarKind::boolean:
+        return "a boolean";
+    case ScalarKind::dateTime:
+        return "a date with a time";
+    case ScalarKind::date:
+        return "a date";
+    case ScalarKind::time:
+        break;
+    }
+    return "a time";
+}
+
+std::string expectationOf(const Type& type, const Entry& entry)
+{
+    const std::string noun = nounOf(type, entry, false);
+    return (noun[0] == 'a' || noun[0] == 'i' ? "an " : "a ") + noun;
+}
+
+std::string limitsOf(const Type& type, const Entry& entry)
+{
+    if (entry.range)
+    {
+        return limitText(entry.range->first) + " to " + limitText(entry.range->second);
+    }
+    return type.kind == Kind::integer ? std::to_string(type.min) + " to " + std::to_string(type.max)
+                                      : std::string();
+}
+
+std::string choicesOf(const Entry& entry)
+{
+    std::string names;
+    for (const Choice& choice : entry.choices)
+    {
+        names += (names.empty() ? "" : ", ") + quoted(choice.name());
+    }
+    return names;
+}
+
+std::string textOf(double number)
+{
+    if (std::isnan(number))
+    {
+        return "nan";
+    }
+    if (std::isinf(number))
+    {
+        return number < 0 ? "-inf" : "inf";
+    }
+    std::array<char, 32> text{};
+    const char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+    return {text.data(), static_cast<std::size_t>(end - text.data())};
+}
+
+std::string nameOfUnit(std::intmax_t numerator, std::intmax_t denominator)
+{
+    struct Named
+    {
+        std::intmax_t numerator;
+        std::intmax_t denominator;
+        const char* name;
+    };
+    static constexpr std::array<Named, 7> units{{{1, 1000000000, "nanoseconds"},
+                                                 {1, 1000000, "microseconds"},
+                                                 {1, 1000, "milliseconds"},
+                                                 {1, 1, "seconds"},
+                                                 {60, 1, "minutes"},
+                                                 {3600, 1, "hours"},
+                                                 {86400, 1, "days"}}};
+    for (const Named& unit : units)
+    {
+        if (unit.numerator == numerator && unit.denominator == denominator)
+        {
+            return unit.name;
+        }
+    }
+    const std::string count = std::to_string(numerator);
+    return (denominator == 1 ? count : count + '/' + std::to_string(denominator)) + " seconds";
+}
+
+} // namespace vorn::parsers::toml::config

@@ -1,0 +1,249 @@
+#include "navigation.h"
+
+#include <utility>
+#include <vector>
+
+#include "expectation.h"
+#include "key_path.h"
+#include "suggestion.h"
+
+namespace vorn::parsers::toml::config
+{
+namespace
+{
+
+constexpr char table[] = "a table";
+constexpr char arrayOfTables[] = "an array of tables";
+
+} // namespace
+
+Content contentOf(const Slot& slot)
+{
+    Content content{slot.type, slot.object};
+    while (content.type->kind == Kind::optional)
+    {
+        content.object = content.type->make(content.object);
+        content.type = content.type->element;
+    }
+    return content;
+}
+
+Navigation::Navigation(const Table& table, void* object, Problems& problems)
+    : problems_(problems), closing_(containers_, problems)
+{
+    static constexpr Type root{Kind::table};
+    Slot slot;
+    slot.type = &root;
+    slot.object = object;
+    containers_.open(slot, root, object, &table);
+}
+
+Slot Navigation::find(Position position, const Key& key)
+{
+    const Container& container = containers_[position.container];
+    Slot slot;
+    slot.spot = spotOf(key.offset);
+    if (container.type->kind == Kind::map)
+    {
+        const MapSlot inMap = container.type->insert(container.object, std::string(key.name));
+        slot.type = container.type->element;
+        slot.object = inMap.value;
+        slot.key = inMap.key;
+        slot.entry = container.slot.entry;
+        slot.parent = position.container;
+        return slot;
+    }
+    slot.node = container.table->child(position.node, key.name);
+    if (slot.node == none)
+    {
+        reportUnknown(position, key);
+        return slot;
+    }
+    slot.parent = position.container;
+    Member& member = containers_.member(slot.parent, slot.node);
+    if (!member.isThere)
+    {
+        member.isThere = true;
+        member.spot = slot.spot;
+    }
+    slot.entry = container.table->entryOf(slot.node);
+    if (slot.entry != nullptr)
+    {
+        slot.type = slot.entry->type;
+        slot.object = static_cast<char*>(container.object) + slot.entry->offset;
+    }
+    return slot;
+}
+
+Position Navigation::enter(const Slot& slot, const char* found)
+{
+    if (slot.type == nullptr)
+    {
+        return slot.node == none ? Position{} : Position{slot.parent, slot.node};
+    }
+    const Content content = contentOf(slot);
+    if (content.type->kind != Kind::table && content.type->kind != Kind::map)
+    {
+        reportKind(slot, found);
+        return {};
+    }
+    std::uint32_t container = containers_.find(slot);
+    if (container == none)
+    {
+        container = containers_.open(slot, *content.type, content.object, slot.entry->table.get());
+    }
+    return {container};
+}
+
+Position Navigation::pass(Position position, const Key& key)
+{
+    const Slot slot = find(position, key);
+    if (slot.type == nullptr || contentOf(slot).type->kind != Kind::list)
+    {
+        return enter(slot, table);
+    }
+    const std::uint32_t list = containers_.find(slot);
+    if (list == none || containers_[list].last == none)
+    {
+        reportKind(slot, table);
+        return {};
+    }
+    return {containers_[list].last};
+}
+
+Position Navigation::header(Position position, const Key& key)
+{
+    return enter(find(position, key), table);
+}
+
+Position Navigation::arrayHeader(Position position, const Key& key)
+{
+    const Slot slot = find(position, key);
+    const std::uint32_t list = openList(slot, arrayOfTables);
+    if (list == none)
+    {
+        return {};
+    }
+    const Slot element = append(list, key.offset);
+    return element.type == nullptr ? Position{} : enter(element, table);
+}
+
+std::uint32_t Navigation::openList(const Slot& slot, const char* found)
+{
+    if (slot.type == nullptr)
+    {
+        if (slot.node != none)
+        {
+            report(slot, slot.spot, std::string("should be a table, is ") + found);
+        }
+        return none;
+    }
+    const Content content = contentOf(slot);
+    if (content.type->kind != Kind::list)
+    {
+        reportKind(slot, found);
+        return none;
+    }
+    if (const std::uint32_t list = containers_.find(slot); list != none)
+    {
+        return list;
+    }
+    content.type->clear(content.object);
+    return containers_.open(slot, *content.type, content.object, nullptr);
+}
+
+Slot Navigation::append(std::uint32_t list, std::size_t offset)
+{
+    closeElement(list);
+    Container& container = containers_[list];
+    Slot slot;
+    slot.object = container.type->append(container.object, container.count);
+    slot.type = slot.object == nullptr ? nullptr : container.type->element;
+    slot.entry = container.slot.entry;
+    slot.parent = list;
+    slot.index = container.count++;
+    slot.spot = spotOf(offset);
+    return slot;
+}
+
+void Navigation::closeElement(std::uint32_t list)
+{
+    if (const std::uint32_t last = containers_[list].last; last != none)
+    {
+        closing_.close(last);
+    }
+}
+
+void Navigation::endSource()
+{
+    for (std::uint32_t number = containers_.size(); number-- > 0;)
+    {
+        if (number < containers_.size() && containers_.isOpen(number) &&
+            containers_[number].type->kind == Kind::list)
+        {
+            closing_.close(number);
+        }
+    }
+}
+
+void Navigation::report(const Slot& slot, Spot spot, std::string&& message, std::string&& hint)
+{
+    Problem problem;
+    problem.path = containers_.pathOf(slot);
+    problem.message = std::move(message);
+    problem.hint = std::move(hint);
+    problems_.add(spot, std::move(problem));
+    containers_.damage(slot.parent);
+}
+
+void Navigation::reportKind(const Slot& slot, const char* found)
+{
+    report(slot, slot.spot,
+           "should be " + expectationOf(*slot.type, *slot.entry) + ", is " + found);
+}
+
+Unknown Navigation::unknownAt(std::uint32_t container) const
+{
+    for (; container != none; container = containers_[container].slot.parent)
+    {
+        const Table* const found = containers_[container].table;
+        if (found != nullptr && found->unknown)
+        {
+            return *found->unknown;
+        }
+    }
+    return Unknown::problem;
+}
+
+void Navigation::reportUnknown(Position position, const Key& key)
+{
+    const Unknown unknown = unknownAt(position.container);
+    if (unknown == Unknown::ignored)
+    {
+        return;
+    }
+    const Container& container = containers_[position.container];
+    const Node& node = container.table->nodes[position.node];
+    std::vector<std::string_view> names;
+    for (const std::uint32_t child : node.children)
+    {
+        names.emplace_back(container.table->nodes[child].name);
+    }
+    Problem problem;
+    problem.path = containers_.pathOf(position.container);
+    if (!node.path.empty())
+    {
+        problem.path += (problem.path.empty() ? "" : ".") + node.path;
+    }
+    addKey(problem.path, key.name);
+    problem.message = "unknown key";
+    problem.hint = didYouMean(key.name, names);
+    problem.severity = unknown == Unknown::warning ? Severity::warning : Severity::error;
+    problems_.add(spotOf(key.offset), std::move(problem));
+    if (unknown == Unknown::problem)
+    {
+        containers_.damage(position.container);
+    }
+}
+
+} // namespace vorn::parsers::toml::config

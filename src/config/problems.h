@@ -1,0 +1,61 @@
+// Collects what is wrong, and puts it in order.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <vorn/parsers/toml_config.h>
+
+namespace vorn::parsers::toml::config
+{
+
+// A place before its line is counted.
+struct Spot
+{
+    std::uint32_t source = 0; // the text or file, by its number
+    std::size_t offset = 0;
+};
+
+// A document, and the file that it is from.
+struct Source
+{
+    std::string file; // empty for a text
+    const std::string* text;
+};
+
+class Problems
+{
+public:
+    // There are no more after so many.
+    static constexpr std::size_t max = 1000;
+
+    // What is missing comes after all others.
+    enum class Order
+    {
+        byPlace,
+        last,
+    };
+
+    void add(Spot spot, Problem&& problem, Order order = Order::byPlace);
+
+    // Whether one of them keeps the configuration from being filled.
+    bool haveErrors() const { return hasErrors_; }
+
+    // In the order of the documents, with lines and columns.
+    std::vector<Problem> take(const std::vector<Source>& sources);
+
+private:
+    struct Found
+    {
+        Order order;
+        Spot spot;
+        Problem problem;
+    };
+
+    std::vector<Found> found_;
+    bool hasErrors_ = false;
+};
+
+} // namespace vorn::parsers::toml::config

@@ -1,0 +1,153 @@
+#include "table.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "key_path.h"
+
+namespace vorn::parsers::toml::config
+{
+namespace
+{
+
+// The first child of a node that does not come before a name.
+auto placeOf(const Table& table, std::uint32_t node, std::string_view name)
+{
+    const std::vector<std::uint32_t>& children = table.nodes[node].children;
+    return std::lower_bound(children.begin(), children.end(), name,
+                            [&table](std::uint32_t child, std::string_view wanted)
+                            { return table.nodes[child].name < wanted; });
+}
+
+std::uint32_t addNode(Table& table, std::uint32_t parent, const std::string& name)
+{
+    if (const std::uint32_t old = table.child(parent, name); old != none)
+    {
+        return old;
+    }
+    const auto added = static_cast<std::uint32_t>(table.nodes.size());
+    Node node;
+    node.name = name;
+    node.path = table.nodes[parent].path;
+    addKey(node.path, name);
+    node.parent = parent;
+    table.nodes[parent].children.insert(placeOf(table, parent, name), added);
+    table.nodes.push_back(std::move(node));
+    return added;
+}
+
+// The choices of an entry are of the type that is in its member.
+bool areOfType(const std::vector<Choice>& choices, const Type* type)
+{
+    while (type->element != nullptr)
+    {
+        type = type->element;
+    }
+    return std::all_of(choices.begin(), choices.end(),
+                       [type](const Choice& choice) { return choice.type() == type; });
+}
+
+// Whether a node can hold another entry: it has none, and no ancestor of it has one.
+bool isFree(const Table& table, std::uint32_t node)
+{
+    if (!table.nodes[node].children.empty() || table.nodes[node].entry != none)
+    {
+        return false;
+    }
+    for (; node != none; node = table.nodes[node].parent)
+    {
+        if (table.nodes[node].entry != none)
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+std::uint32_t Table::child(std::uint32_t node, std::string_view name) const
+{
+    const auto place = placeOf(*this, node, name);
+    return place != nodes[node].children.end() && nodes[*place].name == name ? *place : none;
+}
+
+std::uint32_t Table::find(const std::string& path) const
+{
+    const auto names = namesIn(path);
+    std::uint32_t node = names ? 0 : none;
+    for (std::size_t i = 0; node != none && i < names->size(); ++i)
+    {
+        node = child(node, (*names)[i]);
+    }
+    return node;
+}
+
+std::shared_ptr<Table> makeTable(WithDefault withDefault)
+{
+    auto table = std::make_shared<Table>();
+    table->withDefault = withDefault;
+    return table;
+}
+
+void addEntry(Table& table, Entry&& entry)
+{
+    const auto names = namesIn(entry.path);
+    if (!names)
+    {
+        table.mistakes.push_back(entry.path + " is not a key");
+        return;
+    }
+    std::uint32_t node = 0;
+    for (const std::string& name : *names)
+    {
+        node = addNode(table, node, name);
+    }
+    if (!isFree(table, node))
+    {
+        table.mistakes.push_back(entry.path + " has two meanings");
+        return;
+    }
+    if (!areOfType(entry.choices, entry.type))
+    {
+        table.mistakes.push_back("the choices of " + entry.path + " are of another type");
+    }
+    table.nodes[node].entry = static_cast<std::uint32_t>(table.entries.size());
+    table.entries.push_back(std::move(entry));
+}
+
+void addCheck(Table& table, Check&& check, std::vector<std::string>&& paths)
+{
+    table.checks.push_back({std::move(check), std::move(paths)});
+}
+
+void setUnknownKeys(Table& table, Unknown unknown)
+{
+    table.unknown = unknown;
+}
+
+std::vector<std::string> mistakesOf(const Table& table)
+{
+    std::vector<std::string> mistakes = table.mistakes;
+    for (const TableCheck& check : table.checks)
+    {
+        for (const std::string& path : check.paths)
+        {
+            if (table.find(path) == none)
+            {
+                mistakes.push_back(path + " has a check, but is not a key");
+            }
+        }
+    }
+    for (const Entry& entry : table.entries)
+    {
+        if (entry.table != nullptr)
+        {
+            const std::vector<std::string> inner = mistakesOf(*entry.table);
+            mistakes.insert(mistakes.end(), inner.begin(), inner.end());
+        }
+    }
+    return mistakes;
+}
+
+} // namespace vorn::parsers::toml::config
