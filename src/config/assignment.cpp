@@ -27,7 +27,7 @@ Complaint outOfRange(const Scalar& scalar, const Type& type, const Entry& entry)
 {
     const std::string limits = limitsOf(type, entry);
     const std::string text = shown(scalar.text);
-    return {limits.empty() ? text + " is too large" : text + " is not in " + limits, {}, false};
+    return {limits.empty() ? text + " is out of range" : text + " is not in " + limits, {}, false};
 }
 
 Complaint assignBoolean(const Scalar& scalar, const Type& type, const Entry& entry, void* object)

@@ -26,7 +26,7 @@ constexpr std::array<std::string_view, 9> definedTwice{"duplicate-key",
 constexpr std::array<std::string_view, 4> noValue{"date-does-not-exist", "time-does-not-exist",
                                                   "offset-out-of-range", "escape-of-no-character"};
 
-// "the array was opened at 3:5": a problem has no second place.
+// "it is defined at 3:5 first": a problem has no second place.
 std::string placed(const RelatedPlace& related)
 {
     constexpr std::string_view here = "here";
@@ -83,12 +83,9 @@ Problem problemOf(const Finding& finding)
 {
     Problem problem;
     problem.message = finding.message;
-    problem.hint = finding.hint;
+    const bool isTwice = isOneOf(definedTwice, finding) && !finding.related.empty();
+    problem.hint = isTwice ? placed(finding.related.front()) : finding.hint;
     problem.severity = finding.severity;
-    if (!finding.related.empty())
-    {
-        problem.hint = placed(finding.related.front());
-    }
     return problem;
 }
 

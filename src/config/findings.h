@@ -22,7 +22,7 @@ struct Findings
 
 Findings findingsOf(const std::string& document);
 
-// A finding as a problem, with the first of its related places in the hint.
+// A finding as a problem; of what is defined twice, the hint has the first place.
 Problem problemOf(const Finding& finding);
 
 } // namespace vorn::parsers::toml::config

@@ -75,7 +75,7 @@ Slot Navigation::find(Position position, const Key& key)
     return slot;
 }
 
-Position Navigation::enter(const Slot& slot, const char* found)
+Position Navigation::enter(const Slot& slot, Spot spot, const char* found)
 {
     if (slot.type == nullptr)
     {
@@ -84,7 +84,7 @@ Position Navigation::enter(const Slot& slot, const char* found)
     const Content content = contentOf(slot);
     if (content.type->kind != Kind::table && content.type->kind != Kind::map)
     {
-        reportKind(slot, found);
+        reportKind(slot, spot, found);
         return {};
     }
     std::uint32_t container = containers_.find(slot);
@@ -100,12 +100,12 @@ Position Navigation::pass(Position position, const Key& key)
     const Slot slot = find(position, key);
     if (slot.type == nullptr || contentOf(slot).type->kind != Kind::list)
     {
-        return enter(slot, table);
+        return enter(slot, slot.spot, table);
     }
     const std::uint32_t list = containers_.find(slot);
     if (list == none || containers_[list].last == none)
     {
-        reportKind(slot, table);
+        reportKind(slot, slot.spot, table);
         return {};
     }
     return {containers_[list].last};
@@ -113,35 +113,36 @@ Position Navigation::pass(Position position, const Key& key)
 
 Position Navigation::header(Position position, const Key& key)
 {
-    return enter(find(position, key), table);
+    const Slot slot = find(position, key);
+    return enter(slot, slot.spot, table);
 }
 
 Position Navigation::arrayHeader(Position position, const Key& key)
 {
     const Slot slot = find(position, key);
-    const std::uint32_t list = openList(slot, arrayOfTables);
+    const std::uint32_t list = openList(slot, slot.spot, arrayOfTables);
     if (list == none)
     {
         return {};
     }
     const Slot element = append(list, key.offset);
-    return element.type == nullptr ? Position{} : enter(element, table);
+    return element.type == nullptr ? Position{} : enter(element, slot.spot, arrayOfTables);
 }
 
-std::uint32_t Navigation::openList(const Slot& slot, const char* found)
+std::uint32_t Navigation::openList(const Slot& slot, Spot spot, const char* found)
 {
     if (slot.type == nullptr)
     {
         if (slot.node != none)
         {
-            report(slot, slot.spot, std::string("should be a table, is ") + found);
+            report(slot, spot, std::string("should be a table, is ") + found);
         }
         return none;
     }
     const Content content = contentOf(slot);
     if (content.type->kind != Kind::list)
     {
-        reportKind(slot, found);
+        reportKind(slot, spot, found);
         return none;
     }
     if (const std::uint32_t list = containers_.find(slot); list != none)
@@ -196,9 +197,9 @@ void Navigation::report(const Slot& slot, Spot spot, std::string&& message, std:
     containers_.damage(slot.parent);
 }
 
-void Navigation::reportKind(const Slot& slot, const char* found)
+void Navigation::reportKind(const Slot& slot, Spot spot, const char* found)
 {
-    report(slot, slot.spot,
+    report(slot, spot,
            "should be " + expectationOf(*slot.type, *slot.entry) + ", is " + found);
 }
 

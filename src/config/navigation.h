@@ -55,8 +55,8 @@ public:
     Position root() const { return {0, 0}; }
     // What a key fills; a slot without a type if it is a table on the way, or unknown.
     Slot find(Position position, const Key& key);
-    // The table or map in a slot.  `found` is what the document has: "a table".
-    Position enter(const Slot& slot, const char* found);
+    // The table or map in a slot.  `found` is what the document has at a spot: "a table".
+    Position enter(const Slot& slot, Spot spot, const char* found);
     // The same for a key on the way of a path, which may lead through the last element of a list.
     Position pass(Position position, const Key& key);
     // What a header is about.
@@ -64,7 +64,7 @@ public:
     Position arrayHeader(Position position, const Key& key);
 
     // The list in a slot, emptied the first time; none if there is no list.
-    std::uint32_t openList(const Slot& slot, const char* found);
+    std::uint32_t openList(const Slot& slot, Spot spot, const char* found);
     // The next element of a list; without a type if it is full.
     Slot append(std::uint32_t list, std::size_t offset);
     // At the end of an array, and of an element of one.
@@ -77,7 +77,7 @@ public:
 
 private:
     void reportUnknown(Position position, const Key& key);
-    void reportKind(const Slot& slot, const char* found);
+    void reportKind(const Slot& slot, Spot spot, const char* found);
     Unknown unknownAt(std::uint32_t container) const;
 
     Containers containers_;

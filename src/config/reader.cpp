@@ -124,7 +124,7 @@ void Reader::beginArray()
         ++ignored_;
         return;
     }
-    const std::uint32_t list = navigation_.openList(nextSlot(), "an array");
+    const std::uint32_t list = navigation_.openList(nextSlot(), spot(), "an array");
     if (list == none)
     {
         ++ignored_;
@@ -153,7 +153,7 @@ void Reader::beginInlineTable()
         ++ignored_;
         return;
     }
-    const Position position = navigation_.enter(nextSlot(), "a table");
+    const Position position = navigation_.enter(nextSlot(), spot(), "a table");
     if (!position.isSomewhere())
     {
         ++ignored_;

@@ -67,6 +67,7 @@ private:
     void plain(ScalarKind kind, const char* text);
     void scalar(const Scalar& scalar);
     Slot nextSlot();
+    Spot spot() const { return navigation_.spotOf(follower_.position()); }
     void reportNoValue(const Slot& slot, const Scalar& scalar, std::string&& message);
 
     Follower follower_;

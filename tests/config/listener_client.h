@@ -1,0 +1,13 @@
+// The client of listener_config.cpp, for tests that call what it has.
+#pragma once
+
+#include <vorn/parsers/toml_config.h>
+
+#include <iostream>
+
+#define main listenerMain
+namespace listener
+{
+#include "listener_config.cpp"
+} // namespace listener
+#undef main

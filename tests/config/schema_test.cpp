@@ -1,0 +1,178 @@
+// What schemas say beside the kinds of their members.
+#include "every_member.h"
+#include "told_problems.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace
+{
+
+namespace toml = vorn::parsers::toml;
+using test::EveryMember;
+
+struct Inner
+{
+    int value = 0;
+};
+
+struct Outer
+{
+    Inner inner;
+    std::string name = "default";
+};
+
+toml::Schema<Inner> innerSchema()
+{
+    return toml::Schema<Inner>().required("value", &Inner::value);
+}
+
+toml::Schema<Outer> outerSchema()
+{
+    return toml::Schema<Outer>()
+        .table("inner", &Outer::inner, innerSchema())
+        .optional("name", &Outer::name);
+}
+
+template <typename Struct>
+std::string toldOf(const std::string& text, const toml::Schema<Struct>& schema)
+{
+    Struct config;
+    return test::told(toml::readConfig(text, schema, config));
+}
+
+} // namespace
+
+TEST(Schema, wantsWhatAStructRequiresEvenWithoutItsTable)
+{
+    EXPECT_EQ(toldOf("name = 'a'\n", outerSchema()), "1:1: inner.value: is missing\n");
+    EXPECT_EQ(toldOf("[inner]\n", outerSchema()), "1:2: inner.value: is missing\n");
+    EXPECT_EQ(toldOf("inner.value = 1\n", outerSchema()), "");
+}
+
+TEST(Schema, tellsUnknownKeysAsItsAuthorWants)
+{
+    const std::string text = "nme = 1\n[inner]\nvalue = 1\nvalu = 2\n";
+    EXPECT_EQ(toldOf(text, outerSchema()), "1:1: nme: unknown key (did you mean name?)\n"
+                                           "4:1: inner.valu: unknown key (did you mean value?)\n");
+    EXPECT_EQ(toldOf(text, outerSchema().unknownKeys(toml::Unknown::warning)),
+              "1:1: warning: nme: unknown key (did you mean name?)\n"
+              "4:1: warning: inner.valu: unknown key (did you mean value?)\n");
+    EXPECT_EQ(toldOf(text, outerSchema().unknownKeys(toml::Unknown::ignored)), "");
+    const toml::Schema<Outer> mixed =
+        toml::Schema<Outer>()
+            .table("inner", &Outer::inner, innerSchema().unknownKeys(toml::Unknown::problem))
+            .unknownKeys(toml::Unknown::ignored);
+    EXPECT_EQ(toldOf(text, mixed), "4:1: inner.valu: unknown key (did you mean value?)\n");
+}
+
+TEST(Schema, letsWarningsPass)
+{
+    Outer config;
+    const auto problems =
+        toml::readConfig("name = 'a'\nx = 1\ninner.value = 2\n",
+                         outerSchema().unknownKeys(toml::Unknown::warning), config);
+    ASSERT_EQ(problems.size(), 1U);
+    EXPECT_EQ(problems[0].severity, toml::Severity::warning);
+    EXPECT_EQ(config.name, "a");
+    EXPECT_EQ(config.inner.value, 2);
+}
+
+TEST(Schema, checksMembersAndStructs)
+{
+    EXPECT_EQ(toldOf("port = 22\n", test::everySchema()), "1:8: port: is taken\n");
+    EXPECT_EQ(toldOf("[[window]]\nbegin = 5\nend = 4\n", test::everySchema()),
+              "3:1: window[0].end, window[0].begin: end is before begin\n");
+    EXPECT_EQ(toldOf("[named.a]\nbegin = 11\n", test::everySchema()),
+              "1:8: named.a.end, named.a.begin: end is before begin\n");
+    EXPECT_EQ(toldOf("[[window]]\n[[window]]\n[[window]]\n[[window]]\n", test::everySchema()),
+              "1:3: window: has more than three\n");
+    EXPECT_EQ(
+        toldOf("window = [{end = 1}, {end = 1}, {end = 1}, {end = -1}]\n", test::everySchema()),
+        "1:45: window[3].end, window[3].begin: end is before begin\n");
+}
+
+TEST(Schema, doesNotCheckAStructWithOtherProblems)
+{
+    EXPECT_EQ(toldOf("[[window]]\nbegin = 5\nend = 4\nx = 1\n", test::everySchema()),
+              "4:1: window[0].x: unknown key\n");
+}
+
+TEST(Schema, takesQuotedKeys)
+{
+    EXPECT_EQ(toldOf("[[window]]\n\"5 GHz\".end = 20\n", test::everySchema()), "");
+    EXPECT_EQ(toldOf("[[window]]\n[window.'5 GHz']\nend = 'x'\n", test::everySchema()),
+              "3:7: window[0].\"5 GHz\".end: should be an integer, is a string\n");
+}
+
+TEST(Schema, tellsItsOwnMistakes)
+{
+    const auto toldOfEmpty = [](const toml::Schema<Outer>& schema) { return toldOf("", schema); };
+    EXPECT_EQ(toldOfEmpty(toml::Schema<Outer>().optional("a b", &Outer::name)),
+              "the schema is wrong: a b is not a key\n");
+    EXPECT_EQ(toldOfEmpty(toml::Schema<Outer>().optional("", &Outer::name)),
+              "the schema is wrong:  is not a key\n");
+    EXPECT_EQ(toldOfEmpty(toml::Schema<Outer>()
+                              .optional("a", &Outer::name)
+                              .optional("a.b", &Outer::name)
+                              .optional("a", &Outer::name)),
+              "the schema is wrong: a.b has two meanings\n"
+              "the schema is wrong: a has two meanings\n");
+    EXPECT_EQ(toldOfEmpty(outerSchema().check([](const Outer&) { return ""; }, {"nam"})),
+              "the schema is wrong: nam has a check, but is not a key\n");
+    enum class Other
+    {
+        one
+    };
+    EXPECT_EQ(toldOf("", toml::Schema<EveryMember>().optional("color", &EveryMember::color,
+                                                              toml::oneOf({{"one", Other::one}}))),
+              "the schema is wrong: the choices of color are of another type\n");
+}
+
+TEST(Schema, isSharedByItsCopies)
+{
+    const toml::Schema<Outer> schema = outerSchema();
+    const toml::Schema<Outer> copy = schema; // NOLINT(performance-unnecessary-copy-initialization)
+    EXPECT_EQ(schema.internals(), copy.internals());
+}
+
+// Lists are replaced, other members stay as they are.
+TEST(ReadConfig, keepsWhatTheDocumentDoesNotHave)
+{
+    EveryMember config;
+    config.number = 7;
+    config.flags = {true};
+    config.colors = {test::Color::red};
+    config.features = {{"a", true}, {"b", true}};
+    config.windows.resize(2);
+    EXPECT_EQ(
+        test::told(toml::readConfig("flags = [false, false]\nfeatures.b = false\n[[window]]\n",
+                                    test::everySchema(), config)),
+        "");
+    EXPECT_EQ(config.number, 7);
+    EXPECT_EQ(config.flags, (std::vector<bool>{false, false}));
+    EXPECT_EQ(config.colors.size(), 1U);
+    EXPECT_EQ(config.features, (std::map<std::string, bool>{{"a", true}, {"b", false}}));
+    EXPECT_EQ(config.windows.size(), 1U);
+}
+
+TEST(ReadConfig, leavesTheConfigurationAloneIfThereAreErrors)
+{
+    EveryMember config;
+    config.number = 7;
+    EXPECT_NE(test::told(toml::readConfig("number = 8\ntiny = 999\n", test::everySchema(), config)),
+              "");
+    EXPECT_EQ(config.number, 7);
+}
+
+TEST(ReadConfig, tellsAtMostAThousandProblems)
+{
+    std::string text;
+    for (int i = 0; i < 3000; ++i)
+    {
+        text += "x" + std::to_string(i) + " = 1\n";
+    }
+    Outer config;
+    EXPECT_EQ(toml::readConfig(text, outerSchema(), config).size(), 1000U);
+}
