@@ -58,9 +58,8 @@ VORN_TOML_CONFIG_API std::optional<std::int64_t> integerValue(std::string_view t
 // with their signs, too.
 //
 // Returns no value for one that is too large for a double, and for any other text, an
-// integer among them.  Throws nothing.  Allocates at most a copy of the text, if it has
-// underscores and more than some hundred characters; without memory for it, throws
-// std::bad_alloc.
+// integer among them.  Allocates a copy of the text if it has underscores and more than some
+// characters; throws std::bad_alloc if there is not enough memory for it, and nothing else.
 //
 //   floatValue("6.626e-34")    // 6.626e-34
 //   floatValue("1_000.5")      // 1000.5
@@ -89,9 +88,9 @@ VORN_TOML_CONFIG_API bool booleanValue(std::string_view text) noexcept;
 //
 // Returns no value if an escape stands for no character: \uD800 to \uDFFF, and those above
 // \U0010FFFF.  Returns no value, either, for any other text: without delimiters, with an
-// unknown escape, with a delimiter or, in a string of one line, a line feed inside.  Throws
-// std::bad_alloc if there is not enough memory, and nothing else.  Allocates the content
-// once, none for one of some characters.
+// unknown escape, with a delimiter inside or, in a string of one line, a line feed.  Allocates
+// once, and not at all for a text of some characters; throws std::bad_alloc if there is not enough
+// memory, and nothing else.
 //
 //   stringValue("\"a\\tb\"")                        // a, tab, b
 //   stringValue("'C:\\temp'")                       // C:\temp
