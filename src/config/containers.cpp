@@ -7,6 +7,34 @@
 namespace vorn::parsers::toml::config
 {
 
+bool Definition::add(How how)
+{
+    constexpr auto bit = [](How one) { return static_cast<unsigned>(one); };
+    constexpr unsigned any = 0xff;
+    // What each way must not follow.
+    unsigned others = any;
+    switch (how)
+    {
+    case How::value:
+        break;
+    case How::dottedKey:
+        others = any & ~bit(How::dottedKey);
+        break;
+    case How::header:
+        others = any & ~bit(How::headerOfMore);
+        break;
+    case How::headerOfMore:
+        others = bit(How::value);
+        break;
+    case How::arrayHeader:
+        others = any & ~bit(How::arrayHeader);
+        break;
+    }
+    const bool isAgain = (ways_ & others) != 0;
+    ways_ = static_cast<unsigned char>(ways_ | bit(how));
+    return isAgain;
+}
+
 std::uint32_t Containers::find(const Slot& slot) const
 {
     if (slot.parent == none)
@@ -38,6 +66,7 @@ std::uint32_t Containers::open(const Slot& slot, const Type& type, void* object,
     if (slot.key != nullptr)
     {
         inMaps_[slot.object] = number;
+        containers_[number].definition.add(slot.how);
     }
     else if (slot.node != none)
     {
@@ -88,6 +117,18 @@ void Containers::damage(std::uint32_t number)
          number = containers_[number].slot.parent)
     {
         containers_[number].isDamaged = true;
+    }
+}
+
+void Containers::clearDefinitions()
+{
+    for (Container& container : containers_)
+    {
+        container.definition.clear();
+    }
+    for (Member& member : members_)
+    {
+        member.definition.clear();
     }
 }
 

@@ -14,6 +14,29 @@
 namespace vorn::parsers::toml::config
 {
 
+// How a document defines something.
+enum class How : unsigned char
+{
+    value = 1,        // by a pair, `a = 1`
+    dottedKey = 2,    // on the way of one, `a.b = 1`
+    header = 4,       // `[a]`
+    headerOfMore = 8, // on the way of one, `[a.b]` or `[[a.b]]`
+    arrayHeader = 16, // `[[a]]`
+};
+
+// The ways in which something has been defined, and whether TOML 1.0 may forbid one more.  That it
+// does so is said by others; this misses nothing, and is wrong about few documents.
+class Definition
+{
+public:
+    // Returns whether it was perhaps not to be defined again.
+    bool add(How how);
+    void clear() { ways_ = 0; }
+
+private:
+    unsigned char ways_ = 0;
+};
+
 // Where a value goes: a member of a table, an element of a map or a list.
 struct Slot
 {
@@ -25,6 +48,7 @@ struct Slot
     std::uint32_t index = none;       // in a list
     const std::string* key = nullptr; // in a map
     Spot spot;                        // of the key, or of the element
+    How how = How::value;
 };
 
 // What has elements or members, and what is known of these so far.
@@ -37,6 +61,7 @@ struct Container
     std::size_t firstMember = 0; // tables: of the nodes
     std::uint32_t count = 0;     // lists: of elements
     std::uint32_t last = none;   // lists: the last element, if that is a container
+    Definition definition;       // of what is in a map
     bool isDamaged = false;      // there is an error within
 };
 
@@ -44,6 +69,7 @@ struct Container
 struct Member
 {
     bool isThere = false;
+    Definition definition;
     Spot spot;
     std::uint32_t container = none;
 };
@@ -76,6 +102,8 @@ public:
     // Forgets a container in which no other one is open.
     void close(std::uint32_t number);
     void damage(std::uint32_t number);
+    // Another document may define everything again.
+    void clearDefinitions();
 
     // The path of a slot, "listener[1].port".
     std::string pathOf(const Slot& slot) const;

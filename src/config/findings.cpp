@@ -14,17 +14,17 @@ namespace
 {
 
 // Of what only TOML 1.0 forbids.
-constexpr std::array<std::string_view, 9> definedTwice{"duplicate-key",
-                                                       "duplicate-table",
-                                                       "table-over-value",
-                                                       "value-over-table",
-                                                       "table-over-array-of-tables",
-                                                       "array-of-tables-over-table",
-                                                       "inline-table-extended",
-                                                       "array-extended",
-                                                       "dotted-key-over-table"};
-constexpr std::array<std::string_view, 4> noValue{"date-does-not-exist", "time-does-not-exist",
-                                                  "offset-out-of-range", "escape-of-no-character"};
+constexpr std::array<std::string_view, 9> twiceCodes{"duplicate-key",
+                                                     "duplicate-table",
+                                                     "table-over-value",
+                                                     "value-over-table",
+                                                     "table-over-array-of-tables",
+                                                     "array-of-tables-over-table",
+                                                     "inline-table-extended",
+                                                     "array-extended",
+                                                     "dotted-key-over-table"};
+constexpr std::array<std::string_view, 4> noValueCodes{
+    "date-does-not-exist", "time-does-not-exist", "offset-out-of-range", "escape-of-no-character"};
 
 // "it is defined at 3:5 first": a problem has no second place.
 std::string placed(const RelatedPlace& related)
@@ -43,47 +43,45 @@ bool isOneOf(const Codes& codes, const Finding& finding)
     return std::find(codes.begin(), codes.end(), finding.code) != codes.end();
 }
 
-std::vector<Finding> diagnosed(const std::string& document, bool isStrict)
-{
-    DiagnosisOptions options;
-    options.strict = isStrict;
-    options.maxFindings = Problems::max;
-    return diagnose(document, options);
-}
-
 } // namespace
 
-Findings findingsOf(const std::string& document)
+const StrictFindings::Found& StrictFindings::found()
 {
-    Findings findings;
-    std::vector<Finding> strict = diagnosed(document, true);
-    if (strict.empty())
+    if (!found_.isDone)
     {
-        return findings;
-    }
-    findings.problems = diagnosed(document, false);
-    findings.isAccepted =
-        std::none_of(findings.problems.begin(), findings.problems.end(),
-                     [](const Finding& finding) { return finding.severity == Severity::error; });
-    for (Finding& finding : strict)
-    {
-        if (isOneOf(definedTwice, finding))
+        DiagnosisOptions options;
+        options.strict = true;
+        options.maxFindings = Problems::max;
+        for (Finding& finding : diagnose(document_, options))
         {
-            findings.problems.push_back(std::move(finding));
+            if (isOneOf(twiceCodes, finding))
+            {
+                found_.definedTwice.push_back(std::move(finding));
+            }
+            else if (isOneOf(noValueCodes, finding))
+            {
+                found_.noValues.push_back(std::move(finding));
+            }
         }
-        else if (isOneOf(noValue, finding))
-        {
-            findings.noValues.push_back(std::move(finding));
-        }
+        found_.isDone = true;
     }
-    return findings;
+    return found_;
+}
+
+const Finding* StrictFindings::noValueIn(std::size_t begin, std::size_t end)
+{
+    const std::vector<Finding>& findings = found().noValues;
+    const auto first =
+        std::lower_bound(findings.begin(), findings.end(), begin,
+                         [](const Finding& one, std::size_t offset) { return one.begin < offset; });
+    return first != findings.end() && first->begin < end ? &*first : nullptr;
 }
 
 Problem problemOf(const Finding& finding)
 {
     Problem problem;
     problem.message = finding.message;
-    const bool isTwice = isOneOf(definedTwice, finding) && !finding.related.empty();
+    const bool isTwice = isOneOf(twiceCodes, finding) && !finding.related.empty();
     problem.hint = isTwice ? placed(finding.related.front()) : finding.hint;
     problem.severity = finding.severity;
     return problem;

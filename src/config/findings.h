@@ -1,6 +1,7 @@
 // What the diagnosis says of a document, as far as it matters to a configuration.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -10,17 +11,32 @@
 namespace vorn::parsers::toml::config
 {
 
-struct Findings
+// What TOML 1.0 forbids in a document that the library accepts.  It is looked for when it is first
+// asked for, which takes some five times as long as reading the document.
+class StrictFindings
 {
-    bool isAccepted = true; // by visitTomlTree()
-    // Mistakes of the document, and what TOML 1.0 does not let be defined twice.
-    std::vector<Finding> problems;
-    // Scalars and keys that have no value, like the 30th of February, in the order of the places.
-    // They matter if somebody wants the value.
-    std::vector<Finding> noValues;
-};
+public:
+    explicit StrictFindings(const std::string& document) : document_(document) {}
 
-Findings findingsOf(const std::string& document);
+    // Keys and tables that are defined twice.
+    const std::vector<Finding>& definedTwice() { return found().definedTwice; }
+    // What is told of a scalar or a key that has no value, like the 30th of February; null if
+    // that is nothing.
+    const Finding* noValueIn(std::size_t begin, std::size_t end);
+
+private:
+    struct Found
+    {
+        bool isDone = false;
+        std::vector<Finding> definedTwice;
+        std::vector<Finding> noValues;
+    };
+
+    const Found& found();
+
+    const std::string& document_;
+    Found found_;
+};
 
 // A finding as a problem; of what is defined twice, the hint has the first place.
 Problem problemOf(const Finding& finding);

@@ -38,29 +38,27 @@ Navigation::Navigation(const Table& table, void* object, Problems& problems)
     containers_.open(slot, root, object, &table);
 }
 
-Slot Navigation::find(Position position, const Key& key)
+Slot Navigation::find(Position position, const Key& key, How how)
 {
     const Container& container = containers_[position.container];
     Slot slot;
     slot.spot = spotOf(key.offset);
+    slot.how = how;
     if (container.type->kind == Kind::map)
     {
-        const MapSlot inMap = container.type->insert(container.object, std::string(key.name));
-        slot.type = container.type->element;
-        slot.object = inMap.value;
-        slot.key = inMap.key;
-        slot.entry = container.slot.entry;
-        slot.parent = position.container;
+        findInMap(position.container, key.name, slot);
         return slot;
     }
     slot.node = container.table->child(position.node, key.name);
     if (slot.node == none)
     {
+        isSuspicious_ = true;
         reportUnknown(position, key);
         return slot;
     }
     slot.parent = position.container;
     Member& member = containers_.member(slot.parent, slot.node);
+    isSuspicious_ = member.definition.add(how) || isSuspicious_;
     if (!member.isThere)
     {
         member.isThere = true;
@@ -73,6 +71,22 @@ Slot Navigation::find(Position position, const Key& key)
         slot.object = static_cast<char*>(container.object) + slot.entry->offset;
     }
     return slot;
+}
+
+void Navigation::findInMap(std::uint32_t map, std::string_view name, Slot& slot)
+{
+    const Container& container = containers_[map];
+    const MapSlot found = container.type->insert(container.object, std::string(name));
+    slot.type = container.type->element;
+    slot.object = found.value;
+    slot.key = found.key;
+    slot.entry = container.slot.entry;
+    slot.parent = map;
+    if (!found.isNew)
+    {
+        const std::uint32_t open = containers_.find(slot);
+        isSuspicious_ = open == none || containers_[open].definition.add(slot.how) || isSuspicious_;
+    }
 }
 
 Position Navigation::enter(const Slot& slot, Spot spot, const char* found)
@@ -95,9 +109,9 @@ Position Navigation::enter(const Slot& slot, Spot spot, const char* found)
     return {container};
 }
 
-Position Navigation::pass(Position position, const Key& key)
+Position Navigation::pass(Position position, const Key& key, How how)
 {
-    const Slot slot = find(position, key);
+    const Slot slot = find(position, key, how);
     if (slot.type == nullptr || contentOf(slot).type->kind != Kind::list)
     {
         return enter(slot, slot.spot, table);
@@ -113,13 +127,13 @@ Position Navigation::pass(Position position, const Key& key)
 
 Position Navigation::header(Position position, const Key& key)
 {
-    const Slot slot = find(position, key);
+    const Slot slot = find(position, key, How::header);
     return enter(slot, slot.spot, table);
 }
 
 Position Navigation::arrayHeader(Position position, const Key& key)
 {
-    const Slot slot = find(position, key);
+    const Slot slot = find(position, key, How::arrayHeader);
     const std::uint32_t list = openList(slot, slot.spot, arrayOfTables);
     if (list == none)
     {
@@ -185,6 +199,7 @@ void Navigation::endSource()
             closing_.close(number);
         }
     }
+    containers_.clearDefinitions();
 }
 
 void Navigation::report(const Slot& slot, Spot spot, std::string&& message, std::string&& hint)
@@ -199,8 +214,7 @@ void Navigation::report(const Slot& slot, Spot spot, std::string&& message, std:
 
 void Navigation::reportKind(const Slot& slot, Spot spot, const char* found)
 {
-    report(slot, spot,
-           "should be " + expectationOf(*slot.type, *slot.entry) + ", is " + found);
+    report(slot, spot, "should be " + expectationOf(*slot.type, *slot.entry) + ", is " + found);
 }
 
 Unknown Navigation::unknownAt(std::uint32_t container) const

@@ -46,7 +46,13 @@ public:
     Navigation(const Table& table, void* object, Problems& problems);
 
     // What comes is in this source.
-    void beginSource(std::uint32_t source) { source_ = source; }
+    void beginSource(std::uint32_t source)
+    {
+        source_ = source;
+        isSuspicious_ = false;
+    }
+    // Whether something in the source is perhaps defined twice: known keys, and unknown ones.
+    bool isSuspicious() const { return isSuspicious_; }
     // The lists of a source are complete at its end: those of the next one take their place.
     void endSource();
     // The rest is complete at the end of the last one.
@@ -54,11 +60,11 @@ public:
 
     Position root() const { return {0, 0}; }
     // What a key fills; a slot without a type if it is a table on the way, or unknown.
-    Slot find(Position position, const Key& key);
+    Slot find(Position position, const Key& key, How how);
     // The table or map in a slot.  `found` is what the document has at a spot: "a table".
     Position enter(const Slot& slot, Spot spot, const char* found);
     // The same for a key on the way of a path, which may lead through the last element of a list.
-    Position pass(Position position, const Key& key);
+    Position pass(Position position, const Key& key, How how);
     // What a header is about.
     Position header(Position position, const Key& key);
     Position arrayHeader(Position position, const Key& key);
@@ -76,6 +82,7 @@ public:
     const Containers& containers() const { return containers_; }
 
 private:
+    void findInMap(std::uint32_t map, std::string_view name, Slot& slot);
     void reportUnknown(Position position, const Key& key);
     void reportKind(const Slot& slot, Spot spot, const char* found);
     Unknown unknownAt(std::uint32_t container) const;
@@ -84,6 +91,7 @@ private:
     Problems& problems_;
     Closing closing_;
     std::uint32_t source_ = 0;
+    bool isSuspicious_ = false;
 };
 
 } // namespace vorn::parsers::toml::config

@@ -43,19 +43,18 @@ public:
 
     void read(std::uint32_t number, const std::string& text)
     {
-        const Findings findings = findingsOf(text);
-        for (const Finding& finding : findings.problems)
-        {
-            problems_.add({number, finding.begin}, problemOf(finding));
-        }
-        if (!findings.isAccepted)
-        {
-            isWhole_ = false;
-            return;
-        }
+        StrictFindings strict(text);
         navigation_.beginSource(number);
-        Reader reader(text, navigation_, findings.noValues);
-        visitTomlTree(text, reader);
+        Reader reader(text, navigation_, strict);
+        DiagnosisOptions options;
+        options.maxFindings = Problems::max;
+        const std::vector<Finding> findings = visitOrDiagnose(text, reader, options);
+        add(number, findings);
+        isWhole_ = isWhole_ && !reader.isUntouched();
+        if (navigation_.isSuspicious() || !findings.empty())
+        {
+            add(number, strict.definedTwice());
+        }
         navigation_.endSource();
     }
 
@@ -70,6 +69,14 @@ public:
     }
 
 private:
+    void add(std::uint32_t number, const std::vector<Finding>& findings)
+    {
+        for (const Finding& finding : findings)
+        {
+            problems_.add({number, finding.begin}, problemOf(finding));
+        }
+    }
+
     Problems problems_;
     Navigation navigation_;
     bool isWhole_;

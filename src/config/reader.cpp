@@ -1,6 +1,5 @@
 #include "reader.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -11,9 +10,8 @@
 namespace vorn::parsers::toml::config
 {
 
-Reader::Reader(std::string_view document, Navigation& navigation,
-               const std::vector<Finding>& noValues)
-    : follower_(document), navigation_(navigation), noValues_(noValues)
+Reader::Reader(const std::string& document, Navigation& navigation, StrictFindings& strict)
+    : follower_(document), navigation_(navigation), strict_(strict)
 {
     frames_.push_back({navigation.root()});
 }
@@ -23,6 +21,7 @@ void Reader::beginHeader()
     follower_.bracket('[');
     frames_.front().position = {};
     position_ = navigation_.root();
+    way_ = How::headerOfMore;
     hasPending_ = false;
 }
 
@@ -59,6 +58,7 @@ void Reader::endArrayTable()
 void Reader::beginKeyValue()
 {
     position_ = frames_.back().position;
+    way_ = How::dottedKey;
     hasPending_ = false;
 }
 
@@ -101,7 +101,7 @@ void Reader::passPending()
 {
     if (ignored_ == 0 && position_.isSomewhere())
     {
-        position_ = navigation_.pass(position_, pending_);
+        position_ = navigation_.pass(position_, pending_, way_);
     }
     hasPending_ = false;
 }
@@ -113,7 +113,7 @@ Slot Reader::nextSlot()
     {
         return navigation_.append(list, follower_.position());
     }
-    return position_.isSomewhere() ? navigation_.find(position_, pending_) : Slot();
+    return position_.isSomewhere() ? navigation_.find(position_, pending_, How::value) : Slot();
 }
 
 void Reader::beginArray()
@@ -226,11 +226,9 @@ void Reader::scalar(const Scalar& scalar)
 // The diagnosis has the better words.
 void Reader::reportNoValue(const Slot& slot, const Scalar& scalar, std::string&& message)
 {
-    const auto finding =
-        std::lower_bound(noValues_.begin(), noValues_.end(), scalar.offset,
-                         [](const Finding& one, std::size_t offset) { return one.begin < offset; });
-    const bool isKnown =
-        finding != noValues_.end() && finding->begin < scalar.offset + scalar.text.size();
+    const Finding* const finding =
+        strict_.noValueIn(scalar.offset, scalar.offset + scalar.text.size());
+    const bool isKnown = finding != nullptr;
     navigation_.report(slot, navigation_.spotOf(isKnown ? finding->begin : scalar.offset),
                        isKnown ? std::string(finding->message) : std::move(message),
                        isKnown ? std::string(finding->hint) : std::string());

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include <vorn/parsers/toml.h>
-#include <vorn/parsers/toml_diagnosis.h>
 
+#include "findings.h"
 #include "follower.h"
 #include "navigation.h"
 #include "scalar.h"
@@ -21,10 +21,12 @@ namespace vorn::parsers::toml::config
 class Reader final : public ITomlTreeVisitor
 {
 public:
-    // `noValues` are the scalars and keys that have no value, as the diagnosis tells them.
-    Reader(std::string_view document, Navigation& navigation, const std::vector<Finding>& noValues);
+    Reader(const std::string& document, Navigation& navigation, StrictFindings& strict);
 
-    void beginDocument() override {}
+    // Whether it has not been called: the document is not accepted.
+    bool isUntouched() const { return isUntouched_; }
+
+    void beginDocument() override { isUntouched_ = false; }
     void endDocument() override {}
     void beginKeyValue() override;
     void endKeyValue() override {}
@@ -72,13 +74,15 @@ private:
 
     Follower follower_;
     Navigation& navigation_;
-    const std::vector<Finding>& noValues_;
+    StrictFindings& strict_;
     std::vector<Frame> frames_;
     std::size_t ignored_ = 0; // how many arrays and inline tables deep nothing is looked at
     // The key that is being read: where it leads to, apart from its last part.
     Position position_;
+    How way_ = How::dottedKey;
     Key pending_;
     bool hasPending_ = false;
+    bool isUntouched_ = true;
     std::string name_; // of a quoted key
 };
 

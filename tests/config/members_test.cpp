@@ -64,7 +64,7 @@ TEST(Members, areFloats)
     EXPECT_EQ(readOf("exact = -inf\n").exact, -std::numeric_limits<double>::infinity());
     EXPECT_EQ(readOf("ratio = inf\n").ratio, std::numeric_limits<float>::infinity());
     EXPECT_EQ(toldOf("ratio = 1e39\nexact = 1e400\n"),
-              "1:9: ratio: 1e39 is out of range\n2:9: exact: 1e400 is too large\n");
+              "1:9: ratio: 1e39 is out of range\n2:9: exact: 1e400 is out of range\n");
 }
 
 TEST(Members, areBooleansAndStringsAndTimes)
@@ -100,7 +100,7 @@ TEST(Members, areDurations)
     EXPECT_EQ(toldOf("interval = 9223372036854775807\n"),
               "1:12: interval: 9223372036854775807 is out of range\n");
     EXPECT_EQ(toldOf("interval = nan\nexact-pause = inf\n"),
-              "1:12: interval: nan is out of range\n2:15: exact-pause: inf is too large\n");
+              "1:12: interval: nan is out of range\n2:15: exact-pause: inf is out of range\n");
     EXPECT_EQ(toldOf("interval = '1s'\n"),
               "1:12: interval: should be a number of seconds, is a string\n");
 }

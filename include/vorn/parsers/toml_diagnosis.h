@@ -39,6 +39,8 @@
 namespace vorn::parsers::toml
 {
 
+class ITomlTreeVisitor; // of toml.h
+
 // How bad a finding is.
 enum class Severity
 {
@@ -125,6 +127,22 @@ struct DiagnosisOptions
 // code "empty-array", message "the array is empty".
 VORN_TOML_DIAGNOSIS_API std::vector<Finding> diagnose(const std::string& document,
                                                       const DiagnosisOptions& options = {});
+
+// Calls a visitor for an accepted document, as visitTomlTree() does, or returns why it is
+// not accepted: then the findings have an error, and the visitor is not called at all.
+// With `strict`, that is so for documents that are not TOML 1.0, too.
+//
+// Other than visitTomlTree() it never logs and never writes to standard error.  An accepted
+// document takes the same time (with `strict` some five times that); another one takes what
+// diagnose() takes.
+//
+// Throws std::bad_alloc if there is not enough memory, and what the visitor throws.
+//
+// Example: with a visitor of toml.h, visitOrDiagnose("a = 1\n", visitor) makes its calls and
+// returns nothing; visitOrDiagnose("a = []\n", visitor) returns one finding.
+VORN_TOML_DIAGNOSIS_API std::vector<Finding> visitOrDiagnose(const std::string& document,
+                                                             ITomlTreeVisitor& visitor,
+                                                             const DiagnosisOptions& options = {});
 
 // Returns the source line of a finding with its number, and a line of marks below
 // it, each ended by a line feed; then the same for the related places, with their

@@ -41,6 +41,7 @@ struct MapSlot
 {
     void* value;
     const std::string* key;
+    bool isNew;
 };
 
 // Gets what is in a map, one after the other.
@@ -300,8 +301,8 @@ struct TypeOf<std::map<std::string, T, Compare, Allocator>>
 
     static MapSlot insert(void* object, std::string&& key)
     {
-        const auto place = static_cast<Map*>(object)->try_emplace(std::move(key)).first;
-        return {&place->second, &place->first};
+        const auto [place, isNew] = static_cast<Map*>(object)->try_emplace(std::move(key));
+        return {&place->second, &place->first, isNew};
     }
     static void visitAll(const void* object, MapVisitor& visitor)
     {
