@@ -71,7 +71,7 @@ private:
         StrictSink sink(document_, options_.maxFindings);
         find(sink);
         addOthers(sink.takeMistakes(), mistakes_);
-        addOthers(findForbiddenBytes(document_, options_.maxFindings), mistakes_);
+        addOthers(findForbiddenBytes(document_, options_.maxFindings, mistakes_), mistakes_);
     }
 
     // The sink gets the valid lines.

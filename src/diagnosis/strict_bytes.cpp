@@ -4,6 +4,7 @@
 
 #include "scan/character_run.h"
 #include "scan/utf8.h"
+#include "selection.h"
 #include "strict_mistakes.h"
 
 namespace vorn::parsers::toml::diagnosis
@@ -84,8 +85,10 @@ void addRun(std::string_view run, const StrictRule& rule, StrictMistakes& mistak
 
 } // namespace
 
-std::vector<Mistake> findForbiddenBytes(std::string_view text, std::size_t max)
+std::vector<Mistake> findForbiddenBytes(std::string_view text, std::size_t max,
+                                        const std::vector<Mistake>& told)
 {
+    ToldPlaces places(told);
     StrictMistakes mistakes(text, max);
     const char* const end = text.data() + text.size();
     const char* at = text.data();
@@ -102,7 +105,10 @@ std::vector<Mistake> findForbiddenBytes(std::string_view text, std::size_t max)
         {
             ++at;
         }
-        addRun({begin, static_cast<std::size_t>(at - begin)}, *found.rule, mistakes);
+        if (!places.have(static_cast<std::size_t>(begin - text.data())))
+        {
+            addRun({begin, static_cast<std::size_t>(at - begin)}, *found.rule, mistakes);
+        }
     }
     return mistakes.take();
 }

@@ -74,6 +74,18 @@ TEST(Diagnose, returnsAtMostSoManyFindings)
     EXPECT_EQ(toml::diagnose(text, atMost(0)).size(), 50U);
 }
 
+// What lies within a mistake that is told takes no other one's place.
+TEST(Diagnose, returnsAsManyFindingsAsThereAre)
+{
+    const std::string text = "\"\xc2\x01\n\xa5";
+    toml::DiagnosisOptions options = atMost(0);
+    options.strict = true;
+    const std::string all = shown(toml::diagnose(text, options));
+    EXPECT_EQ(std::count(all.begin(), all.end(), '\n'), 2);
+    options.maxFindings = 2;
+    EXPECT_EQ(shown(toml::diagnose(text, options)), all);
+}
+
 TEST(Diagnose, returnsErrorsRatherThanWarningsWhereThereIsNoRoomForBoth)
 {
     const std::string text = "a = \"\xed\xa0\x80\"\nb = []\n";

@@ -1,4 +1,5 @@
 #include "diagnosis/choice.h"
+#include "diagnosis/location.h"
 #include "diagnosis/long_statement.h"
 
 #include "differential/document_generator.h"
@@ -82,7 +83,8 @@ TEST(LongStatement, isFollowedByTheStatementAfterIt)
     EXPECT_STREQ(mistake->code, "unclosed-array");
     EXPECT_EQ(mistake->begin, 7U);
     EXPECT_EQ(mistake->end, 8U);
-    EXPECT_EQ(mistake->message, "the array opened on line 1 is not closed before the word 'b'");
+    EXPECT_EQ(diagnosis::located(text, {*mistake})[0].message,
+              "the array opened on line 1 is not closed before the word 'b'");
 }
 
 // The reader over the lexer's tokens and the parser find the first mistake in the same place.
