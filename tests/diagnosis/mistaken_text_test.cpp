@@ -6,6 +6,14 @@
 using namespace std::string_literals;
 using namespace test;
 
+namespace
+{
+
+const std::string inTable =
+    "Pairs in an inline table are separated by commas, with none before its '}'.";
+
+} // namespace
+
 TEST(DiagnosisOfMistakenText, strings)
 {
     expectTold({
@@ -179,6 +187,17 @@ TEST(DiagnosisOfMistakenText, bracketsThatAreNotClosed)
            "expected ',' or '}' after the pair, found ']'",
            "In an inline table, pairs are written {a = 1, b = 2}.",
            {"2:1 the inline table was opened here"}}}},
+        {"a = [\n{b = '{'; c = 2},\n[{d = [1; 2]}]]\n",
+         {{"2:9-2:10", "stray-character", "the character ';' is not allowed here", inTable},
+          {"3:9-3:10", "stray-character", "the character ';' is not allowed here",
+           "Elements are separated by commas. A comment starts with '#'."}}},
+        {"a = {b = [1];}\n",
+         {{"1:13-1:14", "stray-character", "the character ';' is not allowed here", inTable}}},
+        {"a = {b = 1;\n",
+         {{"1:11-1:12", "stray-character", "the character ';' is not allowed here", inTable}}},
+        {"a = {b = 1}; c = 2\n",
+         {{"1:12-1:13", "stray-character", "the character ';' is not allowed here",
+           "Put each pair on its own line."}}},
         {"a = [1; 2]\n",
          {{"1:7-1:8", "stray-character", "the character ';' is not allowed here",
            "Elements are separated by commas. A comment starts with '#'."}}},
