@@ -51,7 +51,7 @@ std::string hintFor(char32_t code)
     }
     if (code < 0x20 || code == 0x7F)
     {
-        return "Control characters other than tabs and line breaks may only appear in strings and "
+        return "Of control characters only tabs and line breaks may appear outside of strings and "
                "comments.";
     }
     return std::string(bareKeyHint);

@@ -14,13 +14,13 @@ const Said highCharacter = {
     "error: the character U+1F600 is above U+FFFF",
     "Emoji and other characters above U+FFFF are not allowed, not even in comments. In a string "
     "with double quotes, write \\U0001F600 instead."};
-const std::string escapes = "The valid escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX "
+const std::string escapes = "The valid escapes are \\\" \\\\ \\b \\f \\n \\r \\t \\uXXXX "
                             "\\UXXXXXXXX. In 'literal strings' a backslash is just a backslash.";
 const std::string unclosedLiteral = "Close the string with ' on the same line. Put double quotes "
                                     "around a string with an apostrophe in it.";
 const std::string quoteInString = "A quote in a string is written \\\".";
 const std::string controlCharacters =
-    "Control characters other than tabs and line breaks may only appear in strings and comments.";
+    "Of control characters only tabs and line breaks may appear outside of strings and comments.";
 const std::string malformed =
     "It may be read as one character together with the bytes after it. Save the file as UTF-8.";
 const Said readsAsEnd = {
@@ -54,13 +54,13 @@ TEST(DiagnosisOfStrings, escapes)
         {"a = \"\\q\"\nb = []\n",
          {{"1:6 error: unknown escape \\q",
            "In a literal string a backslash is just a backslash: '\\q'. The valid escapes are \\\" "
-           "\\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."},
+           "\\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."},
           {"2:6 error: the array is empty",
            "An array needs at least one element. Leave the key out instead."}}},
         {"a = \"C:\\dir\"\n",
          {{"1:8 error: unknown escape \\d",
            "In a literal string a backslash is just a backslash: 'C:\\dir'. The valid escapes are "
-           "\\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
+           "\\\" \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"\\u12\"\n",
          {{"1:6 error: the escape \\u has too few digits",
            "Four hexadecimal digits follow \\u, as in \\u00E9. In a literal string a backslash is "
@@ -93,11 +93,11 @@ TEST(DiagnosisOfStrings, escapes)
         {"\"\\q\" = 1\n",
          {{"1:2 error: unknown escape \\q",
            "In a literal string a backslash is just a backslash: '\\q'. The valid escapes are \\\" "
-           "\\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
+           "\\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"\\\xc3\xa9\"\n",
          {{"1:6 error: unknown escape \\\xc3\xa9",
            "In a literal string a backslash is just a backslash: '\\\xc3\xa9'. The valid escapes "
-           "are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
+           "are \\\" \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"x\\\n",
          {{"1:7 error: there is nothing to escape after the backslash",
            "A backslash joins lines only in strings with \"\"\" around them. A backslash itself is "

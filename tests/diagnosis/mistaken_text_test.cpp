@@ -41,14 +41,14 @@ TEST(DiagnosisOfMistakenText, strings)
         {"a = \"C:\\dir\"\n",
          {{"1:8-1:10", "unknown-escape", "unknown escape \\d",
            "In a literal string a backslash is just a backslash: 'C:\\dir'. The valid escapes are "
-           "\\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
+           "\\\" \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"C:\\users\\x\"\n",
          {{"1:8-1:10", "short-escape", "the escape \\u has too few digits",
            "Four hexadecimal digits follow \\u, as in \\u00E9. In a literal string a backslash is "
            "just a backslash: 'C:\\users\\x'."}}},
         {"a = \"\\d\\n\"\n",
          {{"1:6-1:8", "unknown-escape", "unknown escape \\d",
-           "In 'literal strings' a backslash is just a backslash. The valid escapes are \\\" \\' "
+           "In 'literal strings' a backslash is just a backslash. The valid escapes are \\\" "
            "\\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"\"\"x\nb = 1\n",
          {{"1:5-1:8", "unclosed-string", "the string that starts here is never closed",
