@@ -148,11 +148,29 @@ private:
         }
         if (end_ < document_.size())
         {
+            addEnd();
+        }
+        keepFirst(max_, mistakes_);
+    }
+
+    // Of bytes that are an error there is no warning, too.
+    void addEnd()
+    {
+        const auto told = std::find_if(mistakes_.begin(), mistakes_.end(),
+                                       [this](const Mistake& one) {
+                                           return one.begin <= end_ && end_ < one.end &&
+                                                  one.code == std::string_view(codes::notUtf8);
+                                       });
+        if (told == mistakes_.end())
+        {
             addWarning({Severity::warning, end_, end_ + 1, codes::unreadBytes,
                         "the file is only read up to these bytes, which are not valid UTF-8",
                         "They are read as the end of the file. Save the file as UTF-8."});
         }
-        keepFirst(max_, mistakes_);
+        else if (end_ + 1 < document_.size())
+        {
+            told->hint += " The rest is not read until then.";
+        }
     }
 
     void addWarning(Mistake&& warning)

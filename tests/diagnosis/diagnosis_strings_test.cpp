@@ -23,6 +23,8 @@ const std::string controlCharacters =
     "Of control characters only tabs and line breaks may appear outside of strings and comments.";
 const std::string malformed =
     "It may be read as one character together with the bytes after it. Save the file as UTF-8.";
+const Said cutOff = {"error: the byte C3 is not valid UTF-8",
+                     "It is read as the end of the file. Save the file as UTF-8."};
 const Said readsAsEnd = {
     "warning: the file is only read up to these bytes, which are not valid UTF-8",
     "They are read as the end of the file. Save the file as UTF-8."};
@@ -183,22 +185,22 @@ TEST(DiagnosisOfStrings, bytesThatAreNotUtf8)
            "as UTF-8."}}},
         {"a = 1\n\xc1?\nb =\n", {at("2:1", readsAsEnd)}},
         {"a = 1\n\xc3", {at("2:1", readsAsEnd)}},
-        {"a = 1\xc3", {at("1:6", noLastLineBreak), at("1:6", readsAsEnd)}},
+        {"a = 1\xc3", {at("1:6", cutOff)}},
+        {"a = 1 # c\xc3", {at("1:10", cutOff)}},
+        {"a = 1\xc1?\nb =\n",
+         {{"1:6 error: the byte C1 is not valid UTF-8",
+           "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\x81'. Save the file "
+           "as UTF-8. The rest is not read until then."}}},
         {"\x80 = 1\n",
          {{"1:1 error: the byte 80 is not valid UTF-8",
            "It looks like Windows-1252. Save the file as UTF-8."}}},
         {"a = \"\xc1?\"\n",
          {{"1:6 error: the byte C1 is not valid UTF-8",
            "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\x81'. Save the file "
-           "as UTF-8."},
-          {"1:6 warning: the file is only read up to these bytes, which are not valid UTF-8",
-           "They are read as the end of the file. Save the file as UTF-8."}}},
+           "as UTF-8. The rest is not read until then."}}},
         {"a = \xe9",
          {{"1:5 error: the byte E9 is not valid UTF-8",
-           "It may be read as one character together with the bytes after it. Save the file as "
-           "UTF-8."},
-          {"1:5 warning: the file is only read up to these bytes, which are not valid UTF-8",
-           "They are read as the end of the file. Save the file as UTF-8."}}},
+           "It is read as the end of the file. Save the file as UTF-8."}}},
         {"# caf\xe9\n", {at("1:6", readsAsEnd)}},
         {"a = \"\xed\xa0\x80\"\n", {{"1:6 warning: the byte ED is not valid UTF-8", malformed}}},
     });

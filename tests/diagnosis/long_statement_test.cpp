@@ -61,6 +61,7 @@ TEST(LongStatement, hasTheMistakeAtWhichTheReaderStops)
         {"a.b.1 = 2\n", 4, "unquoted-key"},
         {"a = [1\n\n,\n \n2]\n", 10, "blank-line-in-array"},
         {"a = 1", 5, "missing-last-line-break"},
+        {"a = 1\xc3", 5, "not-utf8"},
         {"a = [\"\\q\"]\n", 6, "unknown-escape"},
     };
     for (const Expected& expected : documents)

@@ -70,10 +70,7 @@ TEST(DiagnosisOfMistakenText, bytesOfOtherEncodings)
         {"name = \"\xfc\"\n",
          {{"1:9-1:10", "not-utf8", "the byte FC is not valid UTF-8",
            "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xbc'. Save the file "
-           "as UTF-8."},
-          {"1:9-1:10", "unread-bytes",
-           "the file is only read up to these bytes, which are not valid UTF-8",
-           "They are read as the end of the file. Save the file as UTF-8."}}},
+           "as UTF-8. The rest is not read until then."}}},
         {"name = \"\xfc\"\nb = 1\nc = 2\n",
          {{"1:9-1:10", "not-utf8", "the byte FC is not valid UTF-8",
            "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xbc'. Save the file "
@@ -187,6 +184,9 @@ TEST(DiagnosisOfMistakenText, bracketsThatAreNotClosed)
            "expected ',' or '}' after the pair, found ']'",
            "In an inline table, pairs are written {a = 1, b = 2}.",
            {"2:1 the inline table was opened here"}}}},
+        {"a = [1; 2]\n",
+         {{"1:7-1:8", "stray-character", "the character ';' is not allowed here",
+           "Elements are separated by commas. A comment starts with '#'."}}},
         {"a = [\n{b = '{'; c = 2},\n[{d = [1; 2]}]]\n",
          {{"2:9-2:10", "stray-character", "the character ';' is not allowed here", inTable},
           {"3:9-3:10", "stray-character", "the character ';' is not allowed here",
@@ -198,8 +198,5 @@ TEST(DiagnosisOfMistakenText, bracketsThatAreNotClosed)
         {"a = {b = 1}; c = 2\n",
          {{"1:12-1:13", "stray-character", "the character ';' is not allowed here",
            "Put each pair on its own line."}}},
-        {"a = [1; 2]\n",
-         {{"1:7-1:8", "stray-character", "the character ';' is not allowed here",
-           "Elements are separated by commas. A comment starts with '#'."}}},
     });
 }
