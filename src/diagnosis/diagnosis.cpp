@@ -80,7 +80,7 @@ private:
     {
         std::size_t at = lines_.pass(byteOrderMarkLength(document_), sink);
         const bool isReadDirectly = at == document_.size();
-        while (at < document_.size() && mistakes_.size() < max_)
+        while (at < document_.size() && !hasEnoughBefore(at))
         {
             const DamagedPart damaged = damagedPart(document_, at, lines_);
             skip(sink);
@@ -92,6 +92,12 @@ private:
         {
             addRefusal();
         }
+    }
+
+    // The last mistake of a part may be at the first token after it, with others before that one.
+    bool hasEnoughBefore(std::size_t place) const
+    {
+        return mistakes_.size() >= max_ && mistakes_[max_ - 1].begin < place;
     }
 
     template <typename Sink>

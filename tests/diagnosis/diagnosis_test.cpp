@@ -74,6 +74,17 @@ TEST(Diagnose, returnsAtMostSoManyFindings)
     EXPECT_EQ(toml::diagnose(text, atMost(0)).size(), 50U);
 }
 
+// An array that is not closed is told at the first token after it, whatever is before that.
+TEST(Diagnose, returnsTheFirstFindings)
+{
+    const std::string text = "a = [\n" + test::repeated("1,\n", 2000) +
+                             "\xe2\x80\x9c"
+                             "b = 1\n";
+    EXPECT_EQ(shown(toml::diagnose(text, atMost(2))),
+              "2002:1 stray-character\n2002:2 unclosed-array\n");
+    EXPECT_EQ(shown(toml::diagnose(text, atMost(1))), "2002:1 stray-character\n");
+}
+
 // What lies within a mistake that is told takes no other one's place.
 TEST(Diagnose, returnsAsManyFindingsAsThereAre)
 {
