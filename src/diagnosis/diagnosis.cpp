@@ -59,6 +59,7 @@ public:
             LastLine sink;
             find(sink);
         }
+        leaveOutConsequences(mistakes_); // (They may leave no room for their cause.)
         keepFirst(max_, mistakes_);
         addWarnings();
         leaveOutConsequences(mistakes_);

@@ -57,6 +57,20 @@ TEST(StrictDiagnosis, tellsNoByteTwice)
     });
 }
 
+TEST(StrictDiagnosis, tellsUtf16RatherThanItsBytes)
+{
+    std::string text;
+    for (const char c : "# a comment of more than twenty characters\na = 1\n")
+    {
+        text += {c, '\0'};
+    }
+    expectSaidStrictly({
+        {text,
+         {{"2:1 error: the file is encoded in UTF-16",
+           "TOML is UTF-8. Save the file as UTF-8. The rest is not checked until then."}}},
+    });
+}
+
 // Hints hold whether TOML 1.0 is asked for or not.
 TEST(StrictDiagnosis, offersNothingThatIsForbidden)
 {
