@@ -13,22 +13,15 @@ namespace
 
 constexpr std::string_view commaHint = "Separate elements with commas: [1, 2].";
 
-std::size_t lineOf(std::size_t offset, std::string_view text)
-{
-    const std::string_view before = text.substr(0, offset);
-    return 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
-}
-
 // The open array may have been left open by mistake many lines before.
 Words unclosed(const Site& site)
 {
-    const std::size_t line = lineOf(site.place.opening.begin, site.text);
     return {codes::unclosedArray,
-            "the array opened on line " + std::to_string(line) + " is not closed before " +
-                described(site.found, site.foundText()),
+            "the array opened on line ",
             "Close it with ']' after its last element.",
             {},
-            true};
+            true,
+            " is not closed before " + described(site.found, site.foundText())};
 }
 
 // Whether the opening bracket is on an earlier line, or the wrong one closes it.

@@ -2,9 +2,11 @@
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "codes.h"
 #include "encoding_words.h"
+#include "token_reader.h"
 #include "unquoted.h"
 #include "value_words.h"
 
@@ -49,7 +51,7 @@ std::string hintFor(char32_t code)
     }
     if (code < 0x20 || code == 0x7F)
     {
-        return "Control characters other than tabs and line breaks may only appear in strings and "
+        return "Of control characters only tabs and line breaks may appear outside of strings and "
                "comments.";
     }
     return std::string(bareKeyHint);
@@ -95,6 +97,29 @@ std::string quotedKeyAround(std::string_view text, std::size_t at)
     return key.find('.') == std::string_view::npos ? inQuotes(key) : std::string();
 }
 
+// Whether the innermost bracket that is open on the line is that of an inline table.
+bool isInTable(std::string_view text, std::size_t at)
+{
+    const std::size_t lineBegin = text.substr(0, at).rfind('\n') + 1;
+    TokenReader reader(text.substr(0, at), lineBegin, TokenReader::Errors::independent);
+    std::vector<TokenType> open;
+    for (DocumentToken token = reader.next(); token.type != TokenType::endOfInput;
+         token = reader.next())
+    {
+        const TokenType type = token.type;
+        if (type == TokenType::openBrace || type == TokenType::openBracket)
+        {
+            open.push_back(type);
+        }
+        else if ((type == TokenType::closeBrace || type == TokenType::closeBracket) &&
+                 !open.empty())
+        {
+            open.pop_back();
+        }
+    }
+    return !open.empty() && open.back() == TokenType::openBrace;
+}
+
 std::string hintAt(std::string_view text, std::size_t at, char32_t code)
 {
     const std::string straight = isCurly(code) ? straightened(text, at) : "";
@@ -105,7 +130,9 @@ std::string hintAt(std::string_view text, std::size_t at, char32_t code)
     if (code == ';')
     {
         const std::string_view rest = restOfLine(text, at);
-        return rest.size() == 1 ? "Pairs and headers end without a semicolon."
+        return isInTable(text, at)
+                   ? "Pairs in an inline table are separated by commas, with none before its '}'."
+               : rest.size() == 1 ? "Pairs and headers end without a semicolon."
                : rest.find('=') != std::string_view::npos
                    ? "Put each pair on its own line."
                    : "Elements are separated by commas. A comment starts with '#'.";

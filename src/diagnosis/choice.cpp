@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "codes.h"
+#include "encoding_words.h"
 #include "lexical_words.h"
 #include "source_lines.h"
 #include "statements.h"
@@ -188,7 +189,7 @@ private:
         {
             return;
         }
-        addMistake(missingLineBreak(found_.end), found_.end);
+        addMistake(missingLineBreak(text_, found_.end), found_.end);
     }
 
     std::string_view text_;
@@ -213,8 +214,12 @@ bool addMistakes(std::string_view text, const Recognition& found, std::vector<Mi
     return Choice(text, found, mistakes).make();
 }
 
-Mistake missingLineBreak(std::size_t end)
+Mistake missingLineBreak(std::string_view text, std::size_t end)
 {
+    if (end < text.size())
+    {
+        return malformedBytes(text, end, Severity::error);
+    }
     return {Severity::error,
             end,
             end,

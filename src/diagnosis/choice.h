@@ -15,6 +15,8 @@ namespace vorn::parsers::toml::diagnosis
 // part means anything: after a mistake in a multi-line string it does not.
 bool addMistakes(std::string_view text, const Recognition& found, std::vector<Mistake>& mistakes);
 
-Mistake missingLineBreak(std::size_t end);
+// Where the lexer finds the end.  If that is before the text's, bytes that are not UTF-8 read as
+// the end, and are the mistake.
+Mistake missingLineBreak(std::string_view text, std::size_t end);
 
 } // namespace vorn::parsers::toml::diagnosis

@@ -59,6 +59,7 @@ public:
             LastLine sink;
             find(sink);
         }
+        leaveOutConsequences(mistakes_); // (They may leave no room for their cause.)
         keepFirst(max_, mistakes_);
         addWarnings();
         leaveOutConsequences(mistakes_);
@@ -71,7 +72,7 @@ private:
         StrictSink sink(document_, options_.maxFindings);
         find(sink);
         addOthers(sink.takeMistakes(), mistakes_);
-        addOthers(findForbiddenBytes(document_, options_.maxFindings), mistakes_);
+        addOthers(findForbiddenBytes(document_, options_.maxFindings, mistakes_), mistakes_);
     }
 
     // The sink gets the valid lines.
@@ -80,7 +81,7 @@ private:
     {
         std::size_t at = lines_.pass(byteOrderMarkLength(document_), sink);
         const bool isReadDirectly = at == document_.size();
-        while (at < document_.size() && mistakes_.size() < max_)
+        while (at < document_.size() && !hasEnoughBefore(at))
         {
             const DamagedPart damaged = damagedPart(document_, at, lines_);
             skip(sink);
@@ -92,6 +93,12 @@ private:
         {
             addRefusal();
         }
+    }
+
+    // The last mistake of a part may be at the first token after it, with others before that one.
+    bool hasEnoughBefore(std::size_t place) const
+    {
+        return mistakes_.size() >= max_ && mistakes_[max_ - 1].begin < place;
     }
 
     template <typename Sink>
@@ -148,11 +155,29 @@ private:
         }
         if (end_ < document_.size())
         {
+            addEnd();
+        }
+        keepFirst(max_, mistakes_);
+    }
+
+    // Of bytes that are an error there is no warning, too.
+    void addEnd()
+    {
+        const auto told = std::find_if(mistakes_.begin(), mistakes_.end(),
+                                       [this](const Mistake& one) {
+                                           return one.begin <= end_ && end_ < one.end &&
+                                                  one.code == std::string_view(codes::notUtf8);
+                                       });
+        if (told == mistakes_.end())
+        {
             addWarning({Severity::warning, end_, end_ + 1, codes::unreadBytes,
                         "the file is only read up to these bytes, which are not valid UTF-8",
                         "They are read as the end of the file. Save the file as UTF-8."});
         }
-        keepFirst(max_, mistakes_);
+        else if (end_ + 1 < document_.size())
+        {
+            told->hint += " The rest is not read until then.";
+        }
     }
 
     void addWarning(Mistake&& warning)

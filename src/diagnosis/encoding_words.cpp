@@ -29,12 +29,16 @@ std::size_t readLength(unsigned lead)
                          : 6;
 }
 
+// Whether the character that it starts is cut off: it is read as the end of the file.
+bool isCutOff(std::string_view text, std::size_t at)
+{
+    return at + readLength(byteAt(text, at)) > text.size();
+}
+
 bool isMisread(std::string_view text, std::size_t at)
 {
-    const std::size_t length = readLength(byteAt(text, at));
-    const std::string_view taken = text.substr(at + 1, length - 1);
-    return at + length > text.size() ||
-           taken.find_first_of("\"'\\\r\n#=,.[]{}") != std::string_view::npos;
+    const std::string_view taken = text.substr(at + 1, readLength(byteAt(text, at)) - 1);
+    return isCutOff(text, at) || taken.find_first_of("\"'\\\r\n#=,.[]{}") != std::string_view::npos;
 }
 
 // Whether the byte is a letter or a sign of these encodings that stands alone.
@@ -46,14 +50,14 @@ bool looksLikeLatin1(std::string_view text, std::size_t at)
            (isAscii(text[at + 1]) || byteAt(text, at + 1) >= 0xC0);
 }
 
-std::string latin1Hint(unsigned byte)
+std::string latin1Hint(unsigned byte, std::size_t count)
 {
     const std::string letter = {static_cast<char>(0xC0U | (byte >> 6U)),
                                 static_cast<char>(0x80U | (byte & 0x3FU))};
-    return byte <= 0xA0 || byte == 0xAD
-               ? "It looks like Windows-1252. Save the file as UTF-8."
-               : "It looks like Latin-1 or Windows-1252, where it stands for '" + letter +
-                     "'. Save the file as UTF-8.";
+    return byte <= 0xA0 || byte == 0xAD ? "It looks like Windows-1252. Save the file as UTF-8."
+           : count > 1 ? "It looks like Latin-1 or Windows-1252. Save the file as UTF-8."
+                       : "It looks like Latin-1 or Windows-1252, where it stands for '" + letter +
+                             "'. Save the file as UTF-8.";
 }
 
 } // namespace
@@ -71,10 +75,16 @@ Mistake malformedBytes(std::string_view text, std::size_t at, Severity severity)
             at + 1,
             codes::notUtf8,
             "the byte " + std::string(byte) + " is not valid UTF-8",
-            looksLikeLatin1(text, at)
-                ? latin1Hint(byteAt(text, at))
+            looksLikeLatin1(text, at) ? latin1Hint(byteAt(text, at), 1)
+            : isCutOff(text, at)
+                ? "It is read as the end of the file. Save the file as UTF-8."
                 : "It may be read as one character together with the bytes after it. Save the "
                   "file as UTF-8."};
+}
+
+std::string encodingHint(std::string_view text, std::size_t at, std::size_t count)
+{
+    return looksLikeLatin1(text, at) && !isUtf16(text) ? latin1Hint(byteAt(text, at), count) : "";
 }
 
 std::optional<Mistake> malformedIn(std::string_view part, std::string_view text)

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "mistake.h"
@@ -12,6 +13,9 @@ namespace vorn::parsers::toml::diagnosis
 
 // Bytes that are not valid UTF-8.
 Mistake malformedBytes(std::string_view text, std::size_t at, Severity severity);
+
+// What encoding such bytes look like, adjacent ones; empty if they look like none.
+std::string encodingHint(std::string_view text, std::size_t at, std::size_t count);
 
 // That of a part of the text, if it has such bytes.
 std::optional<Mistake> malformedIn(std::string_view part, std::string_view text);

@@ -61,7 +61,7 @@ RelatedPlace placeOf(Origin& origin)
     return place;
 }
 
-Finding findingOf(Mistake&& mistake)
+Finding findingOf(Mistake& mistake)
 {
     Finding finding;
     finding.severity = mistake.severity;
@@ -75,14 +75,21 @@ Finding findingOf(Mistake&& mistake)
     return finding;
 }
 
+void nameLine(const std::string& afterLine, Finding& finding)
+{
+    if (!afterLine.empty())
+    {
+        finding.message += std::to_string(finding.related.at(0).line) + afterLine;
+    }
+}
+
 } // namespace
 
 std::vector<Finding> located(std::string_view text, std::vector<Mistake>&& mistakes)
 {
     std::vector<Finding> findings;
     findings.reserve(mistakes.size());
-    std::transform(mistakes.begin(), mistakes.end(), std::back_inserter(findings),
-                   [](Mistake& mistake) { return findingOf(std::move(mistake)); });
+    std::transform(mistakes.begin(), mistakes.end(), std::back_inserter(findings), findingOf);
     std::vector<Wanted> wanted;
     wanted.reserve(2 * findings.size());
     for (Finding& finding : findings)
@@ -94,6 +101,10 @@ std::vector<Finding> located(std::string_view text, std::vector<Mistake>&& mista
         }
     }
     count(text, wanted);
+    for (std::size_t index = 0; index < mistakes.size(); ++index)
+    {
+        nameLine(mistakes[index].afterLine, findings[index]);
+    }
     return findings;
 }
 

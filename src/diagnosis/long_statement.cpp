@@ -67,7 +67,7 @@ std::optional<Mistake> firstMistake(std::string_view text, const DamagedPart& pa
     const Site site = siteOf(cursor.refused(), text, statement, part);
     if (site.place.due == Due::lineEnd && site.found.type == TokenType::endOfInput)
     {
-        return missingLineBreak(site.found.begin);
+        return missingLineBreak(text, site.found.begin);
     }
     return mistakeAt(site);
 }

@@ -27,6 +27,9 @@ struct Mistake
     std::string message;
     std::string hint; // may be empty
     std::vector<Origin> origins = {};
+    // Where it is not empty, the message goes on with the line of the first origin, then with this:
+    // lines are counted once, for all places.
+    std::string afterLine = {};
 };
 
 } // namespace vorn::parsers::toml::diagnosis

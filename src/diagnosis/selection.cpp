@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 
 #include "codes.h"
 
@@ -18,24 +19,24 @@ void sort(std::vector<Mistake>& mistakes)
 
 } // namespace
 
+bool ToldPlaces::have(std::size_t place)
+{
+    while (next_ < told_.size() && told_[next_].begin <= place)
+    {
+        ++next_;
+    }
+    return next_ > 0 && (told_[next_ - 1].begin == place || told_[next_ - 1].end > place);
+}
+
 void addOthers(std::vector<Mistake>&& others, std::vector<Mistake>& mistakes)
 {
     sort(mistakes);
-    const std::size_t told = mistakes.size();
-    std::size_t next = 0; // the first that starts after the other
-    for (Mistake& other : others)
-    {
-        while (next < told && mistakes[next].begin <= other.begin)
-        {
-            ++next;
-        }
-        const bool isTold = next > 0 && (mistakes[next - 1].begin == other.begin ||
-                                         mistakes[next - 1].end > other.begin);
-        if (!isTold)
-        {
-            mistakes.push_back(std::move(other));
-        }
-    }
+    ToldPlaces places(mistakes);
+    others.erase(std::remove_if(others.begin(), others.end(),
+                                [&places](const Mistake& other)
+                                { return places.have(other.begin); }),
+                 others.end());
+    std::move(others.begin(), others.end(), std::back_inserter(mistakes));
     sort(mistakes);
 }
 

@@ -2,8 +2,10 @@
 
 #include <string>
 
+#include "encoding_words.h"
 #include "scan/character_run.h"
 #include "scan/utf8.h"
+#include "selection.h"
 #include "strict_mistakes.h"
 
 namespace vorn::parsers::toml::diagnosis
@@ -75,19 +77,29 @@ std::string described(std::string_view run, const StrictRule& rule)
                : "the " + std::to_string(run.size()) + ' ' + noun + "s from " + first + " on are";
 }
 
-void addRun(std::string_view run, const StrictRule& rule, StrictMistakes& mistakes)
+void addRun(std::string_view run, const StrictRule& rule, std::string_view text,
+            StrictMistakes& mistakes)
 {
-    mistakes.add(rule, run, described(run, rule),
+    const auto begin = static_cast<std::size_t>(run.data() - text.data());
+    const std::string encoding =
+        &rule == &notUtf8 ? encodingHint(text, begin, run.size()) : std::string();
+    const StrictRule said = {rule.code, rule.message,
+                             encoding.empty() ? rule.hint : encoding.c_str()};
+    mistakes.add(said, run, described(run, rule),
                  "00" + hexNumber(static_cast<unsigned char>(run[0])));
     mistakes.keepStatement();
 }
 
 } // namespace
 
-std::vector<Mistake> findForbiddenBytes(std::string_view text, std::size_t max)
+std::vector<Mistake> findForbiddenBytes(std::string_view text, std::size_t max,
+                                        const std::vector<Mistake>& told)
 {
+    ToldPlaces places(told);
     StrictMistakes mistakes(text, max);
     const char* const end = text.data() + text.size();
+    const auto offset = [text](const char* place)
+    { return static_cast<std::size_t>(place - text.data()); };
     const char* at = text.data();
     while (!mistakes.isFull() && (at = runEnd<nonPrintable, isPrintable>(at, end)) != end)
     {
@@ -98,11 +110,16 @@ std::vector<Mistake> findForbiddenBytes(std::string_view text, std::size_t max)
         {
             continue;
         }
-        while (at != end && classify(at, end).rule == found.rule)
+        const bool isTold = places.have(offset(begin));
+        while (at != end && classify(at, end).rule == found.rule &&
+               (isTold || !places.have(offset(at))))
         {
             ++at;
         }
-        addRun({begin, static_cast<std::size_t>(at - begin)}, *found.rule, mistakes);
+        if (!isTold)
+        {
+            addRun({begin, static_cast<std::size_t>(at - begin)}, *found.rule, text, mistakes);
+        }
     }
     return mistakes.take();
 }

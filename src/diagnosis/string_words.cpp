@@ -124,7 +124,7 @@ Mistake wrongEscape(std::size_t backslash, const LexicalError& error, std::strin
     else
     {
         hint = literalHint(error, text) +
-               " The valid escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX.";
+               " The valid escapes are \\\" \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX.";
     }
     return errorAt(backslash, end, codes::unknownEscape,
                    "unknown escape " + printable(text.substr(backslash, end - backslash)),

@@ -253,7 +253,8 @@ Mistake mistakeAt(const Site& site)
             words.code,
             std::move(words.message),
             std::move(words.hint),
-            words.showsOpening ? originsOf(place) : std::vector<Origin>()};
+            words.showsOpening ? originsOf(place) : std::vector<Origin>(),
+            std::move(words.afterLine)};
 }
 
 } // namespace vorn::parsers::toml::diagnosis

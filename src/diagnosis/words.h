@@ -14,6 +14,7 @@ struct Words
     std::string hint;
     std::string_view about = {}; // of the document, where that is more than the token
     bool showsOpening = false;   // of the brackets
+    std::string afterLine = {};  // the message goes on with the line of the brackets, and this
 };
 
 } // namespace vorn::parsers::toml::diagnosis

@@ -41,22 +41,32 @@ bool hasError(const std::vector<toml::Finding>& findings)
                        { return one.severity == toml::Severity::error; });
 }
 
-// The most memory, in bytes, that a process of its own has while it makes a text, and
-// diagnoses it if it is to.
-std::size_t peakOf(const std::function<std::string()>& makeText, bool diagnoses)
+// What a task takes in a process of its own, in which it succeeds.
+rusage usageOf(const std::function<bool()>& task)
 {
     const pid_t child = fork();
     if (child == 0)
     {
-        // The first use of the library brings in the pages of its code.
-        const bool isFound = hasError(toml::diagnose("a = []\n@\n[a\n"));
-        const std::string text = makeText();
-        _exit(isFound && (!diagnoses || hasError(toml::diagnose(text))) ? 0 : 1);
+        _exit(task() ? 0 : 1);
     }
     int status = -1;
     rusage usage = {};
     EXPECT_EQ(wait4(child, &status, 0, &usage), child);
     EXPECT_EQ(status, 0);
+    return usage;
+}
+
+// The most memory, in bytes, while a text is made, and diagnosed if it is to be.
+std::size_t peakOf(const std::function<std::string()>& makeText, bool diagnoses)
+{
+    const rusage usage = usageOf(
+        [&]
+        {
+            // The first use of the library brings in the pages of its code.
+            const bool isFound = hasError(toml::diagnose("a = []\n@\n[a\n"));
+            const std::string text = makeText();
+            return isFound && (!diagnoses || hasError(toml::diagnose(text)));
+        });
     return static_cast<std::size_t>(usage.ru_maxrss) * kilobyte;
 }
 
@@ -105,7 +115,35 @@ void expectSameVerdict(std::size_t stackSize, const std::string& text, bool* acc
     }
 }
 
+double secondsOf(const timeval& time)
+{
+    constexpr double microsecond = 1e-6;
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * microsecond;
+}
+
+// Of the processor, for all findings of as many lines.
+double timeOf(const std::string& line, std::size_t count)
+{
+    const rusage usage = usageOf(
+        [&]
+        {
+            toml::DiagnosisOptions all;
+            all.maxFindings = 0;
+            return toml::diagnose(test::repeated(line, count), all).size() == count;
+        });
+    return secondsOf(usage.ru_utime) + secondsOf(usage.ru_stime);
+}
+
 } // namespace
+
+// A message that names a line does not count the lines before it.
+TEST(DiagnosisTime, isInProportionToTheDocument)
+{
+    constexpr std::size_t times = 16;
+    constexpr std::size_t few = 1000;
+    const std::string line = "a=[1, #" + std::string(250, ' ') + '\n';
+    EXPECT_LT(timeOf(line, times * few), 4 * times * timeOf(line, few));
+}
 
 TEST(DiagnosisMemory, isLittleForAMistakeInALargeDocument)
 {

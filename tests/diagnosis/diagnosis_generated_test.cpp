@@ -3,6 +3,7 @@
 #include <vorn/parsers/toml_diagnosis.h>
 
 #include "diagnosis/choice.h"
+#include "diagnosis/location.h"
 #include "diagnosis/token_reader.h"
 
 #include "differential/crash_report.h"
@@ -114,7 +115,7 @@ void compareWithWhole(const std::string& text, const std::vector<toml::Finding>&
     std::vector<diagnosis::Mistake> mistakes;
     diagnosis::addMistakes(text, found, mistakes);
     Places ofWhole;
-    for (const diagnosis::Mistake& mistake : mistakes)
+    for (const toml::Finding& mistake : diagnosis::located(text, std::move(mistakes)))
     {
         ofWhole.emplace_back(mistake.begin, mistake.message);
     }

@@ -14,15 +14,17 @@ const Said highCharacter = {
     "error: the character U+1F600 is above U+FFFF",
     "Emoji and other characters above U+FFFF are not allowed, not even in comments. In a string "
     "with double quotes, write \\U0001F600 instead."};
-const std::string escapes = "The valid escapes are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX "
+const std::string escapes = "The valid escapes are \\\" \\\\ \\b \\f \\n \\r \\t \\uXXXX "
                             "\\UXXXXXXXX. In 'literal strings' a backslash is just a backslash.";
 const std::string unclosedLiteral = "Close the string with ' on the same line. Put double quotes "
                                     "around a string with an apostrophe in it.";
 const std::string quoteInString = "A quote in a string is written \\\".";
 const std::string controlCharacters =
-    "Control characters other than tabs and line breaks may only appear in strings and comments.";
+    "Of control characters only tabs and line breaks may appear outside of strings and comments.";
 const std::string malformed =
     "It may be read as one character together with the bytes after it. Save the file as UTF-8.";
+const Said cutOff = {"error: the byte C3 is not valid UTF-8",
+                     "It is read as the end of the file. Save the file as UTF-8."};
 const Said readsAsEnd = {
     "warning: the file is only read up to these bytes, which are not valid UTF-8",
     "They are read as the end of the file. Save the file as UTF-8."};
@@ -54,13 +56,13 @@ TEST(DiagnosisOfStrings, escapes)
         {"a = \"\\q\"\nb = []\n",
          {{"1:6 error: unknown escape \\q",
            "In a literal string a backslash is just a backslash: '\\q'. The valid escapes are \\\" "
-           "\\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."},
+           "\\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."},
           {"2:6 error: the array is empty",
            "An array needs at least one element. Leave the key out instead."}}},
         {"a = \"C:\\dir\"\n",
          {{"1:8 error: unknown escape \\d",
            "In a literal string a backslash is just a backslash: 'C:\\dir'. The valid escapes are "
-           "\\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
+           "\\\" \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"\\u12\"\n",
          {{"1:6 error: the escape \\u has too few digits",
            "Four hexadecimal digits follow \\u, as in \\u00E9. In a literal string a backslash is "
@@ -93,11 +95,11 @@ TEST(DiagnosisOfStrings, escapes)
         {"\"\\q\" = 1\n",
          {{"1:2 error: unknown escape \\q",
            "In a literal string a backslash is just a backslash: '\\q'. The valid escapes are \\\" "
-           "\\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
+           "\\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"\\\xc3\xa9\"\n",
          {{"1:6 error: unknown escape \\\xc3\xa9",
            "In a literal string a backslash is just a backslash: '\\\xc3\xa9'. The valid escapes "
-           "are \\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
+           "are \\\" \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"x\\\n",
          {{"1:7 error: there is nothing to escape after the backslash",
            "A backslash joins lines only in strings with \"\"\" around them. A backslash itself is "
@@ -183,22 +185,22 @@ TEST(DiagnosisOfStrings, bytesThatAreNotUtf8)
            "as UTF-8."}}},
         {"a = 1\n\xc1?\nb =\n", {at("2:1", readsAsEnd)}},
         {"a = 1\n\xc3", {at("2:1", readsAsEnd)}},
-        {"a = 1\xc3", {at("1:6", noLastLineBreak), at("1:6", readsAsEnd)}},
+        {"a = 1\xc3", {at("1:6", cutOff)}},
+        {"a = 1 # c\xc3", {at("1:10", cutOff)}},
+        {"a = 1\xc1?\nb =\n",
+         {{"1:6 error: the byte C1 is not valid UTF-8",
+           "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\x81'. Save the file "
+           "as UTF-8. The rest is not read until then."}}},
         {"\x80 = 1\n",
          {{"1:1 error: the byte 80 is not valid UTF-8",
            "It looks like Windows-1252. Save the file as UTF-8."}}},
         {"a = \"\xc1?\"\n",
          {{"1:6 error: the byte C1 is not valid UTF-8",
            "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\x81'. Save the file "
-           "as UTF-8."},
-          {"1:6 warning: the file is only read up to these bytes, which are not valid UTF-8",
-           "They are read as the end of the file. Save the file as UTF-8."}}},
+           "as UTF-8. The rest is not read until then."}}},
         {"a = \xe9",
          {{"1:5 error: the byte E9 is not valid UTF-8",
-           "It may be read as one character together with the bytes after it. Save the file as "
-           "UTF-8."},
-          {"1:5 warning: the file is only read up to these bytes, which are not valid UTF-8",
-           "They are read as the end of the file. Save the file as UTF-8."}}},
+           "It is read as the end of the file. Save the file as UTF-8."}}},
         {"# caf\xe9\n", {at("1:6", readsAsEnd)}},
         {"a = \"\xed\xa0\x80\"\n", {{"1:6 warning: the byte ED is not valid UTF-8", malformed}}},
     });

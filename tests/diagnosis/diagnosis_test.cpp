@@ -74,6 +74,29 @@ TEST(Diagnose, returnsAtMostSoManyFindings)
     EXPECT_EQ(toml::diagnose(text, atMost(0)).size(), 50U);
 }
 
+// An array that is not closed is told at the first token after it, whatever is before that.
+TEST(Diagnose, returnsTheFirstFindings)
+{
+    const std::string text = "a = [\n" + test::repeated("1,\n", 2000) +
+                             "\xe2\x80\x9c"
+                             "b = 1\n";
+    EXPECT_EQ(shown(toml::diagnose(text, atMost(2))),
+              "2002:1 stray-character\n2002:2 unclosed-array\n");
+    EXPECT_EQ(shown(toml::diagnose(text, atMost(1))), "2002:1 stray-character\n");
+}
+
+// What lies within a mistake that is told takes no other one's place.
+TEST(Diagnose, returnsAsManyFindingsAsThereAre)
+{
+    const std::string text = "\"\xc2\x01\n\xa5";
+    toml::DiagnosisOptions options = atMost(0);
+    options.strict = true;
+    const std::string all = shown(toml::diagnose(text, options));
+    EXPECT_EQ(std::count(all.begin(), all.end(), '\n'), 2);
+    options.maxFindings = 2;
+    EXPECT_EQ(shown(toml::diagnose(text, options)), all);
+}
+
 TEST(Diagnose, returnsErrorsRatherThanWarningsWhereThereIsNoRoomForBoth)
 {
     const std::string text = "a = \"\xed\xa0\x80\"\nb = []\n";

@@ -36,4 +36,8 @@ const std::string bareKeys =
 // document unless an error is among it.
 void expectSaid(const std::vector<Explained>& documents);
 
+// Expects all of what is said with `strict`, in order, and an error if the library rejects the
+// document.
+void expectSaidStrictly(const std::vector<Explained>& documents);
+
 } // namespace test

@@ -67,6 +67,16 @@ TEST(Location, takesPlacesInAnyOrder)
     EXPECT_EQ(shown(findings[1].line, findings[1].column), "1:5");
 }
 
+TEST(Location, namesTheLineOfAnOrigin)
+{
+    Mistake opened = mistake(6, 6);
+    opened.message = "opened on line ";
+    opened.afterLine = ", not closed";
+    opened.origins = {{2, 3, "here"}, {0, 1, "and here"}};
+    const auto findings = toml::diagnosis::located("a\nb\nc\n", {opened});
+    EXPECT_EQ(findings[0].message, "opened on line 2, not closed");
+}
+
 TEST(Location, keepsAllElse)
 {
     const auto findings = toml::diagnosis::located(

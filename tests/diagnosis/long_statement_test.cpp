@@ -1,4 +1,5 @@
 #include "diagnosis/choice.h"
+#include "diagnosis/location.h"
 #include "diagnosis/long_statement.h"
 
 #include "differential/document_generator.h"
@@ -60,6 +61,7 @@ TEST(LongStatement, hasTheMistakeAtWhichTheReaderStops)
         {"a.b.1 = 2\n", 4, "unquoted-key"},
         {"a = [1\n\n,\n \n2]\n", 10, "blank-line-in-array"},
         {"a = 1", 5, "missing-last-line-break"},
+        {"a = 1\xc3", 5, "not-utf8"},
         {"a = [\"\\q\"]\n", 6, "unknown-escape"},
     };
     for (const Expected& expected : documents)
@@ -82,7 +84,8 @@ TEST(LongStatement, isFollowedByTheStatementAfterIt)
     EXPECT_STREQ(mistake->code, "unclosed-array");
     EXPECT_EQ(mistake->begin, 7U);
     EXPECT_EQ(mistake->end, 8U);
-    EXPECT_EQ(mistake->message, "the array opened on line 1 is not closed before the word 'b'");
+    EXPECT_EQ(diagnosis::located(text, {*mistake})[0].message,
+              "the array opened on line 1 is not closed before the word 'b'");
 }
 
 // The reader over the lexer's tokens and the parser find the first mistake in the same place.

@@ -6,6 +6,14 @@
 using namespace std::string_literals;
 using namespace test;
 
+namespace
+{
+
+const std::string inTable =
+    "Pairs in an inline table are separated by commas, with none before its '}'.";
+
+} // namespace
+
 TEST(DiagnosisOfMistakenText, strings)
 {
     expectTold({
@@ -33,14 +41,14 @@ TEST(DiagnosisOfMistakenText, strings)
         {"a = \"C:\\dir\"\n",
          {{"1:8-1:10", "unknown-escape", "unknown escape \\d",
            "In a literal string a backslash is just a backslash: 'C:\\dir'. The valid escapes are "
-           "\\\" \\' \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
+           "\\\" \\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"C:\\users\\x\"\n",
          {{"1:8-1:10", "short-escape", "the escape \\u has too few digits",
            "Four hexadecimal digits follow \\u, as in \\u00E9. In a literal string a backslash is "
            "just a backslash: 'C:\\users\\x'."}}},
         {"a = \"\\d\\n\"\n",
          {{"1:6-1:8", "unknown-escape", "unknown escape \\d",
-           "In 'literal strings' a backslash is just a backslash. The valid escapes are \\\" \\' "
+           "In 'literal strings' a backslash is just a backslash. The valid escapes are \\\" "
            "\\\\ \\b \\f \\n \\r \\t \\uXXXX \\UXXXXXXXX."}}},
         {"a = \"\"\"x\nb = 1\n",
          {{"1:5-1:8", "unclosed-string", "the string that starts here is never closed",
@@ -62,10 +70,7 @@ TEST(DiagnosisOfMistakenText, bytesOfOtherEncodings)
         {"name = \"\xfc\"\n",
          {{"1:9-1:10", "not-utf8", "the byte FC is not valid UTF-8",
            "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xbc'. Save the file "
-           "as UTF-8."},
-          {"1:9-1:10", "unread-bytes",
-           "the file is only read up to these bytes, which are not valid UTF-8",
-           "They are read as the end of the file. Save the file as UTF-8."}}},
+           "as UTF-8. The rest is not read until then."}}},
         {"name = \"\xfc\"\nb = 1\nc = 2\n",
          {{"1:9-1:10", "not-utf8", "the byte FC is not valid UTF-8",
            "It looks like Latin-1 or Windows-1252, where it stands for '\xc3\xbc'. Save the file "
@@ -182,5 +187,16 @@ TEST(DiagnosisOfMistakenText, bracketsThatAreNotClosed)
         {"a = [1; 2]\n",
          {{"1:7-1:8", "stray-character", "the character ';' is not allowed here",
            "Elements are separated by commas. A comment starts with '#'."}}},
+        {"a = [\n{b = '{'; c = 2},\n[{d = [1; 2]}]]\n",
+         {{"2:9-2:10", "stray-character", "the character ';' is not allowed here", inTable},
+          {"3:9-3:10", "stray-character", "the character ';' is not allowed here",
+           "Elements are separated by commas. A comment starts with '#'."}}},
+        {"a = {b = [1];}\n",
+         {{"1:13-1:14", "stray-character", "the character ';' is not allowed here", inTable}}},
+        {"a = {b = 1;\n",
+         {{"1:11-1:12", "stray-character", "the character ';' is not allowed here", inTable}}},
+        {"a = {b = 1}; c = 2\n",
+         {{"1:12-1:13", "stray-character", "the character ';' is not allowed here",
+           "Put each pair on its own line."}}},
     });
 }
