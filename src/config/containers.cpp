@@ -10,29 +10,22 @@ namespace vorn::parsers::toml::config
 bool Definition::add(How how)
 {
     constexpr auto bit = [](How one) { return static_cast<unsigned>(one); };
-    constexpr unsigned any = 0xff;
-    // What each way must not follow.
-    unsigned others = any;
+    const unsigned before = ways_;
+    ways_ = static_cast<unsigned char>(before | bit(how));
     switch (how)
     {
     case How::value:
         break;
     case How::dottedKey:
-        others = any & ~bit(How::dottedKey);
-        break;
+        return (before & ~bit(How::dottedKey)) != 0;
     case How::header:
-        others = any & ~bit(How::headerOfMore);
-        break;
+        return (before & ~bit(How::headerOfMore)) != 0;
     case How::headerOfMore:
-        others = bit(How::value);
-        break;
-    case How::arrayHeader:
-        others = any & ~bit(How::arrayHeader);
-        break;
+        return (before & bit(How::value)) != 0;
+    case How::arrayHeader: // one after the other adds elements
+        return before != 0 && (before & bit(How::arrayHeader)) == 0;
     }
-    const bool isAgain = (ways_ & others) != 0;
-    ways_ = static_cast<unsigned char>(ways_ | bit(how));
-    return isAgain;
+    return before != 0;
 }
 
 std::uint32_t Containers::find(const Slot& slot) const

@@ -10,13 +10,19 @@ namespace vorn::parsers::toml::config
 namespace
 {
 
+// Names in an order that is found out by their sizes, most of the time.
+bool isBefore(std::string_view one, std::string_view other)
+{
+    return one.size() == other.size() ? one < other : one.size() < other.size();
+}
+
 // The first child of a node that does not come before a name.
 auto placeOf(const Table& table, std::uint32_t node, std::string_view name)
 {
     const std::vector<std::uint32_t>& children = table.nodes[node].children;
     return std::lower_bound(children.begin(), children.end(), name,
                             [&table](std::uint32_t child, std::string_view wanted)
-                            { return table.nodes[child].name < wanted; });
+                            { return isBefore(table.nodes[child].name, wanted); });
 }
 
 std::uint32_t addNode(Table& table, std::uint32_t parent, const std::string& name)

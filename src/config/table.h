@@ -23,7 +23,7 @@ struct Node
     std::string path; // from the table's start, as one writes it in a document
     std::uint32_t parent = none;
     std::uint32_t entry = none;          // of a key that fills a member
-    std::vector<std::uint32_t> children; // by their names
+    std::vector<std::uint32_t> children; // by the sizes of their names, then by the names
 };
 
 // A check of the whole struct, and the keys that it is about.
