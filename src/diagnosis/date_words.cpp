@@ -169,7 +169,12 @@ std::optional<Words> forDateTime(std::string_view value)
         return invalid(value, "A date is written 2024-01-31, a date-time 2024-01-31T07:32:00.");
     }
     const std::string start = std::string(value.substr(0, dateSize + 1)) + time.text;
-    if (rest.empty() || rest == "Z" || rest == "z")
+    const std::string offsetReason = "An offset is written Z or +01:00: ";
+    if (rest == "z")
+    {
+        return invalid(value, offsetReason + start + "Z.");
+    }
+    if (rest.empty() || rest == "Z")
     {
         return invalid(value, time.reason + start + std::string(rest) + '.');
     }
@@ -185,9 +190,8 @@ std::optional<Words> forDateTime(std::string_view value)
         return std::nullopt;
     }
     offset.insert(2, 1, ':');
-    const std::string_view reason = rest.substr(1) == offset ? std::string_view(time.reason)
-                                                             : "An offset is written Z or +01:00: ";
-    return invalid(value, std::string(reason) + start + rest[0] + offset + '.');
+    const std::string& reason = rest.substr(1) == offset ? time.reason : offsetReason;
+    return invalid(value, reason + start + rest[0] + offset + '.');
 }
 
 } // namespace

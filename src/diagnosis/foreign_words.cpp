@@ -65,7 +65,8 @@ std::string valueOf(std::string_view text, std::size_t begin)
         return std::string(value);
     }
     // What means something else elsewhere, as null, is not meant as a string.
-    return forUnquoted(value).code == codes::unquotedString ? inQuotes(value) : "";
+    const bool isText = forUnquoted(value).code == codes::unquotedString;
+    return inQuotes(isText ? value : std::string_view());
 }
 
 // Where, after the first word of a key, its other words end; npos if there is no value.
@@ -95,11 +96,15 @@ std::string quotedKeyHint(std::string_view words, const std::string& value)
 {
     const std::string key = inQuotes(words);
     const std::string hint = "A key of several words needs quotes";
-    if (!key.empty() && value.empty())
+    if (key.empty())
+    {
+        return hint + '.';
+    }
+    if (value.empty())
     {
         return hint + ": " + key + '.';
     }
-    return hint + (key.empty() ? "." : pairOf(key, value));
+    return hint + pairOf(key, value);
 }
 
 } // namespace
