@@ -70,7 +70,7 @@ std::string described(const DocumentToken& token, std::string_view text)
     {
         return "the word " + quoted(text);
     }
-    const std::string name(kindName(token.type));
+    std::string name(kindName(token.type));
     if (isLineEnd(token.type))
     {
         return "the " + name;
