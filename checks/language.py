@@ -79,7 +79,7 @@ def check_tokens(sources, rules, vocabulary):
     enumerators = {int(number): name for name, number
                    in re.findall(r"^\s*(\w+) = (-?\d+),", sources.text(TOKEN_TYPES), re.MULTILINE)}
     lexer, lexer_rules = sources.text(LEXER), sources.text(LEXER_RULES)
-    words_file = sources.file_named("token_words.cpp")
+    words_file = sources.file_named("kind_name.cpp")
     words = sources.text(words_file)
     tokens = tokens_of(rules)
     for token, discarded in tokens.items():

@@ -5,9 +5,9 @@
 
 #include "commands.h"
 #include "diagnosis/characters.h"
+#include "diagnosis/kind_name.h"
 #include "diagnosis/source_lines.h"
 #include "diagnosis/token_reader.h"
-#include "diagnosis/token_words.h"
 #include "each_file.h"
 #include "printed.h"
 

@@ -137,7 +137,7 @@ ShownCharacter shown(std::string_view text, const Character& character, std::siz
 {
     static const Widths widths;
     const auto code = static_cast<unsigned>(character.code);
-    if (code == '\t' && character.isWellFormed)
+    if (code == '\t')
     {
         return {"    ", 4};
     }

@@ -106,9 +106,14 @@ std::optional<Words> forDateAlone(std::string_view value)
     return invalid(value, "A date is written year first, then the month: 2024-01-31.");
 }
 
-// The hour, minute and second at the start of a text, with seconds and two digits each; what
-// follows is left.
-std::string takeTime(std::string_view& text)
+struct Time
+{
+    std::string text;   // with seconds, and two digits each; empty: none
+    std::string reason; // why it is written like that
+};
+
+// The hour, minute and second at the start of a text; what follows is left.
+Time takeTime(std::string_view& text, const std::string& name)
 {
     const std::size_t hour = text.find_first_not_of(digits);
     if ((hour != 1 && hour != 2) || text[hour] != ':' || text.size() < hour + 3 ||
@@ -120,26 +125,30 @@ std::string takeTime(std::string_view& text)
     text.remove_prefix(hour + 3);
     const bool hasSeconds =
         text.size() >= 3 && text[0] == ':' && text.substr(1, 2).find_first_not_of(digits) == npos;
-    time += hasSeconds ? std::string(text.substr(0, 3)) : ":00";
-    text.remove_prefix(hasSeconds ? 3 : 0);
-    return time;
+    if (!hasSeconds)
+    {
+        return {time + ":00", name + " is written with seconds: "};
+    }
+    time.append(text.substr(0, 3));
+    text.remove_prefix(3);
+    return {time, "An hour has two digits: "};
 }
 
 std::optional<Words> forTime(std::string_view value)
 {
     std::string_view rest = value;
-    const std::string time = takeTime(rest);
-    if (time.empty())
+    const Time time = takeTime(rest, "A time");
+    if (time.text.empty())
     {
         return std::nullopt;
     }
     if (rest.empty())
     {
-        return invalid(value, "A time is written with seconds: " + time + '.');
+        return invalid(value, time.reason + time.text + '.');
     }
     if (rest == "Z" || rest == "z" || rest[0] == '+' || rest[0] == '-')
     {
-        return invalid(value, "A time without a date has no offset: " + time + '.');
+        return invalid(value, "A time without a date has no offset: " + time.text + '.');
     }
     return std::nullopt;
 }
@@ -154,33 +163,35 @@ std::optional<Words> forDateTime(std::string_view value)
     }
     const char joint = value[dateSize];
     std::string_view rest = value.substr(dateSize + 1);
-    const std::string time = takeTime(rest);
-    if ((joint != 'T' && joint != 't' && joint != ' ') || time.empty())
+    const Time time = takeTime(rest, "A date-time");
+    if ((joint != 'T' && joint != 't' && joint != ' ') || time.text.empty())
     {
         return invalid(value, "A date is written 2024-01-31, a date-time 2024-01-31T07:32:00.");
     }
-    const std::string start = std::string(value.substr(0, dateSize + 1)) + time;
-    if (rest.empty() || rest == "Z" || rest == "z")
+    const std::string start = std::string(value.substr(0, dateSize + 1)) + time.text;
+    const std::string offsetReason = "An offset is written Z or +01:00: ";
+    if (rest == "z")
     {
-        return invalid(value,
-                       "A date-time is written with seconds: " + start + std::string(rest) + '.');
+        return invalid(value, offsetReason + start + "Z.");
     }
-    const bool isOffset = rest[0] == '+' || rest[0] == '-';
-    if (isOffset && rest.substr(1).find_first_not_of("0123456789:") == npos && rest.size() <= 6)
+    if (rest.empty() || rest == "Z")
     {
-        std::string offset;
-        for (const char c : rest.substr(1))
-        {
-            offset += c == ':' ? "" : std::string(1, c);
-        }
-        if (offset.size() == 2 || offset.size() == 4)
-        {
-            return invalid(value, "An offset is written Z or +01:00: " + start + rest[0] +
-                                      offset.substr(0, 2) + ':' +
-                                      (offset.size() == 2 ? "00" : offset.substr(2)) + '.');
-        }
+        return invalid(value, time.reason + start + std::string(rest) + '.');
     }
-    return std::nullopt;
+    if (rest.find_first_of("+-") != 0 || rest.find_first_not_of("0123456789:", 1) != npos)
+    {
+        return std::nullopt;
+    }
+    std::string offset(rest.substr(1));
+    offset.erase(std::remove(offset.begin(), offset.end(), ':'), offset.end());
+    offset += offset.size() == 2 ? "00" : "";
+    if (offset.size() != 4)
+    {
+        return std::nullopt;
+    }
+    offset.insert(2, 1, ':');
+    const std::string& reason = rest.substr(1) == offset ? time.reason : offsetReason;
+    return invalid(value, reason + start + rest[0] + offset + '.');
 }
 
 } // namespace

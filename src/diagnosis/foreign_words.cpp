@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "codes.h"
+#include "scan/scanner.h"
 #include "token_words.h"
 #include "unquoted.h"
+#include "value_words.h"
 
 namespace vorn::parsers::toml::diagnosis
 {
@@ -35,24 +37,44 @@ Mistake about(std::string_view part, std::size_t at, const char* code, std::stri
     return {Severity::error, at, at + part.size(), code, std::move(message), std::move(hint)};
 }
 
+// How much of the text is a token that starts it.
+std::size_t sizeOf(const Token& token, std::string_view text)
+{
+    return token.type == TokenType::none ? 0 : static_cast<std::size_t>(token.end - text.data());
+}
+
 // The value of a pair of another language, as it is written here; empty if it is not known.
 std::string valueOf(std::string_view text, std::size_t begin)
 {
     const std::string_view rest = restOfLine(text, begin);
-    if (rest.empty() || rest.find_first_of("[{=") == 0)
+    if (rest.empty() || rest.find_first_of("[{=|>") == 0 || rest.substr(0, 2) == "# ")
     {
         return {};
     }
+    const Token token = scanToken(rest.data(), rest.data() + rest.size());
+    const std::string_view read = rest.substr(0, sizeOf(token, rest));
     if (rest[0] == '"' || rest[0] == '\'')
     {
-        const std::size_t end = rest.find(rest[0], 1);
-        return end == npos ? std::string() : std::string(rest.substr(0, end + 1));
+        const std::string_view after = restOfLine(rest, read.size());
+        const bool isAlone = after.empty() || after.find_first_of(",;#/") == 0;
+        return std::string(isString(token.type) && isAlone ? read : std::string_view());
     }
-    const std::string_view value =
-        unquotedAt(text, static_cast<std::size_t>(rest.data() - text.data()), false);
-    const bool isValue =
-        value == "true" || value == "false" || value.find_first_not_of("0123456789.+-") == npos;
-    return isValue ? std::string(value) : inQuotes(value);
+    const std::string_view value = unquotedAt(rest, 0, false);
+    if (isValueLikeKey(token.type) && read == value)
+    {
+        return std::string(value);
+    }
+    // What means something else elsewhere, as null, is not meant as a string.
+    const bool isText = forUnquoted(value).code == codes::unquotedString;
+    return inQuotes(isText ? value : std::string_view());
+}
+
+// Where, after the first word of a key, its other words end; npos if there is no value.
+std::size_t keyEnd(std::string_view rest)
+{
+    const std::size_t colon = std::min(rest.find(": "), rest.find(":\t"));
+    const std::size_t last = rest.empty() || rest.back() != ':' ? npos : rest.size() - 1;
+    return std::min({rest.find('='), colon, last});
 }
 
 // ": key = value", as it is meant if both are short.
@@ -61,7 +83,28 @@ std::string pairOf(std::string_view key, const std::string& value)
     key = key.substr(0, key.find_last_not_of(" \t") + 1);
     const bool isShown = !inQuotes(key).empty() && !inQuotes(value).empty() &&
                          key.size() + value.size() <= maxHinted;
-    return isShown ? ": " + std::string(key) + " = " + value + '.' : ": key = value.";
+    if (!isShown)
+    {
+        return ": key = value.";
+    }
+    std::string pair = ": ";
+    return pair.append(key).append(" = ").append(value) += '.';
+}
+
+// Of a key of several words: with its value if that is known.
+std::string quotedKeyHint(std::string_view words, const std::string& value)
+{
+    const std::string key = inQuotes(words);
+    const std::string hint = "A key of several words needs quotes";
+    if (key.empty())
+    {
+        return hint + '.';
+    }
+    if (value.empty())
+    {
+        return hint + ": " + key + '.';
+    }
+    return hint + pairOf(key, value);
 }
 
 } // namespace
@@ -102,11 +145,15 @@ std::optional<Mistake> foreignCommentAt(std::string_view text, std::size_t at)
         rest.size() >= 4 && rest[1] == '*' && rest.substr(rest.size() - 2) == "*/";
     const std::string_view content =
         restOfLine(rest.substr(0, rest.size() - (isClosed ? 2 : 0)), size);
+    std::string hint = "Write # before a comment.";
+    if (!inQuotes(content).empty() && content.find("*/") == npos)
+    {
+        hint = "Write # ";
+        hint.append(content) += " instead.";
+    }
     return about(rest, at, codes::foreignComment,
                  "a comment starts with '#', not with '" + std::string(rest.substr(0, size)) + '\'',
-                 inQuotes(content).empty() || content.find("*/") != npos
-                     ? "Write # before a comment."
-                     : "Write # " + std::string(content) + " instead.");
+                 std::move(hint));
 }
 
 std::optional<Mistake> colonAt(std::string_view text, std::size_t at)
@@ -119,7 +166,7 @@ std::optional<Mistake> colonAt(std::string_view text, std::size_t at)
     const std::string_view rest = restOfLine(text, at + 1);
     const bool isAlone = before.find_first_of("=,{}[]") == npos;
     std::string hint = "Write '=' between a key and its value" +
-                       (isAlone ? pairOf(before, valueOf(text, at + 1)) : ": key = value.");
+                       pairOf(isAlone ? before : std::string_view(), valueOf(text, at + 1));
     hint += rest.empty() ? " A table starts with a header, [key]." : "";
     return about(text.substr(at, 1), at, codes::missingEquals,
                  "expected '=' after the key, found ':'", std::move(hint));
@@ -143,16 +190,15 @@ Words forWords(const Site& site)
         return {codes::foreignComment, std::move(message), "A comment starts with '#'."};
     }
     const std::string_view rest = restOfLine(text, begin);
-    const std::size_t equals = rest.find('=');
-    if (equals != npos && rest.find_first_of("\"'#") > equals)
+    const std::size_t end = keyEnd(rest);
+    if (end != npos && rest.find_first_of("\"'#") > end)
     {
         const std::size_t offset = begin - key.size();
-        const std::string_view words = restOfLine(text.substr(0, begin + equals), offset);
-        const std::string pair = pairOf(inQuotes(words), valueOf(text, begin + equals + 1));
+        const std::string_view words = restOfLine(text.substr(0, begin + end), offset);
+        const bool isOneKey = words.find_first_of("\"'.") == npos && firstWord != "export";
         return {codes::unquotedKey, std::move(message),
-                words.find_first_of("\"'.") == npos && firstWord != "export"
-                    ? "A key of several words needs quotes" + pair
-                    : "A pair is written key = value. A key of several words needs quotes."};
+                isOneKey ? quotedKeyHint(words, valueOf(text, begin + end + 1))
+                         : "A pair is written key = value. A key of several words needs quotes."};
     }
     return {codes::missingEquals, std::move(message),
             "Write '=' between a key and its value" + pairOf(key, valueOf(text, begin))};

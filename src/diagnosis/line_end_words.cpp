@@ -1,6 +1,7 @@
 #include "line_end_words.h"
 
 #include "codes.h"
+#include "kind_name.h"
 #include "token_words.h"
 #include "unquoted.h"
 #include "value_words.h"

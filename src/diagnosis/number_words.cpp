@@ -4,6 +4,7 @@
 #include <string>
 
 #include "codes.h"
+#include "scan/scanner.h"
 #include "token_words.h"
 
 namespace vorn::parsers::toml::diagnosis
@@ -12,6 +13,7 @@ namespace
 {
 
 constexpr std::size_t npos = std::string_view::npos;
+constexpr std::string_view allDigits = "0123456789";
 
 bool isDigit(char c)
 {
@@ -58,7 +60,7 @@ std::optional<Words> forPrefixed(std::string_view value, bool hasSign, std::stri
                                    : prefix == 'b' ? "01_"
                                                    : "01234567_";
     const std::string_view rest = digits.substr(2);
-    const std::string start = std::string("0") + prefix;
+    std::string start = std::string("0") + prefix;
     if (rest.empty() || !hasOnly(rest, valid))
     {
         return invalid(value, "After " + start + " come digits, " +
@@ -68,8 +70,8 @@ std::optional<Words> forPrefixed(std::string_view value, bool hasSign, std::stri
     }
     if (hasSign)
     {
-        return invalid(value, "Only decimal integers may have a sign: " +
-                                  (value[0] == '+' ? start + std::string(rest) : "-31") + '.');
+        const std::string example = value[0] == '+' ? start.append(rest) : "-31";
+        return invalid(value, "Only decimal integers may have a sign: " + example + '.');
     }
     if (digits[1] != prefix)
     {
@@ -89,41 +91,69 @@ Words forInteger(std::string_view value, const std::string& sign, std::string_vi
     }
     const std::string plain(
         digits.substr(std::min(digits.find_first_not_of("0_"), digits.size() - 1)));
-    const bool isOctal = sign.empty() && hasOnly(digits, "01234567");
-    return invalid(value, "An integer must not start with 0: " + sign + plain + '.' +
-                              (isOctal ? " Octal integers are written 0o" + plain + '.' : ""));
+    std::string hint = "An integer must not start with 0: " + sign + plain + '.';
+    if (sign.empty() && hasOnly(digits, "01234567"))
+    {
+        hint += " Octal integers are written 0o" + plain + '.';
+    }
+    return invalid(value, std::move(hint));
+}
+
+bool isInteger(std::string_view text)
+{
+    const char* const end = text.data() + text.size();
+    if (text.empty())
+    {
+        return false;
+    }
+    const Token token = scanToken(text.data(), end);
+    return token.type == TokenType::decInt && token.end == end;
 }
 
 // 1,5 and 1,000,000.
 std::optional<Words> forCommas(std::string_view value)
 {
-    const auto commas = std::count(value.begin(), value.end(), ',');
-    if (commas == 0 || !hasOnly(value, "0123456789,+-") || !isDigit(value.back()) ||
-        value.find(",,") != npos)
+    const std::size_t comma = value.find(',');
+    if (comma == npos || !hasOnly(value, "0123456789,+-"))
     {
         return std::nullopt;
     }
-    // Groups of three digits are thousands.
     std::string elements;
-    std::string plain;
-    bool isGrouped = true;
-    for (std::size_t at = 0; at < value.size(); ++at)
+    bool isArray = true;
+    bool isGrouped = value.find_first_of("123456789") < comma;
+    for (std::size_t begin = 0, end = 0; begin <= value.size(); begin = end + 1)
     {
-        const bool isComma = value[at] == ',';
-        const std::size_t next = std::min(value.find(',', at + 1), value.size());
-        isGrouped = isGrouped && (!isComma || next == at + 4);
-        elements += isComma ? std::string(", ") : std::string(1, value[at]);
-        plain += isComma ? std::string("_") : std::string(1, value[at]);
+        end = std::min(value.find(',', begin), value.size());
+        const std::string_view element = value.substr(begin, end - begin);
+        isArray = isArray && isInteger(element);
+        // Groups of three digits are thousands.
+        isGrouped = isGrouped && (begin == 0 ? isInteger(element)
+                                             : element.size() == 3 && hasOnly(element, allDigits));
+        elements.append(begin == 0 ? "" : ", ").append(element);
     }
+    std::string plain(value);
     if (isGrouped)
     {
+        std::replace(plain.begin(), plain.end(), ',', '_');
         return invalid(value,
                        "Thousands are separated by underscores, or not at all: " + plain + '.');
     }
-    std::replace(plain.begin(), plain.end(), '_', '.');
-    return invalid(value, (commas == 1 ? "A float is written " + plain + ", an array ["
-                                       : "An array is written [") +
-                              elements + "].");
+    plain[comma] = '.';
+    if (isInteger(value.substr(0, comma)) && comma + 1 < value.size() &&
+        hasOnly(value.substr(comma + 1), allDigits))
+    {
+        std::string hint = "A float is written " + plain;
+        if (isArray)
+        {
+            hint += ", an array [" + elements + ']';
+        }
+        return invalid(value, std::move(hint) + '.');
+    }
+    if (!isArray)
+    {
+        return std::nullopt;
+    }
+    return invalid(value, "An array is written [" + elements + "].");
 }
 
 // 1., .5, 1e, 1.5_ and 01.5: puts digits where they are missing.
@@ -138,7 +168,8 @@ std::optional<Words> forFloat(std::string_view value, const std::string& sign,
     const std::string power = tidy.substr(exponent);
     const std::size_t powerDigits = power.find_first_not_of("eE+-");
     if (!hasOnly(whole, "0123456789_") || !hasOnly(fraction, "0123456789_.") ||
-        !hasOnly(power, "0123456789_eE+-") || power.find_first_of("eE", 1) != npos)
+        !hasOnly(power, "0123456789_eE+-") || power.find_first_of("eE", 1) != npos ||
+        power.find_first_of("+-", 2) != npos)
     {
         return std::nullopt;
     }
@@ -161,7 +192,7 @@ std::optional<Words> forFloat(std::string_view value, const std::string& sign,
 
 std::optional<Words> forNumber(std::string_view value)
 {
-    const bool hasSign = !value.empty() && (value[0] == '+' || value[0] == '-');
+    const bool hasSign = value.find_first_of("+-") == 0;
     const std::string_view number = value.substr(hasSign ? 1 : 0);
     const std::string sign(value.substr(0, hasSign ? 1 : 0));
     const std::size_t first = number.find_first_not_of("._");
@@ -175,14 +206,21 @@ std::optional<Words> forNumber(std::string_view value)
     }
     if (hasOnly(number, "0123456789_"))
     {
-        return number[0] == '_' ? std::nullopt : std::optional(forInteger(value, sign, number));
+        if (number[0] == '_')
+        {
+            return std::nullopt;
+        }
+        return forInteger(value, sign, number);
     }
     if (auto words = forCommas(value))
     {
         return words;
     }
-    return std::count(number.begin(), number.end(), '.') > 1 ? std::nullopt
-                                                             : forFloat(value, sign, number);
+    if (std::count(number.begin(), number.end(), '.') > 1)
+    {
+        return std::nullopt;
+    }
+    return forFloat(value, sign, number);
 }
 
 } // namespace vorn::parsers::toml::diagnosis

@@ -76,7 +76,8 @@ std::string shownKey(std::string_view part)
         return {};
     }
     const bool isQuoted = part[0] == '"' || part[0] == '\'';
-    return isQuoted ? " " + std::string(part) : " '" + std::string(part) + '\'';
+    const std::string_view quote = isQuoted ? "" : "'";
+    return std::string(" ").append(quote).append(part).append(quote);
 }
 
 } // namespace vorn::parsers::toml::diagnosis

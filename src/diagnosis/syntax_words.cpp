@@ -7,6 +7,7 @@
 #include "codes.h"
 #include "encoding_words.h"
 #include "foreign_words.h"
+#include "kind_name.h"
 #include "line_end_words.h"
 #include "token_words.h"
 #include "unquoted.h"
@@ -18,6 +19,10 @@ namespace
 {
 
 constexpr std::string_view pairHint = "A line contains a pair, key = value, or a header, [key].";
+
+constexpr std::string_view jsonHint =
+    "It looks like JSON. There are no braces around a document, and each line contains one pair, "
+    "key = value.";
 
 constexpr std::string_view tableHint = "In an inline table, pairs are written {a = 1, b = 2}.";
 
@@ -59,10 +64,7 @@ Words forStatement(const Site& site)
                 std::string(pairHint)};
     }
     return forKey(codes::missingKey, "expected a key or a header", site,
-                  type == TokenType::openBrace
-                      ? "It looks like JSON. There are no braces around a document, and " +
-                            std::string("each line contains one pair, key = value.")
-                      : std::string(pairHint));
+                  std::string(type == TokenType::openBrace ? jsonHint : pairHint));
 }
 
 Words forEquals(const Site& site)

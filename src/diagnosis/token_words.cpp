@@ -1,6 +1,7 @@
 #include "token_words.h"
 
 #include "characters.h"
+#include "kind_name.h"
 
 namespace vorn::parsers::toml::diagnosis
 {
@@ -29,64 +30,6 @@ std::string shortened(std::string_view text)
 }
 
 } // namespace
-
-// NOLINTNEXTLINE(readability-function-size): a table
-std::string_view kindName(TokenType type)
-{
-    switch (type)
-    {
-    case TokenType::bareKey:
-        return "bare key";
-    case TokenType::basicString:
-        return "string";
-    case TokenType::literalString:
-        return "literal string";
-    case TokenType::mlBasicString:
-        return "multi-line string";
-    case TokenType::mlLiteralString:
-        return "multi-line literal string";
-    case TokenType::decInt:
-        return "integer";
-    case TokenType::hexInt:
-        return "hexadecimal integer";
-    case TokenType::octInt:
-        return "octal integer";
-    case TokenType::binInt:
-        return "binary integer";
-    case TokenType::floating:
-    case TokenType::inf:
-    case TokenType::nan:
-        return "float";
-    case TokenType::boolean:
-        return "boolean";
-    case TokenType::offsetDateTime:
-        return "offset date-time";
-    case TokenType::localDateTime:
-        return "local date-time";
-    case TokenType::localDate:
-        return "date";
-    case TokenType::localTime:
-        return "time";
-    case TokenType::newline:
-        return "end of the line";
-    case TokenType::comma:
-        return "','";
-    case TokenType::dot:
-        return "'.'";
-    case TokenType::equals:
-        return "'='";
-    case TokenType::openBracket:
-        return "'['";
-    case TokenType::closeBracket:
-        return "']'";
-    case TokenType::openBrace:
-        return "'{'";
-    case TokenType::closeBrace:
-        return "'}'";
-    default:
-        return "end of the file";
-    }
-}
 
 bool isValueLikeKey(TokenType type)
 {
@@ -123,22 +66,20 @@ bool isString(TokenType type)
 
 std::string described(const DocumentToken& token, std::string_view text)
 {
-    const std::string name(kindName(token.type));
-    switch (token.type)
+    if (token.type == TokenType::bareKey)
     {
-    case TokenType::bareKey:
         return "the word " + quoted(text);
-    case TokenType::newline:
-    case TokenType::endOfInput:
-        return "the " + name;
-    case TokenType::basicString:
-    case TokenType::literalString:
-    case TokenType::mlBasicString:
-    case TokenType::mlLiteralString:
-        return "the " + name + ' ' + shortened(text);
-    default:
-        return isValueLikeKey(token.type) ? "the " + name + ' ' + shortened(text) : name;
     }
+    std::string name(kindName(token.type));
+    if (isLineEnd(token.type))
+    {
+        return "the " + name;
+    }
+    if (isString(token.type) || isValueLikeKey(token.type))
+    {
+        return "the " + name + ' ' + shortened(text);
+    }
+    return name;
 }
 
 std::string quoted(std::string_view text)

@@ -10,9 +10,6 @@
 namespace vorn::parsers::toml::diagnosis
 {
 
-// "integer", "string", "'='", "end of the line", ...
-std::string_view kindName(TokenType type);
-
 // Whether a token is a value that looks like a key: true, 123, 2024-01-01.
 bool isValueLikeKey(TokenType type);
 

@@ -147,7 +147,8 @@ std::string inQuotes(std::string_view text)
     std::string result = "\"";
     for (const char c : text)
     {
-        result += c == '\\' || c == '"' ? std::string("\\") + c : std::string(1, c);
+        result += c == '\\' || c == '"' ? "\\" : "";
+        result += c;
     }
     return result + '"';
 }
@@ -155,7 +156,8 @@ std::string inQuotes(std::string_view text)
 std::string quotesHint(std::string_view text)
 {
     const std::string string = inQuotes(text);
-    return string.empty() ? "Strings need quotes." : "Strings need quotes: " + string + '.';
+    const std::string hint = "Strings need quotes";
+    return hint + (string.empty() ? "" : ": ") + string + '.';
 }
 
 } // namespace vorn::parsers::toml::diagnosis

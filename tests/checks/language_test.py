@@ -22,8 +22,8 @@ options = argparse.Namespace()
 
 
 def words_file():
-    (found,) = [*options.source.glob("tools/token_words.cpp"),
-                *options.source.glob("src/**/token_words.cpp")]
+    (found,) = [*options.source.glob("tools/kind_name.cpp"),
+                *options.source.glob("src/**/kind_name.cpp")]
     return str(found.relative_to(options.source))
 
 

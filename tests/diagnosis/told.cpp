@@ -77,6 +77,17 @@ void expectCorrect(const std::string& document, const toml::Finding& finding)
     }
 }
 
+// "Write '=' between a key and its value: a = 1." holds a valid document.
+void expectValidPair(const toml::Finding& finding)
+{
+    const std::string pair = correctionIn(finding.hint);
+    const bool isOfKey = finding.code == "missing-equals" || finding.code == "unquoted-key";
+    if (isOfKey && pair.find(" = ") != std::string::npos && pair != "key = value")
+    {
+        EXPECT_TRUE(toml::diagnose(pair + '\n').empty()) << pair;
+    }
+}
+
 } // namespace
 
 void expectTold(const std::vector<Mistaken>& documents)
@@ -89,6 +100,7 @@ void expectTold(const std::vector<Mistaken>& documents)
         {
             told.push_back(toldOf(finding));
             expectCorrect(mistaken.document, finding);
+            expectValidPair(finding);
         }
         EXPECT_EQ(shown(told), shown(mistaken.told));
         EXPECT_FALSE(read(mistaken.document).accepted);

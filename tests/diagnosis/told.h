@@ -23,7 +23,8 @@ struct Mistaken
 };
 
 // Expects exactly that, and that the library rejects the documents.  Where a hint says what to
-// write instead of a value, there must be no mistake in that, nor before it.
+// write instead of a value, there must be no mistake in that, nor before it; nor in the pair that
+// a hint shows.
 void expectTold(const std::vector<Mistaken>& documents);
 
 } // namespace test
