@@ -189,7 +189,9 @@ public:
 // "visitFloat is not overridden".  Derive from it, and override everything that a document
 // may hold, including beginDocument and endDocument.  Anything else ends the reading.
 //
-// The exception leaves visitTomlTree() like any other that a visitor throws.
+// The exception leaves visitTomlTree() like any other that a visitor throws.  (A program that is
+// compiled without exceptions has no such visitor.)
+#if defined(__cpp_exceptions)
 class VORN_PARSERS_API StrictTomlTreeVisitor : public ITomlTreeVisitor
 {
 public:
@@ -230,6 +232,7 @@ private:
         throw std::logic_error(std::string(operation) + " is not overridden");
     }
 };
+#endif
 
 // The path of a document's file.  It is a type of its own, so that nobody takes a
 // text for a path:

@@ -1,0 +1,219 @@
+#include "follower.h"
+
+#include <algorithm>
+
+namespace vorn::parsers::toml::config
+{
+namespace
+{
+
+constexpr std::uint32_t endOfDocument = 0xFFFFFFFF;
+
+// Goes over a document as the parser reads it.
+class Characters
+{
+public:
+    Characters(std::string_view document, std::size_t at) : document_(document), at_(at) { read(); }
+
+    std::uint32_t next() const { return character_.code; }
+    std::size_t offset() const { return at_; }
+
+    std::uint32_t take()
+    {
+        const std::uint32_t code = character_.code;
+        at_ += character_.length;
+        read();
+        return code;
+    }
+
+    // Returns how many came next, and were taken.
+    unsigned takeAll(std::uint32_t code, unsigned max)
+    {
+        unsigned count = 0;
+        while (count < max && next() == code)
+        {
+            take();
+            ++count;
+        }
+        return count;
+    }
+
+private:
+    void read()
+    {
+        character_ = at_ < document_.size() ? readCharacter(document_, at_)
+                                            : ReadCharacter{endOfDocument, 0};
+    }
+
+    std::string_view document_;
+    std::size_t at_;
+    ReadCharacter character_ = {};
+};
+
+// Takes the content and the delimiter of a string, whose quotes have been taken.
+void takeString(Characters& characters, std::uint32_t quote, bool isMultiline)
+{
+    while (characters.next() != endOfDocument && (isMultiline || characters.next() != '\n'))
+    {
+        // Of four quotes in a row, in a string of several lines, the first one is content.
+        const unsigned quotes = characters.takeAll(quote, isMultiline ? 4 : 1);
+        if (quotes >= (isMultiline ? 3 : 1))
+        {
+            return;
+        }
+        if (quotes == 0 && characters.take() == '\\' && quote == '"' && characters.next() != '\n')
+        {
+            characters.take();
+        }
+    }
+}
+
+// The end of the string that starts at an offset.  Without its delimiter it ends with the line,
+// or with the document.
+std::size_t stringEnd(std::string_view document, std::size_t begin)
+{
+    Characters characters(document, begin);
+    const std::uint32_t quote = characters.take();
+    const unsigned more = characters.takeAll(quote, 2);
+    if (more != 1)
+    {
+        takeString(characters, quote, more == 2);
+    }
+    return characters.offset();
+}
+
+bool isAsciiOnly(const char* at, const char* end)
+{
+    using Word = std::uint64_t;
+    constexpr Word highBits = 0x8080808080808080U;
+    for (; end - at >= static_cast<std::ptrdiff_t>(sizeof(Word)); at += sizeof(Word))
+    {
+        Word word = 0;
+        std::memcpy(&word, at, sizeof(word));
+        if ((word & highBits) != 0)
+        {
+            return false;
+        }
+    }
+    return std::all_of(at, end, isAscii);
+}
+
+bool isQuote(std::uint32_t code)
+{
+    return code == '"' || code == '\'';
+}
+
+// Of bare keys, numbers and dates.
+bool isTokenCharacter(std::uint32_t code)
+{
+    const std::uint32_t letter = code | 0x20U;
+    return (letter >= 'a' && letter <= 'z') || (code >= '0' && code <= '9') || code == '_' ||
+           code == '-' || code == '+' || code == ':';
+}
+
+} // namespace
+
+void Follower::skipComment() noexcept
+{
+    const char* const begin = document_.data() + at_;
+    const void* const found = std::memchr(begin, '\n', document_.size() - at_);
+    const char* const end =
+        found != nullptr ? static_cast<const char*>(found) : document_.data() + document_.size();
+    if (isAsciiOnly(begin, end))
+    {
+        at_ = static_cast<std::size_t>(end - document_.data());
+        return;
+    }
+    // A malformed character may take the line feed along.
+    Characters characters(document_, at_);
+    while (characters.next() != '\n' && characters.next() != endOfDocument)
+    {
+        characters.take();
+    }
+    at_ = characters.offset();
+}
+
+void Follower::skipSpecial() noexcept
+{
+    while (at_ < document_.size() && kindAt(at_) != other)
+    {
+        const ReadCharacter character = readCharacter(document_, at_);
+        if (character.code >= 0x80)
+        {
+            return;
+        }
+        if (character.code == '#')
+        {
+            skipComment();
+        }
+        else if (kindOf(static_cast<unsigned char>(character.code)) == separator)
+        {
+            at_ += character.length;
+        }
+        else
+        {
+            return;
+        }
+    }
+}
+
+void Follower::skipToken() noexcept
+{
+    Characters characters(document_, at_);
+    if (isQuote(characters.next()))
+    {
+        at_ = stringEnd(document_, at_);
+        return;
+    }
+    if (isTokenCharacter(characters.take()))
+    {
+        while (isTokenCharacter(characters.next()))
+        {
+            characters.take();
+        }
+    }
+    at_ = characters.offset();
+}
+
+// `lengthHere` returns how long that is which is looked for; 0 if it is not here.
+template <typename LengthHere>
+bool Follower::searchWhere(LengthHere lengthHere) noexcept
+{
+    const std::size_t start = at_;
+    while (at_ - start < searchable_ && next() < document_.size())
+    {
+        if (const std::size_t length = lengthHere(); length != 0)
+        {
+            position_ = at_;
+            at_ += length;
+            return true;
+        }
+        skipToken();
+    }
+    searchable_ -= std::min(searchable_, at_ - start);
+    at_ = start;
+    return false;
+}
+
+bool Follower::searchBracket(char c) noexcept
+{
+    return searchWhere(
+        [&]
+        {
+            const ReadCharacter character = readCharacter(document_, at_);
+            return character.code == static_cast<unsigned char>(c) ? character.length : 0;
+        });
+}
+
+bool Follower::search(std::string_view text) noexcept
+{
+    return searchWhere([&] { return isAt(at_, text) ? text.size() : 0; });
+}
+
+std::string_view Follower::wholeString() noexcept
+{
+    at_ = stringEnd(document_, position_);
+    return {document_.data() + position_, at_ - position_};
+}
+
+} // namespace vorn::parsers::toml::config
