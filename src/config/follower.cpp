@@ -113,6 +113,20 @@ bool isTokenCharacter(std::uint32_t code)
 
 } // namespace
 
+std::string_view Follower::take(std::string_view text) noexcept
+{
+    if (isAt(at_, text))
+    {
+        position_ = at_;
+        at_ += text.size();
+    }
+    else if (!search(text))
+    {
+        return text;
+    }
+    return {document_.data() + position_, text.size()};
+}
+
 void Follower::skipComment() noexcept
 {
     const char* const begin = document_.data() + at_;
