@@ -82,20 +82,28 @@ std::size_t stringEnd(std::string_view document, std::size_t begin)
     return characters.offset();
 }
 
-bool isAsciiOnly(const char* at, const char* end)
+// Whether a part of a document has no bytes that the parser could take for anything else.
+bool isWellFormed(std::string_view part)
 {
     using Word = std::uint64_t;
     constexpr Word highBits = 0x8080808080808080U;
-    for (; end - at >= static_cast<std::ptrdiff_t>(sizeof(Word)); at += sizeof(Word))
+    std::size_t at = 0;
+    while (at < part.size())
     {
-        Word word = 0;
-        std::memcpy(&word, at, sizeof(word));
-        if ((word & highBits) != 0)
+        Word word = highBits;
+        if (part.size() - at >= sizeof(word))
+        {
+            std::memcpy(&word, part.data() + at, sizeof(word));
+        }
+        const bool isPlain = (word & highBits) == 0;
+        const std::size_t length = isPlain || isAscii(part[at]) ? 1 : characterLength(part, at);
+        if (length == 1 && !isAscii(part[at]))
         {
             return false;
         }
+        at += isPlain ? sizeof(word) : length;
     }
-    return std::all_of(at, end, isAscii);
+    return true;
 }
 
 bool isQuote(std::uint32_t code)
@@ -129,13 +137,11 @@ std::string_view Follower::take(std::string_view text) noexcept
 
 void Follower::skipComment() noexcept
 {
-    const char* const begin = document_.data() + at_;
-    const void* const found = std::memchr(begin, '\n', document_.size() - at_);
-    const char* const end =
-        found != nullptr ? static_cast<const char*>(found) : document_.data() + document_.size();
-    if (isAsciiOnly(begin, end))
+    const std::size_t found = document_.find('\n', at_);
+    const std::size_t end = std::min(found, document_.size());
+    if (isWellFormed({document_.data() + at_, end - at_}))
     {
-        at_ = static_cast<std::size_t>(end - document_.data());
+        at_ = end;
         return;
     }
     // A malformed character may take the line feed along.
