@@ -6,8 +6,14 @@
 #include <iostream>
 
 #define main listenerMain
+namespace
+{
 namespace listener
 {
 #include "listener_config.cpp"
 } // namespace listener
+
+[[maybe_unused]] constexpr auto itsMain = &listener::listenerMain;
+
+} // namespace
 #undef main

@@ -179,3 +179,19 @@ TEST(ListenerConfig, tellsWhatIsDefinedTwice)
          "4:1: the key 'x' is defined twice (it is defined at 3:1 first)\n"},
     });
 }
+
+// The program of its own: compiled without exceptions, linked to the shared library.
+TEST(ListenerConfig, isAProgram)
+{
+    const test::TemporaryDirectory directory;
+    const std::string file =
+        directory.write("app.toml", "name = 'a'\n\n[dns]\ntimeout = 5.0\n\n[log]\nlevel = 'info'\n"
+                                    "\n[[listener]]\nport = 80\n\n[[listener]]\nport = 80800\n");
+    const test::ProgramRun bad = test::runProgram({VORN_LISTENER_CONFIG, file});
+    EXPECT_EQ(bad.status, 1);
+    EXPECT_EQ(bad.standardError, file + ":13:8: listener[1].port: 80800 is not in 1 to 65535\n");
+    const test::ProgramRun good =
+        test::runProgram({VORN_LISTENER_CONFIG, directory.write("good.toml", "name = 'a'\n")});
+    EXPECT_EQ(good.status, 0);
+    EXPECT_EQ(good.standardError, "");
+}

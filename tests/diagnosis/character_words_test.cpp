@@ -26,13 +26,13 @@ TEST(CharacterWords, marks)
         {"\x7f"
          "a = 1\n",
          {{"1:1-1:2", "stray-character", "the character U+007F is not allowed here",
-           "Control characters other than tabs and line breaks may only appear in strings and "
-           "comments."}}},
+           "Of control characters only tabs and line breaks may appear outside of strings "
+           "and comments."}}},
         {"\x1f"
          "a = 1\n",
          {{"1:1-1:2", "stray-character", "the character U+001F is not allowed here",
-           "Control characters other than tabs and line breaks may only appear in strings and "
-           "comments."}}},
+           "Of control characters only tabs and line breaks may appear outside of strings "
+           "and comments."}}},
         {"a \xc2\x85 = 1\n",
          {{"1:3-1:4", "stray-character", "the character U+0085 is not allowed here",
            "Bare keys consist of A-Z a-z 0-9 _ and -. Other keys, and all strings, need quotes."}}},

@@ -146,6 +146,9 @@ void expectDiagnosed(const std::string& text, Tally& tally)
                            [](const toml::Finding& one)
                            { return one.severity == toml::Severity::error; }),
               reading.accepted);
+    test::EventRecorder visitor;
+    toml::visitOrDiagnose(text, visitor, all);
+    EXPECT_EQ(visitor.events(), reading.accepted ? reading.events : test::Events());
     const diagnosis::Recognition found = diagnosis::recognise(text, diagnosis::wholeOf(text));
     expectLogged(found, reading, tally);
     expectSameTokens(text, found);

@@ -1,4 +1,4 @@
-#include "escapes.h"
+#include "unescaping.h"
 
 #include <cstdint>
 
