@@ -63,7 +63,9 @@ void Closing::findMissing(std::uint32_t number)
     for (std::uint32_t node = 1; node < table.nodes.size(); ++node)
     {
         const Entry* const entry = table.entryOf(node);
-        if (entry == nullptr || containers_.member(number, node).isThere)
+        const bool matters =
+            entry != nullptr && (entry->isRequired || entry->type->kind == Kind::table);
+        if (!matters || containers_.member(number, node).isThere)
         {
             continue;
         }
@@ -73,7 +75,7 @@ void Closing::findMissing(std::uint32_t number)
         {
             report(number, spot, std::move(path), "is missing", Problems::Order::last);
         }
-        else if (entry->type->kind == Kind::table)
+        else
         {
             findMissingIn(*entry->table, path, number, spot);
         }

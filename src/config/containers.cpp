@@ -36,8 +36,7 @@ std::uint32_t Containers::find(const Slot& slot) const
     }
     if (slot.key != nullptr)
     {
-        const auto found = inMaps_.find(slot.object);
-        return found == inMaps_.end() ? none : found->second;
+        return inMaps_.find(slot.object, none);
     }
     return slot.node == none ? none : member(slot.parent, slot.node).container;
 }
@@ -58,7 +57,7 @@ std::uint32_t Containers::open(const Slot& slot, const Type& type, void* object,
     containers_.push_back(opened);
     if (slot.key != nullptr)
     {
-        inMaps_[slot.object] = number;
+        inMaps_.insert(slot.object, number);
         containers_[number].definition.add(slot.how);
     }
     else if (slot.node != none)

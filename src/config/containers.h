@@ -3,11 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory_resource>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
+#include "address_table.h"
 #include "problems.h"
 #include "table.h"
 
@@ -112,9 +111,7 @@ public:
 private:
     std::vector<Container> containers_;
     std::vector<Member> members_;
-    // Blocks are used again, so that their number does not grow with the document.
-    std::pmr::unsynchronized_pool_resource blocks_;
-    std::pmr::unordered_map<const void*, std::uint32_t> inMaps_{&blocks_};
+    AddressTable inMaps_;
 };
 
 } // namespace vorn::parsers::toml::config

@@ -204,6 +204,7 @@ void Navigation::endSource()
 
 void Navigation::report(const Slot& slot, Spot spot, std::string&& message, std::string&& hint)
 {
+    isSuspicious_ = true; // What the value has is perhaps not looked at.
     Problem problem;
     problem.path = containers_.pathOf(slot);
     problem.message = std::move(message);
@@ -237,14 +238,23 @@ void Navigation::reportUnknown(Position position, const Key& key)
     {
         return;
     }
+    Problem problem;
+    problem.severity = unknown == Unknown::warning ? Severity::warning : Severity::error;
+    if (problems_.takes(problem))
+    {
+        describeUnknown(position, key, problem);
+    }
+    problems_.add(spotOf(key.offset), std::move(problem));
+    if (unknown == Unknown::problem)
+    {
+        containers_.damage(position.container);
+    }
+}
+
+void Navigation::describeUnknown(Position position, const Key& key, Problem& problem) const
+{
     const Container& container = containers_[position.container];
     const Node& node = container.table->nodes[position.node];
-    std::vector<std::string_view> names;
-    for (const std::uint32_t child : node.children)
-    {
-        names.emplace_back(container.table->nodes[child].name);
-    }
-    Problem problem;
     problem.path = containers_.pathOf(position.container);
     if (!node.path.empty())
     {
@@ -252,13 +262,12 @@ void Navigation::reportUnknown(Position position, const Key& key)
     }
     addKey(problem.path, key.name);
     problem.message = "unknown key";
-    problem.hint = didYouMean(key.name, names);
-    problem.severity = unknown == Unknown::warning ? Severity::warning : Severity::error;
-    problems_.add(spotOf(key.offset), std::move(problem));
-    if (unknown == Unknown::problem)
+    std::vector<std::string_view> names;
+    for (const std::uint32_t child : node.children)
     {
-        containers_.damage(position.container);
+        names.emplace_back(container.table->nodes[child].name);
     }
+    problem.hint = didYouMean(key.name, names);
 }
 
 } // namespace vorn::parsers::toml::config

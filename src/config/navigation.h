@@ -84,6 +84,7 @@ public:
 private:
     void findInMap(std::uint32_t map, std::string_view name, Slot& slot);
     void reportUnknown(Position position, const Key& key);
+    void describeUnknown(Position position, const Key& key, Problem& problem) const;
     void reportKind(const Slot& slot, Spot spot, const char* found);
     Unknown unknownAt(std::uint32_t container) const;
 

@@ -14,11 +14,17 @@ namespace config
 
 void Problems::add(Spot spot, Problem&& problem, Order order)
 {
-    hasErrors_ = hasErrors_ || problem.severity == Severity::error;
-    if (found_.size() < max)
+    if (!takes(problem))
     {
-        found_.push_back({order, spot, std::move(problem)});
+        return;
     }
+    hasErrors_ = hasErrors_ || problem.severity == Severity::error;
+    if (found_.size() == max)
+    {
+        // Warnings do not keep the only error from being told.
+        found_.pop_back();
+    }
+    found_.push_back({order, spot, std::move(problem)});
 }
 
 std::vector<Problem> Problems::take(const std::vector<Source>& sources)

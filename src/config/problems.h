@@ -40,8 +40,11 @@ public:
 
     void add(Spot spot, Problem&& problem, Order order = Order::byPlace);
 
-    // Whether one of them keeps the configuration from being filled.
-    bool haveErrors() const { return hasErrors_; }
+    // Whether a problem of this severity would be kept.
+    bool takes(const Problem& problem) const
+    {
+        return found_.size() < max || (problem.severity == Severity::error && !hasErrors_);
+    }
 
     // In the order of the documents, with lines and columns.
     std::vector<Problem> take(const std::vector<Source>& sources);

@@ -88,6 +88,21 @@ private:
     std::string content_;
 };
 
+// Nearly all strings are of one line, without anything that is not content itself.
+bool isPlain(std::string_view text)
+{
+    const char quote = text[0];
+    const char escape = quote == '"' ? '\\' : quote;
+    for (const char c : text.substr(1, text.size() - 2))
+    {
+        if (c == quote || c == escape || c == '\n')
+        {
+            return false;
+        }
+    }
+    return text.back() == quote;
+}
+
 } // namespace
 
 std::optional<std::string> stringValue(std::string_view text)
@@ -95,6 +110,10 @@ std::optional<std::string> stringValue(std::string_view text)
     if (text.empty() || (text[0] != '"' && text[0] != '\''))
     {
         return std::nullopt;
+    }
+    if (text.size() >= 2 && isPlain(text))
+    {
+        return std::optional<std::string>(std::in_place, text.substr(1, text.size() - 2));
     }
     return StringReading(text).content();
 }

@@ -10,19 +10,18 @@ namespace vorn::parsers::toml::config
 namespace
 {
 
-// Names in an order that is found out by their sizes, most of the time.
-bool isBefore(std::string_view one, std::string_view other)
+// Tells most names apart: a table of the right size is looked through faster by these than by the
+// names, in any order.
+std::uint32_t markOf(std::string_view name)
 {
-    return one.size() == other.size() ? one < other : one.size() < other.size();
-}
-
-// The first child of a node that does not come before a name.
-auto placeOf(const Table& table, std::uint32_t node, std::string_view name)
-{
-    const std::vector<std::uint32_t>& children = table.nodes[node].children;
-    return std::lower_bound(children.begin(), children.end(), name,
-                            [&table](std::uint32_t child, std::string_view wanted)
-                            { return isBefore(table.nodes[child].name, wanted); });
+    if (name.empty())
+    {
+        return 0;
+    }
+    const auto byte = [name](std::size_t at)
+    { return std::uint32_t{static_cast<unsigned char>(name[at])}; };
+    return byte(0) | byte(name.size() / 2) << 8U | byte(name.size() - 1) << 16U |
+           static_cast<std::uint32_t>(name.size()) << 24U;
 }
 
 std::uint32_t addNode(Table& table, std::uint32_t parent, const std::string& name)
@@ -37,7 +36,8 @@ std::uint32_t addNode(Table& table, std::uint32_t parent, const std::string& nam
     node.path = table.nodes[parent].path;
     addKey(node.path, name);
     node.parent = parent;
-    table.nodes[parent].children.insert(placeOf(table, parent, name), added);
+    table.nodes[parent].children.push_back(added);
+    table.nodes[parent].marks.push_back(markOf(name));
     table.nodes.push_back(std::move(node));
     return added;
 }
@@ -74,8 +74,16 @@ bool isFree(const Table& table, std::uint32_t node)
 
 std::uint32_t Table::child(std::uint32_t node, std::string_view name) const
 {
-    const auto place = placeOf(*this, node, name);
-    return place != nodes[node].children.end() && nodes[*place].name == name ? *place : none;
+    const Node& parent = nodes[node];
+    const std::uint32_t mark = markOf(name);
+    for (std::size_t i = 0; i < parent.marks.size(); ++i)
+    {
+        if (parent.marks[i] == mark && nodes[parent.children[i]].name == name)
+        {
+            return parent.children[i];
+        }
+    }
+    return none;
 }
 
 std::uint32_t Table::find(const std::string& path) const

@@ -22,8 +22,9 @@ struct Node
     std::string name;
     std::string path; // from the table's start, as one writes it in a document
     std::uint32_t parent = none;
-    std::uint32_t entry = none;          // of a key that fills a member
-    std::vector<std::uint32_t> children; // by the sizes of their names, then by the names
+    std::uint32_t entry = none; // of a key that fills a member
+    std::vector<std::uint32_t> children;
+    std::vector<std::uint32_t> marks; // of the children's names
 };
 
 // A check of the whole struct, and the keys that it is about.
