@@ -1,28 +1,48 @@
 #include "closing.h"
 
+#include <cstddef>
 #include <utility>
+#include <vector>
 
 namespace vorn::parsers::toml::config
 {
 namespace
 {
 
-std::string joined(const std::string& path, const std::string& rest)
+std::string joined(const std::string& start, const std::string& path)
 {
-    return path.empty() ? rest : path + '.' + rest;
+    return start.empty() ? path : start + '.' + path;
 }
 
 } // namespace
 
+// Containers are not deeper than the schema.
+// NOLINTNEXTLINE(misc-no-recursion)
 void Closing::close(std::uint32_t number)
 {
-    // Those within were opened later.
-    for (std::uint32_t inner = containers_.size(); inner-- > number;)
+    while (containers_[number].firstChild != none)
     {
-        if (inner < containers_.size() && containers_.isOpen(inner) &&
-            containers_.isWithin(inner, number))
+        close(containers_[number].firstChild);
+    }
+    closeOne(number);
+}
+
+void Closing::closeLists()
+{
+    // What is within another one was opened after it.
+    std::vector<bool> areInLists(containers_.size());
+    for (std::uint32_t number = 0; number < containers_.size(); ++number)
+    {
+        const Container& container = containers_[number];
+        const std::uint32_t parent = container.slot.parent;
+        areInLists[number] = containers_.isOpen(number) && (container.type->kind == Kind::list ||
+                                                            (parent != none && areInLists[parent]));
+    }
+    for (std::size_t number = areInLists.size(); number-- > 0;)
+    {
+        if (areInLists[number])
         {
-            closeOne(inner);
+            closeOne(static_cast<std::uint32_t>(number));
         }
     }
 }
@@ -82,7 +102,9 @@ void Closing::findMissing(std::uint32_t number)
     }
 }
 
-// A struct that is there though the document has no table for it.
+// A struct that is there though the document has no table for it.  Schemas cannot be within
+// themselves.
+// NOLINTNEXTLINE(misc-no-recursion)
 void Closing::findMissingIn(const Table& table, const std::string& path, std::uint32_t number,
                             const Spot& spot)
 {

@@ -21,6 +21,8 @@ public:
     // Closes a container with all in it: says which keys are missing, whether a list has too few
     // or too many elements, and what the schema's checks say.
     void close(std::uint32_t number);
+    // Closes all lists, likewise.
+    void closeLists();
 
 private:
     void closeOne(std::uint32_t number);

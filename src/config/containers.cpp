@@ -64,20 +64,41 @@ std::uint32_t Containers::open(const Slot& slot, const Type& type, void* object,
     {
         member(slot.parent, slot.node).container = number;
     }
-    else if (slot.parent != none)
-    {
-        containers_[slot.parent].last = number;
-    }
+    link(number);
     return number;
 }
 
-bool Containers::isWithin(std::uint32_t number, std::uint32_t outer) const
+void Containers::link(std::uint32_t number)
 {
-    while (number != none && number > outer)
+    Container& linked = containers_[number];
+    if (linked.slot.parent == none)
     {
-        number = containers_[number].slot.parent;
+        return;
     }
-    return number == outer;
+    Container& parent = containers_[linked.slot.parent];
+    linked.next = parent.firstChild;
+    if (linked.next != none)
+    {
+        containers_[linked.next].previous = number;
+    }
+    parent.firstChild = number;
+}
+
+void Containers::unlink(std::uint32_t number)
+{
+    const Container& unlinked = containers_[number];
+    if (unlinked.next != none)
+    {
+        containers_[unlinked.next].previous = unlinked.previous;
+    }
+    if (unlinked.previous != none)
+    {
+        containers_[unlinked.previous].next = unlinked.next;
+    }
+    else if (unlinked.slot.parent != none)
+    {
+        containers_[unlinked.slot.parent].firstChild = unlinked.next;
+    }
 }
 
 void Containers::close(std::uint32_t number)
@@ -91,10 +112,7 @@ void Containers::close(std::uint32_t number)
     {
         member(slot.parent, slot.node).container = none;
     }
-    else if (slot.parent != none)
-    {
-        containers_[slot.parent].last = none;
-    }
+    unlink(number);
     containers_[number].object = nullptr;
     while (!containers_.empty() && containers_.back().object == nullptr)
     {
@@ -118,12 +136,14 @@ void Containers::clearDefinitions()
     {
         container.definition.clear();
     }
-    for (Member& member : members_)
+    for (Member& one : members_)
     {
-        member.definition.clear();
+        one.definition.clear();
     }
 }
 
+// Containers are not deeper than the schema.
+// NOLINTNEXTLINE(misc-no-recursion)
 std::string Containers::pathOf(const Slot& slot) const
 {
     std::string path = slot.parent == none ? std::string() : pathOf(slot.parent);
@@ -143,6 +163,7 @@ std::string Containers::pathOf(const Slot& slot) const
     return path;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): likewise.
 std::string Containers::pathOf(std::uint32_t number) const
 {
     return pathOf(containers_[number].slot);

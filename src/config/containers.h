@@ -57,11 +57,13 @@ struct Container
     const Type* type = nullptr; // of the slot, without optionals
     void* object = nullptr;     // likewise
     const Table* table = nullptr;
-    std::size_t firstMember = 0; // tables: of the nodes
-    std::uint32_t count = 0;     // lists: of elements
-    std::uint32_t last = none;   // lists: the last element, if that is a container
-    Definition definition;       // of what is in a map
-    bool isDamaged = false;      // there is an error within
+    std::size_t firstMember = 0;     // tables: of the nodes
+    std::uint32_t count = 0;         // lists: of elements
+    std::uint32_t firstChild = none; // the one within that was opened last
+    std::uint32_t next = none;       // of the same parent, opened before
+    std::uint32_t previous = none;
+    Definition definition;  // of what is in a map
+    bool isDamaged = false; // there is an error within
 };
 
 // What a document has of a node of a table.
@@ -96,8 +98,6 @@ public:
     std::uint32_t size() const { return static_cast<std::uint32_t>(containers_.size()); }
     bool isOpen(std::uint32_t number) const { return containers_[number].object != nullptr; }
 
-    // Whether a container is another one, or in it.
-    bool isWithin(std::uint32_t number, std::uint32_t outer) const;
     // Forgets a container in which no other one is open.
     void close(std::uint32_t number);
     void damage(std::uint32_t number);
@@ -109,6 +109,9 @@ public:
     std::string pathOf(std::uint32_t number) const;
 
 private:
+    void link(std::uint32_t number);
+    void unlink(std::uint32_t number);
+
     std::vector<Container> containers_;
     std::vector<Member> members_;
     AddressTable inMaps_;

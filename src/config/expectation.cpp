@@ -1,10 +1,12 @@
 #include "expectation.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
 #include <string_view>
+#include <tuple>
 
 #include "scalar.h"
 #include "shown_text.h"
@@ -14,6 +16,7 @@ namespace vorn::parsers::toml::config
 namespace
 {
 
+// NOLINTNEXTLINE(misc-no-recursion): types are not deeper than their author wrote them.
 std::string nounOf(const Type& type, const Entry& entry, bool isPlural)
 {
     const std::string_view end = isPlural ? "s" : "";
@@ -124,25 +127,21 @@ std::string textOf(double number)
 
 std::string nameOfUnit(std::intmax_t numerator, std::intmax_t denominator)
 {
-    struct Named
+    using Unit = std::tuple<std::intmax_t, std::intmax_t, const char*>;
+    static constexpr std::array<Unit, 7> units{{{1, 1000000000, "nanoseconds"},
+                                                {1, 1000000, "microseconds"},
+                                                {1, 1000, "milliseconds"},
+                                                {1, 1, "seconds"},
+                                                {60, 1, "minutes"},
+                                                {3600, 1, "hours"},
+                                                {86400, 1, "days"}}};
+    const auto* const found =
+        std::find_if(units.begin(), units.end(),
+                     [numerator, denominator](const Unit& one)
+                     { return std::get<0>(one) == numerator && std::get<1>(one) == denominator; });
+    if (found != units.end())
     {
-        std::intmax_t numerator;
-        std::intmax_t denominator;
-        const char* name;
-    };
-    static constexpr std::array<Named, 7> units{{{1, 1000000000, "nanoseconds"},
-                                                 {1, 1000000, "microseconds"},
-                                                 {1, 1000, "milliseconds"},
-                                                 {1, 1, "seconds"},
-                                                 {60, 1, "minutes"},
-                                                 {3600, 1, "hours"},
-                                                 {86400, 1, "days"}}};
-    for (const Named& unit : units)
-    {
-        if (unit.numerator == numerator && unit.denominator == denominator)
-        {
-            return unit.name;
-        }
+        return std::get<2>(*found);
     }
     const std::string count = std::to_string(numerator);
     return (denominator == 1 ? count : count + '/' + std::to_string(denominator)) + " seconds";

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <numeric>
 #include <system_error>
 
 #include "digits.h"
@@ -67,12 +68,12 @@ bool isFloat(std::string_view text)
 // cut, far from what any number of digits could make up for.
 std::int64_t exponentOf(std::string_view text)
 {
-    constexpr std::int64_t bound = std::numeric_limits<std::int64_t>::max() / 100;
-    std::int64_t exponent = 0;
-    for (const char c : text)
-    {
-        exponent = config::isDigit(c) ? std::min(exponent * 10 + (c - '0'), bound) : exponent;
-    }
+    static constexpr std::int64_t bound = std::numeric_limits<std::int64_t>::max() / 100;
+    const std::int64_t exponent =
+        std::accumulate(text.begin(), text.end(), std::int64_t{0},
+                        [](std::int64_t sum, char c) {
+                            return config::isDigit(c) ? std::min(sum * 10 + (c - '0'), bound) : sum;
+                        });
     return !text.empty() && text[0] == '-' ? -exponent : exponent;
 }
 

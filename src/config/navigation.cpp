@@ -1,5 +1,7 @@
 #include "navigation.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -31,11 +33,11 @@ Content contentOf(const Slot& slot)
 Navigation::Navigation(const Table& table, void* object, Problems& problems)
     : problems_(problems), closing_(containers_, problems)
 {
-    static constexpr Type root{Kind::table};
+    static constexpr Type rootType{Kind::table};
     Slot slot;
-    slot.type = &root;
+    slot.type = &rootType;
     slot.object = object;
-    containers_.open(slot, root, object, &table);
+    containers_.open(slot, rootType, object, &table);
 }
 
 Slot Navigation::find(Position position, const Key& key, How how)
@@ -117,12 +119,12 @@ Position Navigation::pass(Position position, const Key& key, How how)
         return enter(slot, slot.spot, table);
     }
     const std::uint32_t list = containers_.find(slot);
-    if (list == none || containers_[list].last == none)
+    if (list == none || containers_[list].firstChild == none)
     {
         reportKind(slot, slot.spot, table);
         return {};
     }
-    return {containers_[list].last};
+    return {containers_[list].firstChild};
 }
 
 Position Navigation::header(Position position, const Key& key)
@@ -183,7 +185,7 @@ Slot Navigation::append(std::uint32_t list, std::size_t offset)
 
 void Navigation::closeElement(std::uint32_t list)
 {
-    if (const std::uint32_t last = containers_[list].last; last != none)
+    if (const std::uint32_t last = containers_[list].firstChild; last != none)
     {
         closing_.close(last);
     }
@@ -191,14 +193,7 @@ void Navigation::closeElement(std::uint32_t list)
 
 void Navigation::endSource()
 {
-    for (std::uint32_t number = containers_.size(); number-- > 0;)
-    {
-        if (number < containers_.size() && containers_.isOpen(number) &&
-            containers_[number].type->kind == Kind::list)
-        {
-            closing_.close(number);
-        }
-    }
+    closing_.closeLists();
     containers_.clearDefinitions();
 }
 
@@ -263,10 +258,9 @@ void Navigation::describeUnknown(Position position, const Key& key, Problem& pro
     addKey(problem.path, key.name);
     problem.message = "unknown key";
     std::vector<std::string_view> names;
-    for (const std::uint32_t child : node.children)
-    {
-        names.emplace_back(container.table->nodes[child].name);
-    }
+    std::transform(node.children.begin(), node.children.end(), std::back_inserter(names),
+                   [&container](std::uint32_t child) -> std::string_view
+                   { return container.table->nodes[child].name; });
     problem.hint = didYouMean(key.name, names);
 }
 

@@ -1,6 +1,7 @@
 #include "problems.h"
 
 #include <algorithm>
+#include <iterator>
 #include <ostream>
 #include <tuple>
 #include <utility>
@@ -35,10 +36,8 @@ std::vector<Problem> Problems::take(const std::vector<Source>& sources)
                      [&key](const Found& one, const Found& other)
                      { return key(one) < key(other); });
     std::vector<LineCounter> counters;
-    for (const Source& source : sources)
-    {
-        counters.emplace_back(*source.text);
-    }
+    std::transform(sources.begin(), sources.end(), std::back_inserter(counters),
+                   [](const Source& source) { return LineCounter(*source.text); });
     std::vector<Problem> problems;
     for (Found& found : found_)
     {

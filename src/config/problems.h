@@ -52,7 +52,7 @@ public:
 private:
     struct Found
     {
-        Order order;
+        Order order = Order::byPlace;
         Spot spot;
         Problem problem;
     };

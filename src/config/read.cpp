@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdint>
 #include <iterator>
 #include <string>
@@ -112,10 +113,10 @@ std::vector<Problem> readFiles(const std::vector<FilePath>& files, bool mayBeMis
     const std::vector<InputFile> inputs = readInputs(files, mayBeMissing, problems);
     const std::string nothing;
     std::vector<Source> sources;
-    for (const InputFile& input : inputs)
-    {
-        sources.push_back({input.path, &input.text});
-    }
+    std::transform(inputs.begin(), inputs.end(), std::back_inserter(sources),
+                   [](const InputFile& input) {
+                       return Source{input.path, &input.text};
+                   });
     if (sources.empty() && problems.empty())
     {
         // What is missing has to have a place.

@@ -1,5 +1,6 @@
 #include <vorn/parsers/toml_values.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -93,14 +94,9 @@ bool isPlain(std::string_view text)
 {
     const char quote = text[0];
     const char escape = quote == '"' ? '\\' : quote;
-    for (const char c : text.substr(1, text.size() - 2))
-    {
-        if (c == quote || c == escape || c == '\n')
-        {
-            return false;
-        }
-    }
-    return text.back() == quote;
+    return text.back() == quote &&
+           std::none_of(text.begin() + 1, text.end() - 1,
+                        [quote, escape](char c) { return c == quote || c == escape || c == '\n'; });
 }
 
 } // namespace

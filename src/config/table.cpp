@@ -1,6 +1,7 @@
 #include "table.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "key_path.h"
@@ -112,11 +113,10 @@ void addEntry(Table& table, Entry&& entry)
         table.mistakes.push_back(entry.path + " is not a key");
         return;
     }
-    std::uint32_t node = 0;
-    for (const std::string& name : *names)
-    {
-        node = addNode(table, node, name);
-    }
+    const std::uint32_t node =
+        std::accumulate(names->begin(), names->end(), std::uint32_t{0},
+                        [&table](std::uint32_t parent, const std::string& name)
+                        { return addNode(table, parent, name); });
     if (!isFree(table, node))
     {
         table.mistakes.push_back(entry.path + " has two meanings");
@@ -140,6 +140,7 @@ void setUnknownKeys(Table& table, Unknown unknown)
     table.unknown = unknown;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): schemas cannot be within themselves.
 std::vector<std::string> mistakesOf(const Table& table)
 {
     std::vector<std::string> mistakes = table.mistakes;

@@ -1,3 +1,5 @@
+// A client as it stands in a service.
+// clang-format off
 #include <vorn/parsers/toml_config.h>
 #include <iostream>
 using namespace vorn::parsers::toml;
