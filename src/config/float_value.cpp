@@ -71,7 +71,10 @@ std::int64_t exponentOf(std::string_view text)
     std::int64_t exponent = 0;
     for (const char c : text)
     {
-        exponent = config::isDigit(c) ? std::min(exponent * 10 + (c - '0'), bound) : exponent;
+        if (config::isDigit(c))
+        {
+            exponent = std::min(exponent * 10 + (c - '0'), bound);
+        }
     }
     return !text.empty() && text[0] == '-' ? -exponent : exponent;
 }

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "escapes.h"
+#include "string_escapes.h"
 
 namespace vorn::parsers::toml
 {

@@ -1,4 +1,4 @@
-#include "escapes.h"
+#include "string_escapes.h"
 
 #include <cstdint>
 
