@@ -185,13 +185,13 @@ public:
     void visitLocalTime(const char*) override {}
 };
 
+#if defined(__cpp_exceptions)
 // A visitor whose operations all throw: a std::logic_error that names the operation,
 // "visitFloat is not overridden".  Derive from it, and override everything that a document
 // may hold, including beginDocument and endDocument.  Anything else ends the reading.
 //
 // The exception leaves visitTomlTree() like any other that a visitor throws.  (A program that is
 // compiled without exceptions has no such visitor.)
-#if defined(__cpp_exceptions)
 class VORN_PARSERS_API StrictTomlTreeVisitor : public ITomlTreeVisitor
 {
 public:
