@@ -1,8 +1,9 @@
 # Debian packages, made by cpack; scripts/package says how they are built.
 #
 # libvorn-parsers0 has the library, libvorn-toml-diagnosis0 that of the diagnoses,
-# libvorn-parsers-dev what programs are compiled with for both, vorn-toml the tool, and
-# libvorn-utils0 the host's stand-in for the device's utility library.
+# libvorn-toml-config0 that of values and places, libvorn-parsers-dev what programs are compiled
+# with for all of them, vorn-toml the tool, and libvorn-utils0 the host's stand-in for the device's
+# utility library.
 set(VORN_UTILS_PACKAGE "" CACHE STRING
     "The Debian package of VORN_UTILS_LIBRARY, for libvorn-parsers0 to depend on")
 
@@ -17,7 +18,7 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_GROUPING IGNORE)
-set(CPACK_COMPONENTS_ALL Runtime Diagnosis Development Tool)
+set(CPACK_COMPONENTS_ALL Runtime Diagnosis Config Development Tool)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 if(CMAKE_LIBRARY_ARCHITECTURE STREQUAL arm-linux-gnueabihf)
@@ -49,6 +50,7 @@ endfunction()
 set(runtime "libc6 (>= 2.36)" "libgcc-s1 (>= 3.5)" "libstdc++6 (>= 12)")
 set(library_package libvorn-parsers${VORN_PARSERS_SOVERSION})
 set(diagnosis_package libvorn-toml-diagnosis${VORN_TOML_DIAGNOSIS_SOVERSION})
+set(config_package libvorn-toml-config${VORN_TOML_CONFIG_SOVERSION})
 # Of one build: the diagnosis has parts of the other library, and the tool has of both.
 set(libraries
     "${library_package} (= ${PROJECT_VERSION})" "${diagnosis_package} (= ${PROJECT_VERSION})")
@@ -73,10 +75,15 @@ vorn_debian_package(Diagnosis ${diagnosis_package} libs
     "libantlr3c-3.4-0" ${runtime} "${library_package} (= ${PROJECT_VERSION})")
 vorn_debian_library(Diagnosis libvorn_toml_diagnosis ${VORN_TOML_DIAGNOSIS_SOVERSION}
     ${diagnosis_package})
+vorn_debian_package(Config ${config_package} libs
+    "event reader for TOML - values and places"
+    "It turns the texts of a TOML document into checked values, and says where they\nstand."
+    ${runtime} ${libraries})
+vorn_debian_library(Config libvorn_toml_config ${VORN_TOML_CONFIG_SOVERSION} ${config_package})
 vorn_debian_package(Development libvorn-parsers-dev libdevel
     "event reader for TOML - development files"
-    "The headers of libvorn_parsers and libvorn_toml_diagnosis, their CMake package\nand their pkg-config files."
-    ${libraries})
+    "The headers of libvorn_parsers, libvorn_toml_diagnosis and libvorn_toml_config,\ntheir CMake package and their pkg-config files."
+    ${libraries} "${config_package} (= ${PROJECT_VERSION})")
 vorn_debian_package(Tool vorn-toml utils
     "event reader for TOML - command-line tool"
     "It prints what libvorn_parsers reports of TOML documents, and tells whether it\naccepts them."

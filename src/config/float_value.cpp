@@ -68,12 +68,15 @@ bool isFloat(std::string_view text)
 // cut, far from what any number of digits could make up for.
 std::int64_t exponentOf(std::string_view text)
 {
-    static constexpr std::int64_t bound = std::numeric_limits<std::int64_t>::max() / 100;
-    const std::int64_t exponent =
-        std::accumulate(text.begin(), text.end(), std::int64_t{0},
-                        [](std::int64_t sum, char c) {
-                            return config::isDigit(c) ? std::min(sum * 10 + (c - '0'), bound) : sum;
-                        });
+    constexpr std::int64_t bound = std::numeric_limits<std::int64_t>::max() / 100;
+    std::int64_t exponent = 0;
+    for (const char c : text)
+    {
+        if (config::isDigit(c))
+        {
+            exponent = std::min(exponent * 10 + (c - '0'), bound);
+        }
+    }
     return !text.empty() && text[0] == '-' ? -exponent : exponent;
 }
 

@@ -97,9 +97,9 @@ private:
     static constexpr std::array<Kind, 256> kinds() noexcept
     {
         std::array<Kind, 256> result = {};
-        for (const unsigned char c : {' ', '\t', '\n', '\r', ',', '=', '.'})
+        for (const char c : {' ', '\t', '\n', '\r', ',', '=', '.'})
         {
-            result[c] = separator;
+            result[static_cast<unsigned char>(c)] = separator;
         }
         result['#'] = special;
         for (std::size_t c = 0x80; c < result.size(); ++c)

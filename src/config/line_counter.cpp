@@ -56,14 +56,20 @@ void LineCounter::countColumns(std::size_t end) noexcept
         {
             std::memcpy(&word, document_.data() + offset_, sizeof(word));
         }
-        const bool isPlain = (word & highBits) == 0;
-        const std::size_t length = isPlain ? sizeof(word) : characterLength(document_, offset_);
+        if ((word & highBits) == 0)
+        {
+            offset_ += sizeof(word);
+            column_ += sizeof(word);
+            continue;
+        }
+        const bool isPlain = isAscii(document_[offset_]);
+        const std::size_t length = isPlain ? 1 : characterLength(document_, offset_);
         if (length > end - offset_)
         {
             return;
         }
         offset_ += length;
-        column_ += isPlain ? length : 1;
+        ++column_;
     }
 }
 

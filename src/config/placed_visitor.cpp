@@ -9,7 +9,10 @@ PlacedVisitor::~PlacedVisitor() = default;
 
 PlacedVisitor& PlacedVisitor::operator=(const PlacedVisitor& other)
 {
-    last_ = other.place();
+    if (this != &other)
+    {
+        last_ = other.place();
+    }
     return *this;
 }
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "unescaping.h"
+#include "string_escapes.h"
 
 namespace vorn::parsers::toml
 {

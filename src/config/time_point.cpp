@@ -34,8 +34,9 @@ std::optional<Clock::time_point> DateTime::toTimePoint() const noexcept
     {
         return std::nullopt;
     }
+    const int minuteOfDay = time->hour * 60 + time->minute;
     const std::int64_t minutes =
-        daysSinceEpoch(*date) * config::minutesOfDay + time->hour * 60 + time->minute - *offset;
+        daysSinceEpoch(*date) * config::minutesOfDay + minuteOfDay - *offset;
     std::int64_t seconds = minutes * 60 + time->second;
     std::int64_t fraction = time->nanosecond / (nanosecondsOfSecond / ticksOfSecond);
     // The second before the first one of the clock may be out of range, where what comes after it

@@ -106,6 +106,7 @@ TEST(Follower, TakesTokensWhole)
     const std::string document = "a.\"b\" = -1.5e+3\nc = 1979-05-27 07:32:00.5Z\nd=+inf,x";
     Follower follower(document);
     EXPECT_EQ(follower.token("a"), "a");
+    EXPECT_EQ(follower.next(), 2U);
     EXPECT_EQ(follower.string("\"b\""), "\"b\"");
     EXPECT_EQ(follower.position(), 2U);
     EXPECT_EQ(follower.token("-1.5e+3"), "-1.5e+3");

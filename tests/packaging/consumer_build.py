@@ -7,7 +7,8 @@ import subprocess
 
 SOURCE = pathlib.Path(__file__).with_name("consumer")
 # The programs there, and the library that each one links.
-LIBRARY_OF = {"consumer": "vorn_parsers", "explain": "vorn_toml_diagnosis"}
+LIBRARY_OF = {"consumer": "vorn_parsers", "explain": "vorn_toml_diagnosis",
+              "place": "vorn_toml_config"}
 OUTPUT = """\
 31
 accepted
@@ -29,6 +30,8 @@ config.toml:12:10: the array is empty
    12 | names = []
       |          ^
 """
+# What that of the values and places prints.
+PLACING = "2:8: 80800 is not a port\n"
 
 
 class Failure(Exception):
@@ -102,3 +105,10 @@ def check_explanation(program, within=(), **variables):
     said = run([*within, program], env=clean_environment(**variables))
     if said != EXPLANATION:
         raise Failure(f"{program} prints\n{said}and not\n{EXPLANATION}")
+
+
+def check_placing(program, within=(), **variables):
+    """Runs the client of the values and places."""
+    said = run([*within, program], env=clean_environment(**variables))
+    if said != PLACING:
+        raise Failure(f"{program} prints\n{said}and not\n{PLACING}")

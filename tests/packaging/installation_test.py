@@ -14,11 +14,13 @@ import textwrap
 from consumer_build import (
     EXPLANATION,
     LIBRARY_OF,
+    PLACING,
     SOURCE,
     Failure,
     build_with_cmake,
     build_with_pkg_config,
     check_explanation,
+    check_placing,
     check_run,
     clean_environment,
     run,
@@ -31,19 +33,30 @@ COMPONENTS = {
         "LIB/libvorn_toml_diagnosis.so.DIAGNOSIS_SONUMBER",
         "LIB/libvorn_toml_diagnosis.so.VERSION",
     ],
+    "Config": [
+        "LIB/libvorn_toml_config.so.CONFIG_SONUMBER",
+        "LIB/libvorn_toml_config.so.VERSION",
+    ],
     "Development": [
         "LIB/cmake/vorn_parsers/vorn_parsersConfig.cmake",
         "LIB/cmake/vorn_parsers/vorn_parsersConfigVersion.cmake",
         "LIB/cmake/vorn_parsers/vorn_parsersTargets-TYPE.cmake",
         "LIB/cmake/vorn_parsers/vorn_parsersTargets.cmake",
+        "LIB/cmake/vorn_parsers/vorn_toml_configTargets-TYPE.cmake",
+        "LIB/cmake/vorn_parsers/vorn_toml_configTargets.cmake",
         "LIB/cmake/vorn_parsers/vorn_toml_diagnosisTargets-TYPE.cmake",
         "LIB/cmake/vorn_parsers/vorn_toml_diagnosisTargets.cmake",
         "LIB/libvorn_parsers.so",
+        "LIB/libvorn_toml_config.so",
         "LIB/libvorn_toml_diagnosis.so",
         "LIB/pkgconfig/vorn_parsers.pc",
+        "LIB/pkgconfig/vorn_toml_config.pc",
         "LIB/pkgconfig/vorn_toml_diagnosis.pc",
         "include/vorn/parsers/toml.h",
+        "include/vorn/parsers/toml_config.h",
         "include/vorn/parsers/toml_diagnosis.h",
+        "include/vorn/parsers/toml_places.h",
+        "include/vorn/parsers/toml_values.h",
     ],
     "Tool": [
         "bin/vorn-toml",
@@ -52,6 +65,8 @@ COMPONENTS = {
     ],
     "HostUtils": ["LIB/libvorn_utils.so.0", "LIB/libvorn_utils.so.VERSION"],
 }
+# The libraries that another one's headers need.
+REQUIRED_BY = {"vorn_toml_config": ("vorn_parsers", "vorn_toml_diagnosis")}
 
 
 def install(options, component, prefix):
@@ -66,6 +81,7 @@ def check_files(options, component, prefix):
     stand_ins = {
         "LIB": options.libdir,
         "DIAGNOSIS_SONUMBER": options.diagnosis_soversion,
+        "CONFIG_SONUMBER": options.config_soversion,
         "SONUMBER": options.soversion,
         "VERSION": options.version,
         "TYPE": options.build_type.lower(),
@@ -106,18 +122,21 @@ def check_package_is_found(prefix, directory, version):
 
 
 def check_pkg_config(prefix, libdir):
-    """The pkg-config files name this prefix and nothing beyond their libraries."""
+    """The pkg-config files name this prefix, and nothing beyond their libraries and those that
+    their headers need."""
     for library in LIBRARY_OF.values():
         check_pkg_config_of(library, prefix, libdir)
 
 
 def check_pkg_config_of(library, prefix, libdir):
     environment = clean_environment(PKG_CONFIG_PATH=f"{prefix}/{libdir}/pkgconfig")
+    required = REQUIRED_BY.get(library, ())
+    libraries = " ".join(f"-l{name}" for name in (library, *required))
     for arguments, expected in (
-        (["--libs"], f"-L{prefix}/{libdir} -l{library}"),
-        (["--static", "--libs"], f"-L{prefix}/{libdir} -l{library}"),
+        (["--libs"], f"-L{prefix}/{libdir} {libraries}"),
+        (["--static", "--libs"], f"-L{prefix}/{libdir} {libraries}"),
         (["--cflags"], f"-I{prefix}/include"),
-        (["--print-requires", "--print-requires-private"], ""),
+        (["--print-requires", "--print-requires-private"], "\n".join(required)),
         (["--variable=libdir"], f"{prefix}/{libdir}"),
         (["--variable=includedir"], f"{prefix}/include"),
     ):
@@ -127,21 +146,26 @@ def check_pkg_config_of(library, prefix, libdir):
                           f"not {expected!r}")
 
 
-def check_without_diagnosis(options, directory):
-    """Where the diagnosis is left out, the other library can be used: its component alone fails."""
-    prefix = directory / "without-diagnosis"
-    for component in sorted(set(COMPONENTS) - {"Diagnosis", "Tool"}):
-        install(options, component, prefix)
-    found = f"-DCMAKE_PREFIX_PATH={prefix}"
-    program = build_with_cmake(directory / "parsers-alone", found)
-    check_run(program, options.version, "error vorn_parsers ")
+def check_is_missing(component, build, found):
     try:
-        build_with_cmake(directory / "no-diagnosis", found, "-DWANTED_COMPONENTS=toml_diagnosis")
+        build_with_cmake(build, found, f"-DWANTED_COMPONENTS={component}")
     except Failure as failure:
-        if "toml_diagnosis" in str(failure):
+        if component in str(failure):
             return
         raise
     raise Failure("find_package() finds a component that is not installed")
+
+
+def check_without(options, directory, left_out, missing):
+    """Where components are left out, the other libraries can be used: theirs alone fail."""
+    prefix = directory / f"without-{missing[0]}"
+    for component in sorted(set(COMPONENTS) - left_out):
+        install(options, component, prefix)
+    found = f"-DCMAKE_PREFIX_PATH={prefix}"
+    program = build_with_cmake(directory / f"parsers-without-{missing[0]}", found)
+    check_run(program, options.version, "error vorn_parsers ")
+    for component in missing:
+        check_is_missing(component, directory / f"{component}-of-{missing[0]}", found)
 
 
 def check_diagnosis(prefix, libraries, directory):
@@ -155,6 +179,19 @@ def check_diagnosis(prefix, libraries, directory):
     header = (prefix / "include/vorn/parsers/toml_diagnosis.h").read_text(encoding="ascii")
     if textwrap.indent(EXPLANATION, "//   ") not in header:
         raise Failure(f"the header's example prints something else than\n{EXPLANATION}")
+
+
+def check_places(prefix, libraries, directory):
+    """The client of the values and places, in both ways."""
+    program = build_with_cmake(directory / "place-by-cmake", f"-DCMAKE_PREFIX_PATH={prefix}",
+                               "-DWANTED_COMPONENTS=toml_config", target="place")
+    check_placing(program)
+    program = build_with_pkg_config(directory / "place-by-pkg-config",
+                                    path=libraries / "pkgconfig", target="place")
+    check_placing(program, LD_LIBRARY_PATH=str(libraries))
+    header = (prefix / "include/vorn/parsers/toml_places.h").read_text(encoding="ascii")
+    if f"// {PLACING}" not in header:
+        raise Failure(f"the header's example prints something else than\n{PLACING}")
 
 
 def check_installed(options, directory):
@@ -176,7 +213,11 @@ def check_installed(options, directory):
     program = build_with_pkg_config(directory / "by-pkg-config", path=libraries / "pkgconfig")
     check_run(program, options.version, mark, LD_LIBRARY_PATH=str(libraries))
     check_diagnosis(prefix, libraries, directory)
-    check_without_diagnosis(options, directory)
+    check_places(prefix, libraries, directory)
+    check_without(options, directory, {"Config"}, ["toml_config"])
+    check_without(options, directory, {"Diagnosis", "Tool", "Config"},
+                  ["toml_diagnosis", "toml_config"])
+    check_without(options, directory, {"Diagnosis", "Tool"}, ["toml_diagnosis", "toml_config"])
 
     # All of it at another place: what is installed finds its libraries from there, too.
     moved = directory / "moved"
@@ -193,8 +234,8 @@ def check_installed(options, directory):
 
 def main():
     parser = argparse.ArgumentParser()
-    for name in ("version", "soversion", "diagnosis-soversion", "build", "source", "build-type",
-                 "libdir", "document", "cmake"):
+    for name in ("version", "soversion", "diagnosis-soversion", "config-soversion", "build",
+                 "source", "build-type", "libdir", "document", "cmake"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
     try:

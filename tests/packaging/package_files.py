@@ -6,8 +6,8 @@ import tempfile
 
 from consumer_build import Failure, run
 
-NAMES = ["libvorn-parsers0", "libvorn-parsers-dev", "libvorn-toml-diagnosis0", "libvorn-utils0",
-         "vorn-toml"]
+NAMES = ["libvorn-parsers0", "libvorn-parsers-dev", "libvorn-toml-config0",
+         "libvorn-toml-diagnosis0", "libvorn-utils0", "vorn-toml"]
 # The packages of the libraries that are needed, on every processor.
 PACKAGE_OF = {
     "libantlr3c-3.4.so.0": "libantlr3c-3.4-0",
@@ -16,6 +16,7 @@ PACKAGE_OF = {
     "libm.so.6": "libc6",
     "libstdc++.so.6": "libstdc++6",
     "libvorn_parsers.so.0": "libvorn-parsers0",
+    "libvorn_toml_config.so.0": "libvorn-toml-config0",
     "libvorn_toml_diagnosis.so.0": "libvorn-toml-diagnosis0",
     "libvorn_utils.so.0": "libvorn-utils0",
 }

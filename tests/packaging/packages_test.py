@@ -17,6 +17,7 @@ from consumer_build import (
     build_with_cmake,
     build_with_pkg_config,
     check_explanation,
+    check_placing,
     check_run,
     run,
 )
@@ -32,8 +33,8 @@ def check_tool(root, packages):
     names = ("libvorn-utils0", "libvorn-parsers0", "libvorn-toml-diagnosis0", "vorn-toml")
     archives = [packages[name] for name in names]
     root.add(*sorted(set().union(*map(dependencies, archives)) - set(NAMES)))
-    for name in ("vorn-toml", "libvorn-parsers-dev", "libvorn-toml-diagnosis0",
-                 "libvorn-parsers0"):
+    for name in ("vorn-toml", "libvorn-parsers-dev", "libvorn-toml-config0",
+                 "libvorn-toml-diagnosis0", "libvorn-parsers0"):
         if not root.refuses(packages[name]):
             raise Failure(f"{name} can be installed without another of these packages")
     root.install(*archives)
@@ -47,7 +48,7 @@ def check_client(root, packages, version):
     """A client that is built with what the packages have, in both ways, and runs."""
     # The shell, with which Ninja runs the compiler, is essential: nothing depends on it.
     root.add("dash", "g++", "cmake", "ninja-build", "pkgconf")
-    root.install(packages["libvorn-parsers-dev"])
+    root.install(packages["libvorn-toml-config0"], packages["libvorn-parsers-dev"])
     shutil.copytree(SOURCE, root.path / "tmp/consumer")
     place = {"source": "/tmp/consumer", "within": root.within}
     program = build_with_cmake("/tmp/build", **place)
@@ -58,13 +59,18 @@ def check_client(root, packages, version):
     check_explanation(program, root.within)
     program = build_with_pkg_config("/tmp/explain", target="explain", **place)
     check_explanation(program, root.within)
+    program = build_with_cmake("/tmp/place-build", target="place", **place)
+    check_placing(program, root.within)
+    program = build_with_pkg_config("/tmp/place", target="place", **place)
+    check_placing(program, root.within)
 
 
 def check_without_diagnosis(root, version):
     """The library as on a device that does without the diagnosis."""
     if not root.refuses_to_remove("libvorn-toml-diagnosis0"):
         raise Failure("libvorn-toml-diagnosis0 can be removed from below others")
-    root.remove("vorn-toml", "libvorn-parsers-dev", "libvorn-toml-diagnosis0")
+    root.remove("vorn-toml", "libvorn-parsers-dev", "libvorn-toml-config0",
+                "libvorn-toml-diagnosis0")
     for name in ("build/consumer", "by-pkg-config"):
         check_run(f"/tmp/{name}", version, MARK, root.within)
 

@@ -1,7 +1,8 @@
 """Builds a client that has the library's sources as a subdirectory.
 
 It gets the library alone: no test, no tool, nothing to install, and nothing is looked for
-that only these need.  The diagnosis is built for a client that links it.
+that only these need.  The diagnosis, and the values and places, are built for a client that links
+them.
 """
 
 import argparse
@@ -11,13 +12,21 @@ import re
 import sys
 import tempfile
 
-from consumer_build import Failure, check_explanation, check_run, clean_environment, run
+from consumer_build import (
+    Failure,
+    check_explanation,
+    check_placing,
+    check_run,
+    clean_environment,
+    run,
+)
 
 SOURCE = pathlib.Path(__file__).with_name("subproject")
 # What the library needs no more than its clients do.
 ABSENT = ("GTest", "CLI11", "nlohmann_json", "Python3", "benchmark")
-TARGETS = {"consumer", "explain", "vorn_parsers", "vorn_parsers_objects", "vorn_recognisers",
-           "vorn_rooms", "vorn_toml_diagnosis", "vorn_toml_diagnosis_objects", "vorn_utils"}
+TARGETS = {"consumer", "explain", "place", "vorn_parsers", "vorn_parsers_objects",
+           "vorn_recognisers", "vorn_rooms", "vorn_toml_config", "vorn_toml_config_objects",
+           "vorn_toml_diagnosis", "vorn_toml_diagnosis_objects", "vorn_utils"}
 
 
 def configure(build, *options):
@@ -59,8 +68,9 @@ def check_installed(build, directory):
     configure(build, "-DVORN_INSTALL=ON")
     run(["cmake", "--build", build])
     found = installed(build, directory / "with")
-    expected = {"consumer", "libvorn_parsers.so", "libvorn_toml_diagnosis.so.0",
-                "libvorn_utils.so.0", "toml.h", "vorn_parsersConfig.cmake", "vorn_parsers.pc"}
+    expected = {"consumer", "libvorn_parsers.so", "libvorn_toml_config.so.0",
+                "libvorn_toml_diagnosis.so.0", "libvorn_utils.so.0", "toml.h",
+                "vorn_parsersConfig.cmake", "vorn_parsers.pc"}
     if not expected <= found or "vorn-toml" in found:
         raise Failure(f"installed on request: {sorted(found)}")
 
@@ -85,11 +95,14 @@ def check_client(options, directory):
     check_run(build / "consumer", options.version, "error vorn_parsers ")
     found = [path.name for path in build.rglob("*")
              if path.name in ("vorn-toml", "compile_commands.json", "CPackConfig.cmake")
-             or path.suffix == ".o" and "diagnosis" in str(path) or "libvorn_toml" in path.name]
+             or path.suffix == ".o" and re.search("toml_(diagnosis|config)", str(path))
+             or "libvorn_toml" in path.name]
     if found:
         raise Failure(f"the build has {found}")
     run(["cmake", "--build", build, "--target", "explain"])
     check_explanation(build / "explain")
+    run(["cmake", "--build", build, "--target", "place"])
+    check_placing(build / "place")
     check_installed(build, directory)
 
 

@@ -34,7 +34,8 @@ def installed_versions(options, prefix):
     )
     package = matched(r"^version (.*)$", run([options.cmake, "-P", script]), "the CMake package")
     files = sorted(prefix.rglob("*.pc"))
-    if [file.name for file in files] != ["vorn_parsers.pc", "vorn_toml_diagnosis.pc"]:
+    if [file.name for file in files] != ["vorn_parsers.pc", "vorn_toml_config.pc",
+                                            "vorn_toml_diagnosis.pc"]:
         raise Failure(f"the pkg-config files are {files}")
     return {
         "the CMake package": package,
@@ -57,6 +58,7 @@ def versions(options):
         "the library": runtime,
         "the library's file": file_version(options.library),
         "the diagnosis's file": file_version(options.diagnosis),
+        "the file of values and places": file_version(options.config),
         "the manual page": matched(r'^\.TH .*"vorn_parsers ([^"]*)"', page, "the manual page"),
         "the changelog": matched(r"^## \[?([^\s\]]*)", changelog, "the changelog"),
         **installed,
@@ -76,8 +78,9 @@ def check_links(options, library, soname, needed):
 
 def main():
     parser = argparse.ArgumentParser()
-    for name in ("version", "soversion", "diagnosis-soversion", "program", "library", "diagnosis",
-                 "build", "manual-page", "changelog", "cmake", "pkg-config", "readelf"):
+    for name in ("version", "soversion", "diagnosis-soversion", "config-soversion", "program",
+                 "library", "diagnosis", "config", "build", "manual-page", "changelog", "cmake",
+                 "pkg-config", "readelf"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
     try:
@@ -87,6 +90,8 @@ def main():
         check_links(options, options.library, parsers, {runtime, UTILS})
         check_links(options, options.diagnosis,
                     f"libvorn_toml_diagnosis.so.{options.diagnosis_soversion}", {runtime, parsers})
+        check_links(options, options.config,
+                    f"libvorn_toml_config.so.{options.config_soversion}", {parsers})
     except Failure as failure:
         sys.exit(str(failure))
 

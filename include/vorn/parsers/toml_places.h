@@ -3,9 +3,11 @@
 // A visitor that derives from PlacedVisitor knows the line and the column of each text that it
 // gets, for its messages:
 //
-//   #include <vorn/parsers/toml_places.h>
+//   #include <vorn/parsers/toml_config.h>
 //
-//   struct Ports : vorn::parsers::toml::PlacedVisitor
+//   using namespace vorn::parsers::toml;
+//
+//   struct Ports : PlacedVisitor
 //   {
 //       void visitInteger(const char* text) override
 //       {
@@ -61,17 +63,15 @@ struct Place
 //
 // The place is that of the text that the operation gets.  The other operations get these:
 //
-//   beginDocument               the start of the document, after a byte order mark
-//   endDocument                 the end of the document
-//   beginTable, beginArrayTable  the first '['
-//   endTable, endArrayTable     the last ']'
-//   beginArray, endArray        the '[', the ']'
-//   beginInlineTable            the '{'
-//   endInlineTable              the '}'
-//   beginKeyValue               the key, or its first part
-//   endKeyValue                 the value; of an array or an inline table, its end
-//   beginDottedKey              the first part of the key
-//   endDottedKey                the last part of the key
+//   beginDocument                      the start of the document, after a byte order mark
+//   endDocument                        the end of the document
+//   beginTable, beginArrayTable        the first '['
+//   endTable, endArrayTable            the last ']'
+//   beginArray, endArray               the '[', the ']'
+//   beginInlineTable, endInlineTable   the '{', the '}'
+//   beginKeyValue                      the key, or its first part
+//   endKeyValue                        the value; of an array or an inline table, its end
+//   beginDottedKey, endDottedKey       the first part of the key, the last one
 //
 // Places are right for accepted documents.  Those of rejected ones are a guess, since some of
 // what is there cannot be made out: diagnose() knows where the mistakes are.

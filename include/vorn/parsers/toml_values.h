@@ -7,6 +7,8 @@
 //
 //   #include <vorn/parsers/toml_values.h>
 //
+//   using namespace vorn::parsers::toml;
+//
 //   void visitInteger(const char* text) override
 //   {
 //       const std::optional<std::int64_t> value = integerValue(text);
@@ -120,9 +122,9 @@ struct Time
 // A date, a time, or both, with an offset from UTC or without: whatever TOML has of these.
 struct DateTime
 {
-    std::optional<Date> date;
-    std::optional<Time> time;
-    std::optional<int> offset; // minutes east of UTC, -1439 to 1439; Z: 0
+    std::optional<Date> date;  // none: a time alone
+    std::optional<Time> time;  // none: a date alone
+    std::optional<int> offset; // minutes east of UTC, -1439 to 1439, 0 for Z; none: local
 
     // Returns the point in time, rounded down to what system_clock can tell.  A leap second is
     // the first second of the next minute.
@@ -138,34 +140,39 @@ struct DateTime
     toTimePoint() const noexcept;
 };
 
+// Whether two dates are the same.
 constexpr bool operator==(const Date& one, const Date& other) noexcept
 {
     return one.year == other.year && one.month == other.month && one.day == other.day;
 }
 
+// Whether they are not.
 constexpr bool operator!=(const Date& one, const Date& other) noexcept
 {
     return !(one == other);
 }
 
+// Whether two times are the same.
 constexpr bool operator==(const Time& one, const Time& other) noexcept
 {
     return one.hour == other.hour && one.minute == other.minute && one.second == other.second &&
            one.nanosecond == other.nanosecond;
 }
 
+// Whether they are not.
 constexpr bool operator!=(const Time& one, const Time& other) noexcept
 {
     return !(one == other);
 }
 
-// Whether the parts are the same.  Two that are the same point in time, with other offsets, are
+// Whether their parts are the same.  Two that are the same point in time, with other offsets, are
 // not equal.
 constexpr bool operator==(const DateTime& one, const DateTime& other) noexcept
 {
     return one.date == other.date && one.time == other.time && one.offset == other.offset;
 }
 
+// Whether any of their parts are not.
 constexpr bool operator!=(const DateTime& one, const DateTime& other) noexcept
 {
     return !(one == other);

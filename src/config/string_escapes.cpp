@@ -1,4 +1,4 @@
-#include "unescaping.h"
+#include "string_escapes.h"
 
 #include <cstdint>
 
