@@ -56,6 +56,8 @@ COMPONENTS = {
         "include/vorn/parsers/toml_config.h",
         "include/vorn/parsers/toml_diagnosis.h",
         "include/vorn/parsers/toml_places.h",
+        "include/vorn/parsers/toml_schema.h",
+        "include/vorn/parsers/toml_types.h",
         "include/vorn/parsers/toml_values.h",
     ],
     "Tool": [

@@ -91,7 +91,8 @@ def main():
         check_links(options, options.diagnosis,
                     f"libvorn_toml_diagnosis.so.{options.diagnosis_soversion}", {runtime, parsers})
         check_links(options, options.config,
-                    f"libvorn_toml_config.so.{options.config_soversion}", {parsers})
+                    f"libvorn_toml_config.so.{options.config_soversion}",
+                    {parsers, f"libvorn_toml_diagnosis.so.{options.diagnosis_soversion}"})
     except Failure as failure:
         sys.exit(str(failure))
 
