@@ -52,11 +52,6 @@ std::string nounOf(const Type& type, const Entry& entry, bool isPlural)
     return noun.append(end);
 }
 
-std::string limitText(const Limit& limit)
-{
-    return limit.isInteger ? std::to_string(limit.integer) : textOf(limit.floating);
-}
-
 } // namespace
 
 const char* nameOf(ScalarKind kind)
@@ -87,14 +82,20 @@ std::string expectationOf(const Type& type, const Entry& entry)
     return (noun[0] == 'a' || noun[0] == 'i' ? "an " : "a ") + noun;
 }
 
+std::string limitText(const Limit& limit)
+{
+    return limit.isInteger ? std::to_string(limit.integer) : textOf(limit.floating);
+}
+
 std::string limitsOf(const Type& type, const Entry& entry)
 {
-    if (entry.range)
+    if (!entry.range && type.kind != Kind::integer)
     {
-        return limitText(entry.range->first) + " to " + limitText(entry.range->second);
+        return {};
     }
-    return type.kind == Kind::integer ? std::to_string(type.min) + " to " + std::to_string(type.max)
-                                      : std::string();
+    const Limit min = entry.range ? entry.range->first : Limit{true, type.min, 0};
+    const Limit max = entry.range ? entry.range->second : Limit{true, type.max, 0};
+    return limitText(min) + " to " + limitText(max);
 }
 
 std::string choicesOf(const Entry& entry)
