@@ -14,8 +14,8 @@ namespace vorn::parsers::toml::config
 namespace
 {
 
-template <typename Number>
-Number load(const void* object)
+template <typename Number, typename Value = Number>
+Value load(const void* object)
 {
     Number number;
     std::memcpy(&number, object, sizeof(number));
@@ -24,14 +24,17 @@ Number load(const void* object)
 
 std::int64_t integerIn(const void* object, const Type& type)
 {
+    using Value = std::int64_t; // a common type of both would be unsigned
     switch (type.size)
     {
     case sizeof(std::int8_t):
-        return type.isSigned ? load<std::int8_t>(object) : load<std::uint8_t>(object);
+        return type.isSigned ? load<std::int8_t, Value>(object) : load<std::uint8_t, Value>(object);
     case sizeof(std::int16_t):
-        return type.isSigned ? load<std::int16_t>(object) : load<std::uint16_t>(object);
+        return type.isSigned ? load<std::int16_t, Value>(object)
+                             : load<std::uint16_t, Value>(object);
     case sizeof(std::int32_t):
-        return type.isSigned ? load<std::int32_t>(object) : load<std::uint32_t>(object);
+        return type.isSigned ? load<std::int32_t, Value>(object)
+                             : load<std::uint32_t, Value>(object);
     default:
         return load<std::int64_t>(object);
     }
