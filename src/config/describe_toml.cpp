@@ -17,6 +17,18 @@ enum class Required
     there,   // a table that one can do without has them once it is there
 };
 
+bool hasValues(const Table& table, std::uint32_t node)
+{
+    for (const std::uint32_t child : table.nodes[node].children)
+    {
+        if (!isTable(table, child))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
 class Configuration
 {
 public:
@@ -57,11 +69,7 @@ private:
             addTables(*entry, memberOf(object, *entry), inner, required);
             return;
         }
-        std::uint32_t first = child;
-        while ((first = nextChild(table, child, first)) != none && isTable(table, first))
-        {
-        }
-        if (first != none)
+        if (hasValues(table, child))
         {
             addBreak();
             out_ << "[" << inner << "]\n";
@@ -127,9 +135,8 @@ private:
     {
         addExplanation(entry);
         const bool isStruct = entry.type->kind == Kind::table;
-        const bool isActive = isStruct && isRequired(entry) ? true
-                                                            : !isBlank(*entry.type, member) &&
-                                                                  isReadable(entry, member, member);
+        const bool isActive = (isStruct && isRequired(entry)) ||
+                              (!isBlank(*entry.type, member) && isReadable(entry, member, member));
         isStart_ = true; // the first one follows the comment
         const auto addOne = [&](const void* object, const std::string* name)
         {

@@ -17,14 +17,19 @@ bool isReadableEntry(const Entry& entry, const void* object, const void* before)
     {
         return true; // it may be left out
     }
+    // A value takes the place of another one, a list too; in maps and structs what is there stays.
+    const Kind kind = contentOf(type).kind;
+    const bool isKept = kind == Kind::map || (kind == Kind::table && type.kind != Kind::table);
+    if (isKept && object != before && !wasBlank)
+    {
+        return false;
+    }
     if (entry.table == nullptr)
     {
         Text text;
         return addMember(text, entry, member, Syntax::toml);
     }
-    // A list takes the place of another one; what else is there stays there.
-    return (type.kind == Kind::list ? !isBlank(type, member)
-                                    : wasBlank || type.kind == Kind::table) &&
+    return (kind != Kind::list || !isBlank(type, member)) &&
            isReadable(entry, member, memberBefore);
 }
 

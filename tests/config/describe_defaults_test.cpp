@@ -28,7 +28,7 @@ struct Unreadable
     every_kind::Colour none{};
     DateTime never;
     std::chrono::nanoseconds third{(std::int64_t{1} << 60) + 1};
-    double nan = std::nan("");
+    double nan = std::nan("5");
     std::vector<std::optional<int>> gaps{1, std::nullopt};
     std::map<std::string, int> names{{"\xff", 1}};
 };
@@ -145,6 +145,89 @@ TEST(DescribeInToml, HasNoListThatCannotBeSaid)
 {
     EXPECT_EQ(tablesOf<1>(), "\n[map.a]\n[optional]\n[table]");
     EXPECT_EQ(tablesOf<2>(), "\n[map.a]\n[optional]\n[table]");
+}
+
+namespace
+{
+
+// What a new one has, and a document cannot take away.
+struct Group
+{
+    std::optional<Element> optional = Element();
+    std::map<std::string, Element> map{{"a", {}}};
+    std::vector<Element> list{{}};
+    std::map<std::string, int> numbers{{"a", 1}};
+};
+
+template <int kind>
+struct Groups
+{
+    std::vector<Group> list{Group()};
+
+    Groups()
+    {
+        Group& group = list.front();
+        if (kind == 1)
+        {
+            group.optional = std::nullopt;
+        }
+        if (kind == 2)
+        {
+            group.map = {{"b", {}}};
+        }
+        if (kind == 3)
+        {
+            group.list = {};
+        }
+        if (kind == 4)
+        {
+            group.numbers = {{"b", 2}};
+        }
+    }
+};
+
+template <int kind>
+void expectAnExample()
+{
+    const auto element = Schema<Element>().optional("port", &Element::port);
+    Schema<Group> group;
+    if constexpr (kind == 1)
+    {
+        group.table("optional", &Group::optional, element);
+    }
+    else if constexpr (kind == 2)
+    {
+        group.tablesByName("map", &Group::map, element);
+    }
+    else if constexpr (kind == 4)
+    {
+        group.optional("numbers", &Group::numbers);
+    }
+    else
+    {
+        group.tables("list", &Group::list, element);
+    }
+    const auto schema = Schema<Groups<kind>>().tables("list", &Groups<kind>::list, group);
+    Groups<kind> config;
+    EXPECT_EQ(readBack(schema, config), nothing);
+    const Group expected = Groups<kind>().list.front();
+    const Group& read = config.list.front();
+    EXPECT_EQ(read.optional.has_value(), expected.optional.has_value()) << kind;
+    EXPECT_EQ(read.map.count("a"), expected.map.count("a")) << kind;
+    EXPECT_EQ(read.map.size(), 1U) << kind;
+    EXPECT_EQ(read.numbers, expected.numbers) << kind;
+    EXPECT_EQ(read.list.size(), expected.list.size()) << kind;
+    EXPECT_EQ(describe(schema, Format::toml).find("\n[[list]]"), std::string::npos) << kind;
+}
+
+} // namespace
+
+TEST(DescribeInToml, HasNoListWhoseElementsHaveLessThanNewOnes)
+{
+    expectAnExample<1>();
+    expectAnExample<2>();
+    expectAnExample<3>();
+    expectAnExample<4>();
 }
 
 TEST(DescribeInToml, HasNoTableThatACheckRefuses)

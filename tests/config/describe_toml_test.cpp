@@ -90,6 +90,16 @@ TEST(DescribeInToml, LacksTheRequiredKeysOnly)
                            .table("other", &Outer::other, inner);
     Outer object;
     EXPECT_EQ(readBack(outer, object), std::vector<std::string>{"deep.rule.target: is missing"});
+    struct Outermost
+    {
+        Outer outer;
+    };
+    const auto outermost = Schema<Outermost>().table("outer", &Outermost::outer, outer);
+    Outermost all;
+    EXPECT_EQ(readBack(outermost, all),
+              std::vector<std::string>{"outer.deep.rule.target: is missing"});
+    EXPECT_NE(describe(outermost, Format::jsonSchema).find("\n  \"required\": [\"outer\"]"),
+              std::string::npos);
 }
 
 TEST(DescribeInToml, HasExamplesThatAreAccepted)

@@ -65,6 +65,7 @@ NOT_READ = {
         "on = 1\n",
         "integers.'true'.tiny = -129\n",
         "integers.byte = -1\n",
+        "integers.byte = 256\n",
         "integers.port = 65536\n",
         "integers.port = 0\n",
         "integers.size = -1\n",
