@@ -55,11 +55,6 @@ std::string nounOf(const Type& type, const Entry& entry, bool isPlural)
     return noun.append(end);
 }
 
-std::string limitText(const Limit& limit)
-{
-    return limit.isInteger ? std::to_string(limit.integer) : textOf(limit.floating);
-}
-
 } // namespace
 
 const char* nameOf(ScalarKind kind)
@@ -90,14 +85,20 @@ std::string expectationOf(const Type& type, const Entry& entry)
     return (noun[0] == 'a' || noun[0] == 'i' ? "an " : "a ") + noun;
 }
 
+std::string limitText(const Limit& limit)
+{
+    return limit.isInteger ? std::to_string(limit.integer) : textOf(limit.floating);
+}
+
 std::string limitsOf(const Type& type, const Entry& entry)
 {
-    if (entry.range)
+    if (!entry.range && type.kind != Kind::integer)
     {
-        return limitText(entry.range->first) + " to " + limitText(entry.range->second);
+        return {};
     }
-    return type.kind == Kind::integer ? std::to_string(type.min) + " to " + std::to_string(type.max)
-                                      : std::string();
+    const Limit min = entry.range ? entry.range->first : Limit{true, type.min, 0};
+    const Limit max = entry.range ? entry.range->second : Limit{true, type.max, 0};
+    return limitText(min) + " to " + limitText(max);
 }
 
 std::string choicesOf(const Entry& entry)
@@ -125,9 +126,9 @@ std::string textOf(double number)
     return {text.data(), static_cast<std::size_t>(end - text.data())};
 }
 
-std::string nameOfUnit(std::intmax_t numerator, std::intmax_t denominator)
+std::string nameOfUnit(long long numerator, long long denominator)
 {
-    using Unit = std::tuple<std::intmax_t, std::intmax_t, const char*>;
+    using Unit = std::tuple<long long, long long, const char*>;
     static constexpr std::array<Unit, 7> units{{{1, 1000000000, "nanoseconds"},
                                                 {1, 1000000, "microseconds"},
                                                 {1, 1000, "milliseconds"},

@@ -14,6 +14,9 @@ std::string expectationOf(const Type& type, const Entry& entry);
 // "1 to 65535": what numbers an entry may have; empty if there is no limit but that of doubles.
 std::string limitsOf(const Type& type, const Entry& entry);
 
+// "65535"
+std::string limitText(const Limit& limit);
+
 // `"debug", "info", "error"`
 std::string choicesOf(const Entry& entry);
 

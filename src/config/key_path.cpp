@@ -27,6 +27,15 @@ std::size_t bareEnd(std::string_view text, std::size_t begin)
     return begin;
 }
 
+// Whether a text without quotes is a key wherever it stands: what is or starts like a value is
+// none.
+bool isBareKey(std::string_view text)
+{
+    return !text.empty() && bareEnd(text, 0) == text.size() && text[0] != '-' &&
+           !(text[0] >= '0' && text[0] <= '9') && text != "true" && text != "false" &&
+           text != "inf" && text != "nan";
+}
+
 // Where a quoted key ends, after its quote; npos if it does not.
 std::size_t quotedEnd(std::string_view text, std::size_t begin)
 {
@@ -76,11 +85,7 @@ std::optional<std::vector<std::string>> namesIn(std::string_view path)
 
 std::string keyOf(std::string_view name)
 {
-    if (!name.empty() && bareEnd(name, 0) == name.size())
-    {
-        return std::string(name);
-    }
-    return quoted(name);
+    return isBareKey(name) ? std::string(name) : quoted(name);
 }
 
 void addKey(std::string& path, std::string_view name)

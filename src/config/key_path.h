@@ -12,7 +12,7 @@ namespace vorn::parsers::toml::config
 // The names in "a.\"b c\".d"; nothing if it is no key.
 std::optional<std::vector<std::string>> namesIn(std::string_view path);
 
-// A name as a key: quoted, unless it may stand as it is.
+// A name as a key: quoted, unless it may stand as it is.  `true` and `5` may not.
 std::string keyOf(std::string_view name);
 
 // Adds a key to a path.

@@ -145,9 +145,14 @@ std::vector<Problem> readConfigs(const std::vector<FilePath>& files, const Schem
 // How describe() writes.
 enum class Format
 {
-    markdown,   // a table of the keys for each table
-    toml,       // a configuration with the defaults, and comments that explain them
-    jsonSchema, // for editors, which complete and check by it (draft 7)
+    // A table of the keys for each table: what they take, their defaults, what they are for.
+    markdown,
+    // A configuration with the defaults, to begin with.  Comments say what each key takes and is
+    // for.  Keys that are required or have no default, and tables that are not there, are examples
+    // in comments; so is what this TOML cannot say, such as an empty array.
+    toml,
+    // For editors, which complete and check by it (draft 7).
+    jsonSchema,
 };
 
 namespace config
@@ -158,9 +163,14 @@ VORN_TOML_CONFIG_API std::string describeTable(const Table& table, Format format
 // Returns the reference of a configuration: its keys, with their types, limits, defaults and
 // descriptions.  The defaults are those of a Struct{}.
 //
-// Throws std::bad_alloc if there is not enough memory, and nothing else.
+// A configuration with the defaults is read by readConfig() without a problem, but for the required
+// keys, which are missing, and gives the defaults.  Only checks of the whole Struct are left out.
 //
-//   describe(configSchema(), Format::toml)   // ... # dns.timeout: a number, 0.1 to 60 ...
+// Your checks are asked about the defaults: one that they do not accept is not set.  Throws
+// std::bad_alloc if there is not enough memory, and what your checks throw.
+//
+//   describe(configSchema(), Format::toml)   // ... # a number, 0.1 to 60
+//                                            //     timeout = 2.5 ...
 template <typename Struct>
 std::string describe(const Schema<Struct>& schema, Format format = Format::markdown)
 {
