@@ -77,6 +77,8 @@ const char* nameOf(Kind kind)
     }
 }
 
+// NOLINTBEGIN(misc-no-recursion): it ends where the schema does.
+
 // Whether a document must have a node: a required key is there or below.
 bool isRequiredNode(const Table& table, std::uint32_t node)
 {
@@ -84,6 +86,7 @@ bool isRequiredNode(const Table& table, std::uint32_t node)
     {
         return isRequired(*entry);
     }
+    // NOLINTNEXTLINE(readability-use-anyofallof): that would be more code.
     for (const std::uint32_t child : table.nodes[node].children)
     {
         if (isRequiredNode(table, child))
@@ -251,6 +254,8 @@ private:
 
     Json json_;
 };
+
+// NOLINTEND(misc-no-recursion)
 
 } // namespace
 

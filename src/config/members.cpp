@@ -7,6 +7,7 @@ namespace vorn::parsers::toml::config
 namespace
 {
 
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): it is final.
 class NamedElements final : public MapVisitor
 {
 public:
@@ -59,12 +60,22 @@ bool isBlank(const Type& type, const void* object)
 
 const Type& contentOf(const Type& type)
 {
-    return type.kind == Kind::optional ? contentOf(*type.element) : type;
+    const Type* content = &type;
+    while (content->kind == Kind::optional)
+    {
+        content = content->element;
+    }
+    return *content;
 }
 
 const Type& leafOf(const Type& type)
 {
-    return type.element == nullptr ? type : leafOf(*type.element);
+    const Type* leaf = &type;
+    while (leaf->element != nullptr)
+    {
+        leaf = leaf->element;
+    }
+    return *leaf;
 }
 
 std::uint32_t nextChild(const Table& table, std::uint32_t node, std::uint32_t child)
@@ -85,12 +96,14 @@ bool isTable(const Table& table, std::uint32_t node)
     return entry == nullptr || entry->table != nullptr;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): it ends where the schema does.
 bool isRequired(const Entry& entry)
 {
     if (entry.isRequired || entry.type->kind != Kind::table)
     {
         return entry.isRequired;
     }
+    // NOLINTNEXTLINE(readability-use-anyofallof): that would be more code.
     for (const Entry& inner : entry.table->entries)
     {
         if (isRequired(inner))

@@ -42,6 +42,7 @@ bool isReadableStruct(const Table& table, const void* object, const void* before
             return false;
         }
     }
+    // NOLINTNEXTLINE(readability-use-anyofallof): that would be more code.
     for (const TableCheck& check : table.checks)
     {
         if (!isAccepted(check.check, object))

@@ -13,8 +13,8 @@ namespace vorn::parsers::toml::config
 class Text
 {
 public:
-    Text& operator<<(const char* text);
-    Text& operator<<(std::string_view text);
+    Text& operator<<(const char* added);
+    Text& operator<<(std::string_view added);
     Text& operator<<(std::int64_t number);
 
     std::string text;

@@ -44,6 +44,7 @@ void addExampleNumber(Text& out, const Entry& entry)
 
 } // namespace
 
+// NOLINTNEXTLINE(misc-no-recursion): it ends where the type does.
 bool addValue(Text& out, const Type& type, const Entry& entry, const void* object, Syntax syntax)
 {
     switch (type.kind)
@@ -91,6 +92,7 @@ bool addKey(Text& out, const std::string& name, Syntax syntax)
     return true;
 }
 
+// NOLINTNEXTLINE(misc-no-recursion): it ends where the type does.
 void addExample(Text& out, const Type& type, const Entry& entry)
 {
     switch (type.kind)
