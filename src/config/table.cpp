@@ -11,20 +11,6 @@ namespace vorn::parsers::toml::config
 namespace
 {
 
-// Tells most names apart: a table of the right size is looked through faster by these than by the
-// names, in any order.
-std::uint32_t markOf(std::string_view name)
-{
-    if (name.empty())
-    {
-        return 0;
-    }
-    const auto byte = [name](std::size_t at)
-    { return std::uint32_t{static_cast<unsigned char>(name[at])}; };
-    return byte(0) | byte(name.size() / 2) << 8U | byte(name.size() - 1) << 16U |
-           static_cast<std::uint32_t>(name.size()) << 24U;
-}
-
 std::uint32_t addNode(Table& table, std::uint32_t parent, const std::string& name)
 {
     if (const std::uint32_t old = table.child(parent, name); old != none)
@@ -72,20 +58,6 @@ bool isFree(const Table& table, std::uint32_t node)
 }
 
 } // namespace
-
-std::uint32_t Table::child(std::uint32_t node, std::string_view name) const
-{
-    const Node& parent = nodes[node];
-    const std::uint32_t mark = markOf(name);
-    for (std::size_t i = 0; i < parent.marks.size(); ++i)
-    {
-        if (parent.marks[i] == mark && nodes[parent.children[i]].name == name)
-        {
-            return parent.children[i];
-        }
-    }
-    return none;
-}
 
 std::uint32_t Table::find(const std::string& path) const
 {

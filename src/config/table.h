@@ -27,6 +27,20 @@ struct Node
     std::vector<std::uint32_t> marks; // of the children's names
 };
 
+// Tells most names apart: the names of a table are looked through faster by these than by the names
+// themselves, in any order.
+inline std::uint32_t markOf(std::string_view name) noexcept
+{
+    if (name.empty())
+    {
+        return 0;
+    }
+    const auto byte = [name](std::size_t at)
+    { return std::uint32_t{static_cast<unsigned char>(name[at])}; };
+    return byte(0) | byte(name.size() / 2) << 8U | byte(name.size() - 1) << 16U |
+           static_cast<std::uint32_t>(name.size()) << 24U;
+}
+
 // A check of the whole struct, and the keys that it is about.
 struct TableCheck
 {
@@ -44,7 +58,19 @@ struct Table
     std::vector<std::string> mistakes; // of the schema's author
 
     // The child of a node; none if it has none of this name.
-    std::uint32_t child(std::uint32_t node, std::string_view name) const;
+    std::uint32_t child(std::uint32_t node, std::string_view name) const noexcept
+    {
+        const Node& parent = nodes[node];
+        const std::uint32_t mark = markOf(name);
+        for (std::size_t i = 0; i < parent.marks.size(); ++i)
+        {
+            if (parent.marks[i] == mark && nodes[parent.children[i]].name == name)
+            {
+                return parent.children[i];
+            }
+        }
+        return none;
+    }
     // The node of a path as the schema has it; none if there is none.
     std::uint32_t find(const std::string& path) const;
 
