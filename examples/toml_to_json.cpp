@@ -19,6 +19,7 @@
 #include <limits>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace
@@ -59,7 +60,7 @@ public:
     // Of [a.b], the pairs that follow are put into b.
     void endTable() override
     {
-        Json& table = followed();
+        Json& table = followed(&document_);
         if (table.is_null())
         {
             table = Json::object();
@@ -71,7 +72,7 @@ public:
     {
         const std::string last = key_.back();
         key_.pop_back();
-        Json& list = followed()[last];
+        Json& list = followed(&document_)[last];
         list.push_back(Json::object());
         open_ = {&list.back()};
     }
@@ -94,10 +95,9 @@ public:
     void visitLocalTime(const char* text) override { put(text); }
 
 private:
-    // Where the key of a header leads to: on its way, through the last elements of arrays.
-    Json& followed()
+    // Where the key leads to from a place: on its way, through the last elements of arrays.
+    Json& followed(Json* place)
     {
-        Json* place = &document_;
         for (const std::string& name : key_)
         {
             place = &(*place)[name];
@@ -109,20 +109,13 @@ private:
     // Puts a value where it belongs: to the end of an array, or to the place of its key.
     Json& put(Json value)
     {
-        Json* place = open_.back();
-        if (place->is_array())
+        Json& around = *open_.back();
+        if (around.is_array())
         {
-            place->push_back(nullptr);
-            place = &place->back();
+            around.push_back(std::move(value));
+            return around.back();
         }
-        else
-        {
-            for (const std::string& name : key_)
-            {
-                place = &(*place)[name];
-            }
-        }
-        return *place = std::move(value);
+        return followed(&around) = std::move(value);
     }
 
     Json document_ = Json::object();
