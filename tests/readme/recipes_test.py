@@ -138,7 +138,7 @@ def main():
             for run in runs:
                 complaint = run_recipe(run, program, options)
                 if complaint:
-                    print(f"{options.page}:{run.line}: the program prints something else\n{complaint}\n")
+                    print(f"{options.page}:{run.line}: something else is printed\n{complaint}\n")
                     wrong += 1
     except (OSError, PageError) as error:
         print(f"{options.page}: {error}")
