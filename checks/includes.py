@@ -34,7 +34,7 @@ ROOMS = {
     "platform": ("platform/include",),
     "platform/include": (),
     "tools": ("src", "src/scan", "src/direct", "src/grammar", "src/grammar/lexer",
-              "src/pipeline", "src/diagnosis", "src/config", "platform/include", "examples"),
+              "src/pipeline", "src/diagnosis", "src/config", "platform/include"),
     "examples": (),
 }
 # Single files that may include more: this one reads directly, to count levels of nesting.

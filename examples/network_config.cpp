@@ -1,134 +1,129 @@
 #include "network_config.h"
 
-#include <functional>
-#include <variant>
+#include <set>
 
 namespace example
 {
 namespace
 {
 
-using Config = NetworkConfig;
+using vorn::parsers::toml::oneOf;
+using vorn::parsers::toml::range;
+using vorn::parsers::toml::Schema;
 
-// Where the members are: of a list, in its last element, which is the one being read.
+constexpr auto inSeconds = vorn::parsers::toml::unit<std::chrono::seconds>();
 
-Config& network(Config& config)
+std::string wrongWithNames(const std::vector<Interface>& interfaces)
 {
-    return config;
+    std::set<std::string> names;
+    for (const Interface& interface : interfaces)
+    {
+        if (!names.insert(interface.name).second)
+        {
+            return "two are named " + interface.name;
+        }
+    }
+    return "";
 }
 
-Interface& interface(Config& config)
+std::string wrongWithPort(const Rule& rule)
 {
-    return config.interfaces.back();
+    return rule.port && rule.protocol == Protocol::any ? "a port needs the protocol tcp or udp"
+                                                       : "";
 }
 
-Address& address(Config& config)
+Schema<Dns> dnsSchema()
 {
-    return *interface(config).address;
+    return Schema<Dns>()
+        .optional("servers", &Dns::servers)
+        .optional("search", &Dns::search)
+        .optional("timeout", &Dns::timeout, inSeconds, range(0.1, 60.0))
+        .optional("cache.enabled", &Dns::cached)
+        .optional("cache.entries", &Dns::cacheEntries);
 }
 
-Route& route(Config& config)
+Schema<Address> addressSchema()
 {
-    return interface(config).routes.back();
+    return Schema<Address>()
+        .required("ip", &Address::ip)
+        .required("prefix", &Address::prefix, range(0, 128));
 }
 
-Wifi& wifi(Config& config)
+Schema<Route> routeSchema()
 {
-    return *interface(config).wifi;
+    return Schema<Route>()
+        .required("to", &Route::to, "The network.")
+        .required("via", &Route::via, "The router.")
+        .optional("metric", &Route::metric);
 }
 
-Rule& rule(Config& config)
+Schema<Wifi> wifiSchema()
 {
-    return config.rules.back();
+    return Schema<Wifi>()
+        .required("ssid", &Wifi::ssid)
+        .optional("passphrase", &Wifi::passphrase)
+        .optional("bands", &Wifi::bands, oneOf({{"2.4GHz", Band::band24}, {"5GHz", Band::band5}}))
+        .optional("country", &Wifi::country)
+        .optional("tx-power", &Wifi::txPower, "In dBm.")
+        .optional("5ghz.channels", &Wifi::channels)
+        .optional("retry.first", &Wifi::firstRetry, inSeconds)
+        .optional("retry.factor", &Wifi::retryFactor, range(1.0, 10.0))
+        .optional("retry.limits.count", &Wifi::retries, "0: no limit.")
+        .optional("retry.limits.delay", &Wifi::longestRetry, inSeconds);
 }
 
-// cppcheck-suppress constParameterCallback // what it gives is changed
-Vpn& vpn(Config& config)
+Schema<Interface> interfaceSchema()
 {
-    return *config.vpn;
+    return Schema<Interface>()
+        .required("name", &Interface::name)
+        .optional("mac", &Interface::mac)
+        .optional("dhcp", &Interface::dhcp)
+        .optional("up", &Interface::up)
+        .table("address", &Interface::address, addressSchema())
+        .tables("routes", &Interface::routes, routeSchema())
+        .optional("\"link settings\".speed", &Interface::speed, "In bits a second.")
+        .optional("\"link settings\".auto-negotiation", &Interface::autoNegotiation)
+        .table("wifi", &Interface::wifi, wifiSchema());
 }
 
-void assignFrom(Config& config, const Path& path, const Scalar& scalar)
+Schema<Rule> ruleSchema()
 {
-    assign(rule(config).from[std::get<std::string>(path.steps().back())], scalar);
+    return Schema<Rule>()
+        .optional("match.proto", &Rule::protocol,
+                  oneOf({{"any", Protocol::any}, {"tcp", Protocol::tcp}, {"udp", Protocol::udp}}))
+        .optional("match.port", &Rule::port, range(1, 65535))
+        .optional("match.from", &Rule::from, "Interfaces: true from it, false not from it.")
+        .required("action", &Rule::action,
+                  oneOf({{"accept", Action::accept}, {"drop", Action::drop}}))
+        .optional("log", &Rule::log)
+        .check(wrongWithPort, {"match.port", "match.proto"});
 }
 
-void assignAllowed(Config& config, const Path&, const Scalar& scalar)
+Schema<Vpn> vpnSchema()
 {
-    assign(vpn(config).allowed.back(), scalar);
-}
-
-// Assigns to a member of what `owner` returns: a function, or a member of the configuration.
-template <typename Owner, typename Member>
-Schema<Config>::Setter to(Owner owner, Member member)
-{
-    return [owner, member](Config& config, const Path&, const Scalar& scalar)
-    { assign(std::invoke(member, std::invoke(owner, config)), scalar); };
-}
-
-Schema<Config> makeSchema()
-{
-    Schema<Config> schema;
-    schema.makers = {
-        {"interface[]", [](Config& config) { config.interfaces.emplace_back(); }},
-        {"interface[].address", [](Config& config) { interface(config).address.emplace(); }},
-        {"interface[].routes[]", [](Config& config) { interface(config).routes.emplace_back(); }},
-        {"interface[].wifi", [](Config& config) { interface(config).wifi.emplace(); }},
-        {"firewall.rule[]", [](Config& config) { config.rules.emplace_back(); }},
-        {"vpn", [](Config& config) { config.vpn.emplace(); }},
-        {"vpn.allowed[]", [](Config& config) { vpn(config).allowed.emplace_back(); }},
-    };
-    schema.fields = {
-        {"title", to(network, &Config::title)},
-        {"hostname", to(network, &Config::hostname)},
-        {"mtu", to(network, &Config::mtu)},
-        {"dns.servers[]", to(&Config::dns, &Dns::servers)},
-        {"dns.search[]", to(&Config::dns, &Dns::search)},
-        {"dns.timeout", to(&Config::dns, &Dns::timeout)},
-        {"dns.cache.enabled", to(&Config::dns, &Dns::cached)},
-        {"dns.cache.entries", to(&Config::dns, &Dns::cacheEntries)},
-        {"interface[].name", to(interface, &Interface::name)},
-        {"interface[].mac", to(interface, &Interface::mac)},
-        {"interface[].dhcp", to(interface, &Interface::dhcp)},
-        {"interface[].up", to(interface, &Interface::up)},
-        {"interface[].address.ip", to(address, &Address::ip)},
-        {"interface[].address.prefix", to(address, &Address::prefix)},
-        {"interface[].routes[].to", to(route, &Route::to)},
-        {"interface[].routes[].via", to(route, &Route::via)},
-        {"interface[].routes[].metric", to(route, &Route::metric)},
-        {"interface[].\"link settings\".speed", to(interface, &Interface::speed)},
-        {"interface[].\"link settings\".auto-negotiation",
-         to(interface, &Interface::autoNegotiation)},
-        {"interface[].wifi.ssid", to(wifi, &Wifi::ssid)},
-        {"interface[].wifi.passphrase", to(wifi, &Wifi::passphrase)},
-        {"interface[].wifi.bands[]", to(wifi, &Wifi::bands)},
-        {"interface[].wifi.country", to(wifi, &Wifi::country)},
-        {"interface[].wifi.tx-power", to(wifi, &Wifi::txPower)},
-        {"interface[].wifi.5ghz.channels[]", to(wifi, &Wifi::channels)},
-        {"interface[].wifi.retry.first", to(wifi, &Wifi::firstRetry)},
-        {"interface[].wifi.retry.factor", to(wifi, &Wifi::retryFactor)},
-        {"interface[].wifi.retry.limits.count", to(wifi, &Wifi::retries)},
-        {"interface[].wifi.retry.limits.delay", to(wifi, &Wifi::longestRetry)},
-        {"firewall.rule[].match.proto", to(rule, &Rule::protocol)},
-        {"firewall.rule[].match.port", to(rule, &Rule::port)},
-        {"firewall.rule[].match.from.*", assignFrom},
-        {"firewall.rule[].action", to(rule, &Rule::action)},
-        {"firewall.rule[].log", to(rule, &Rule::log)},
-        {"vpn.endpoint", to(vpn, &Vpn::endpoint)},
-        {"vpn.allowed[][]", assignAllowed},
-        {"vpn.keepalive", to(vpn, &Vpn::keepalive)},
-        {"vpn.fwmark", to(vpn, &Vpn::mark)},
-        {"vpn.not-before", to(vpn, &Vpn::notBefore)},
-        {"vpn.renewed", to(vpn, &Vpn::renewed)},
-    };
-    return schema;
+    return Schema<Vpn>()
+        .required("endpoint", &Vpn::endpoint)
+        .required("allowed", &Vpn::allowed, "Networks, a list for each peer.")
+        .optional("keepalive", &Vpn::keepalive, inSeconds, range(0, 65535))
+        .optional("fwmark", &Vpn::mark)
+        .optional("not-before", &Vpn::notBefore)
+        .optional("renewed", &Vpn::renewed);
 }
 
 } // namespace
 
 const Schema<NetworkConfig>& networkSchema()
 {
-    static const Schema<NetworkConfig> schema = makeSchema();
+    using Config = NetworkConfig;
+    static const Schema<Config> schema =
+        Schema<Config>()
+            .optional("title", &Config::title)
+            .optional("hostname", &Config::hostname)
+            .optional("mtu", &Config::mtu, range(68, 65535))
+            .table("dns", &Config::dns, dnsSchema())
+            .tables("interface", &Config::interfaces, interfaceSchema(), wrongWithNames)
+            .tables("firewall.rule", &Config::rules, ruleSchema())
+            .table("vpn", &Config::vpn, vpnSchema());
     return schema;
 }
 

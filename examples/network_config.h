@@ -1,23 +1,25 @@
 // The configuration that network.toml is an example of, as a service holds it.
 #pragma once
 
+#include <vorn/parsers/toml_config.h>
+
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "assign.h"
-#include "field_reader.h"
-
 namespace example
 {
+
+using Seconds = std::chrono::duration<double>;
 
 struct Dns
 {
     std::vector<std::string> servers;
     std::vector<std::string> search;
-    double timeout = 1; // seconds
+    Seconds timeout{1};
     bool cached = false;
     std::uint32_t cacheEntries = 0;
 };
@@ -35,18 +37,24 @@ struct Route
     std::uint32_t metric = 0;
 };
 
+enum class Band
+{
+    band24,
+    band5,
+};
+
 struct Wifi
 {
     std::string ssid;
     std::string passphrase;
-    std::vector<std::string> bands;
+    std::vector<Band> bands;
     std::string country;
     std::int8_t txPower = 0; // dBm
     std::vector<std::uint8_t> channels;
-    double firstRetry = 1; // seconds
+    Seconds firstRetry{1};
     double retryFactor = 1;
     std::uint32_t retries = 0; // 0: no limit
-    double longestRetry = 60;  // seconds
+    Seconds longestRetry{60};
 };
 
 struct Interface
@@ -57,17 +65,30 @@ struct Interface
     bool up = false;
     std::optional<Address> address;
     std::vector<Route> routes;
-    std::uint32_t speed = 0; // bits a second; 0: what the link has
+    std::optional<std::uint32_t> speed; // bits a second; otherwise what the link has
     bool autoNegotiation = true;
     std::optional<Wifi> wifi;
 };
 
+enum class Protocol
+{
+    any,
+    tcp,
+    udp,
+};
+
+enum class Action
+{
+    accept,
+    drop,
+};
+
 struct Rule
 {
-    std::string protocol;
-    std::uint16_t port = 0;           // 0: any
+    Protocol protocol = Protocol::any;
+    std::optional<std::uint16_t> port;
     std::map<std::string, bool> from; // by the name of the interface
-    std::string action;
+    Action action = Action::drop;
     bool log = false;
 };
 
@@ -75,24 +96,24 @@ struct Vpn
 {
     std::string endpoint;
     std::vector<std::vector<std::string>> allowed; // networks, a list for each peer
-    std::uint16_t keepalive = 0;                   // seconds
+    std::chrono::seconds keepalive{0};
     std::uint32_t mark = 0;
-    DateTime notBefore;
-    DateTime renewed;
+    vorn::parsers::toml::DateTime notBefore;
+    vorn::parsers::toml::DateTime renewed;
 };
 
 struct NetworkConfig
 {
     std::string title;
     std::string hostname;
-    std::uint16_t mtu = 0;
+    std::uint16_t mtu = 1500;
     Dns dns;
     std::vector<Interface> interfaces;
     std::vector<Rule> rules;
     std::optional<Vpn> vpn;
 };
 
-// Which keys there may be, and where their values go.
-const Schema<NetworkConfig>& networkSchema();
+// Which keys there may be, and which members they fill.
+const vorn::parsers::toml::Schema<NetworkConfig>& networkSchema();
 
 } // namespace example

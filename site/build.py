@@ -20,6 +20,8 @@ SITE = ROOT / "site"
 PAGES = [
     "README.md",
     "docs/getting-started.md",
+    "docs/configuration.md",
+    "docs/c-interface.md",
     "docs/events.md",
     "docs/language.md",
     "docs/fix.md",

@@ -9,9 +9,9 @@ void JsonBuilder::visitQuotedKey(const char* text)
 {
     try
     {
-        key_.push_back(example::stringValue(text));
+        key_.push_back(stringValue(text));
     }
-    catch (const example::BadValue& error)
+    catch (const BadValue& error)
     {
         if (places_.back() != JsonTree::none)
         {
@@ -139,7 +139,7 @@ void JsonBuilder::visitScalar(const char* text, JsonOf jsonOf)
     {
         tree_.set(node, jsonOf(text));
     }
-    catch (const example::BadValue& error)
+    catch (const BadValue& error)
     {
         refuse(node, error.what());
     }
@@ -162,8 +162,7 @@ void JsonBuilder::visitBoolean(const char* text)
 
 void JsonBuilder::visitString(const char* text)
 {
-    visitScalar(text,
-                [](const std::string& value) { return jsonString(example::stringValue(value)); });
+    visitScalar(text, [](const std::string& value) { return jsonString(stringValue(value)); });
 }
 
 void JsonBuilder::visitDateTime(const char* text)

@@ -30,14 +30,14 @@ std::string jsonOfInteger(std::string text)
     std::int64_t value = 0;
     if (std::from_chars(text.data(), text.data() + text.size(), value, base).ec != std::errc())
     {
-        throw example::BadValue("does not fit into 64 bits");
+        throw BadValue("does not fit into 64 bits");
     }
     return std::to_string(value);
 }
 
 std::string jsonOfFloat(const std::string& text)
 {
-    const double value = example::floatValue(text);
+    const double value = floatValue(text);
     if (std::isnan(value))
     {
         return "\"nan\"";

@@ -3,12 +3,12 @@
 
 #include <string>
 
-#include "../examples/value.h"
+#include "scalar_value.h"
 
 namespace tool
 {
 
-// Any integer of 64 bits.  Throws example::BadValue for a larger one.
+// Any integer of 64 bits.  Throws BadValue for a larger one.
 std::string jsonOfInteger(std::string text);
 
 // Infinities and not-a-numbers become "inf", "-inf" and "nan".

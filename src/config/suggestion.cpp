@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <numeric>
 
 #include "shown_text.h"
 
@@ -13,26 +14,38 @@ namespace
 
 constexpr std::size_t maxLength = 40; // longer names are not compared
 
-// How many bytes have to be inserted, removed or replaced to get from one to the other.
+using Row = std::array<std::size_t, maxLength + 1>;
+
+// How many bytes have to be inserted, removed or replaced, or swapped with the next, to get from
+// one to the other.
 std::size_t distanceOf(std::string_view one, std::string_view other)
 {
-    std::array<std::size_t, maxLength + 1> row{};
-    for (std::size_t i = 0; i <= other.size(); ++i)
+    Row beforeLast{};
+    Row last{};
+    Row row{};
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 1; i <= one.size(); ++i)
     {
-        row[i] = i;
-    }
-    for (std::size_t i = 0; i < one.size(); ++i)
-    {
-        std::size_t diagonal = row[0];
-        row[0] = i + 1;
-        for (std::size_t j = 0; j < other.size(); ++j)
+        beforeLast = last;
+        last = row;
+        row[0] = i;
+        for (std::size_t j = 1; j <= other.size(); ++j)
         {
-            const std::size_t replaced = diagonal + (one[i] == other[j] ? 0 : 1);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({replaced, row[j] + 1, diagonal + 1});
+            const bool isSame = one[i - 1] == other[j - 1];
+            row[j] = std::min({last[j - 1] + (isSame ? 0 : 1), last[j] + 1, row[j - 1] + 1});
+            if (i > 1 && j > 1 && one[i - 1] == other[j - 2] && one[i - 2] == other[j - 1])
+            {
+                row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+            }
         }
     }
     return row[other.size()];
+}
+
+// A third of a name may be wrong.
+std::size_t maxDistance(std::string_view word)
+{
+    return word.size() / 3;
 }
 
 } // namespace
@@ -40,7 +53,7 @@ std::size_t distanceOf(std::string_view one, std::string_view other)
 std::string didYouMean(std::string_view word, const std::vector<std::string_view>& names)
 {
     std::string_view nearest;
-    std::size_t least = word.size() < 4 ? 2 : word.size() < 8 ? 3 : 4;
+    std::size_t least = maxDistance(word) + 1;
     for (const std::string_view name : names)
     {
         const bool isLong = word.size() > maxLength || name.size() > maxLength;

@@ -4,7 +4,10 @@
 #include "support/run_program.h"
 #include "support/temporary_directory.h"
 
+#include <gtest/gtest.h>
+
 #include <string>
+#include <vector>
 
 namespace test
 {
@@ -23,6 +26,31 @@ inline ProgramRun runOnExample(const std::string& program, const std::string& na
 {
     return runProgram({"/bin/sh", "-c", R"(cd "$1/.." && exec "$2" "examples/$3.toml")", "sh",
                        VORN_EXAMPLES, program, name});
+}
+
+// A document, and what a program says of it: a line each, without the name of the file.
+struct Mistaken
+{
+    std::string text;
+    std::string problems;
+};
+
+inline void expectProblems(const std::string& program, const std::vector<Mistaken>& documents)
+{
+    for (const Mistaken& document : documents)
+    {
+        SCOPED_TRACE(document.text);
+        std::string problems;
+        for (const char letter : document.problems)
+        {
+            const bool startsLine = problems.empty() || problems.back() == '\n';
+            problems += (startsLine ? "document.toml:" : "") + std::string(1, letter);
+        }
+        const ProgramRun run = runOnText(program, document.text);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.standardOutput, "");
+        EXPECT_EQ(run.standardError, problems);
+    }
 }
 
 } // namespace test

@@ -12,7 +12,7 @@ namespace
 struct Case
 {
     std::string toml;
-    std::string json; // or the complaint
+    std::string json;
 };
 
 void expectValues(const std::vector<Case>& cases)
@@ -27,30 +27,10 @@ void expectValues(const std::vector<Case>& cases)
     }
 }
 
-void expectComplaints(const std::vector<Case>& cases)
-{
-    for (const Case& c : cases)
-    {
-        SCOPED_TRACE(c.toml);
-        const test::ProgramRun run = test::runOnText(TOML_TO_JSON, c.toml);
-        EXPECT_EQ(run.status, 1);
-        EXPECT_EQ(run.standardOutput, "");
-        EXPECT_EQ(run.standardError, "document.toml: " + c.json + '\n');
-    }
-}
-
-void expectComplaint(const std::string& complaint, const std::vector<std::string>& documents)
-{
-    for (const std::string& document : documents)
-    {
-        expectComplaints({{document, complaint}});
-    }
-}
-
 TEST(TomlToJson, ResolvesEscapes)
 {
     expectValues({
-        {R"("\b\f\n\r\t\"\\\'")", R"("\b\f\n\r\t\"\\'")"},
+        {R"("\b\f\n\r\t\"\\'")", R"("\b\f\n\r\t\"\\'")"},
         {R"("a\u0062\U00000063d")", R"("abcd")"},
         {R"("\u0000\u001F\u007f")", "\"\\u0000\\u001f\x7f\""},
         {R"("\u0080\u07FF")", "\"\xc2\x80\xdf\xbf\""},
@@ -103,6 +83,8 @@ TEST(TomlToJson, PrintsNumbersAndBooleans)
         {"-inf", R"("-inf")"},
         {"nan", R"("nan")"},
         {"-nan", R"("nan")"},
+        {"1e400", R"("inf")"},
+        {"-1e400", R"("-inf")"},
     });
 }
 
@@ -126,54 +108,29 @@ TEST(TomlToJson, KeepsTheOrderOfKeys)
     EXPECT_EQ(test::runOnText(TOML_TO_JSON, "").standardOutput, "{}\n");
 }
 
-TEST(TomlToJson, ReplacesBytesThatAreNotUtf8)
+TEST(TomlToJson, TellsWhatIsNoToml)
 {
-    expectValues({
-        {"'x\x80y'", "\"x\xef\xbf\xbdy\""},
-        {"'x\xc3y'", "\"x\xef\xbf\xbdy\""},
-        {"'x\xed\xa0\x80y'", "\"x\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbdy\""},
-    });
-}
-
-TEST(TomlToJson, ReportsValuesThatAreNone)
-{
-    expectComplaints({
-        {"a.b = [ 9223372036854775808 ]\n", "a.b[0]: does not fit into 64 bits"},
-        {"a = -9223372036854775809\n", "a: does not fit into 64 bits"},
-        {"a = 0x8000000000000000\n", "a: does not fit into 64 bits"},
-        {"a = 0b1" + std::string(63, '0') + "\n", "a: does not fit into 64 bits"},
-        {"a = \"\\uD800\"\n", "a: U+D800 is not a character"},
-        {"a = \"\\udfff\"\n", "a: U+dfff is not a character"},
-        {"a = \"\"\"\\U00110000\"\"\"\n", "a: U+00110000 is not a character"},
-        {"a = \"\\UFFFFFFFF\"\n", "a: U+FFFFFFFF is not a character"},
-        {"[a]\n\"\\uD800\".b = 1\n", R"(a."\"\\uD800\"": U+D800 is not a character)"},
-        {"[\"\\uD800\"]\nb = 1\nb = 2\n", R"("\"\\uD800\"": U+D800 is not a character)"},
-        {std::string("a = 'b\0c'\n", 10), "a: holds a NUL byte"},
-        {std::string("a = '''\0'''\n", 12), "a: holds a NUL byte"},
-        {std::string("a = \"b\\\"\0c\"\n", 12), "a: holds a NUL byte"},
-        {std::string("'b\0c' = 1\n", 10), "\"'b\": holds a NUL byte"},
-    });
-}
-
-TEST(TomlToJson, ReportsWhatIsDefinedTwice)
-{
-    expectComplaint("a: defined twice",
-                    {"a = 1\n\"a\" = 2\n", "a = 1\n\"\\u0061\" = 2\n", "a.b = 1\na = 2\n",
-                     "[a]\n[a]\n", "[a.b]\n[a]\n[a]\n", "[[a]]\n[a]\n", "[a]\n[[a]]\n",
-                     "a = [ { b = 1 } ]\n[[a]]\n"});
-    expectComplaint("a.b: cannot be extended here",
-                    {"a.b = 1\na.b.c = 2\n", "[a.b]\nc = 1\n[a]\nb.d = 1\n"});
-    expectComplaint("a.b: defined twice", {"a.b = 1\na.b = { c = 2 }\n", "[a]\nb.c = 1\n[a.b]\n"});
-    expectComplaint(
-        "a: cannot be extended here",
-        {"a = [ { b = 1 } ]\n[a.c]\n", "a = { b = 1 }\n[a.c]\n", "a = { b = 1 }\na.c = 1\n"});
-    expectComplaints({
-        {"a = [ { b = 1 }, { b = 1, b.c = 1 } ]\n", "a[1].b: cannot be extended here"},
-        {"[[a]]\n[a.b]\n[[a]]\n[a.b]\n[a.b]\n", "a[1].b: defined twice"},
-    });
-    // What stands in a place that is refused is not looked at.
-    expectComplaint("a: defined twice",
-                    {"a = 1\n[a]\nb = 1\nb = 2\n", "a = 1\na = [ { b = 1, b = 2 } ]\n"});
+    const std::string twice = " is defined twice\n";
+    test::expectProblems(
+        TOML_TO_JSON,
+        {
+            {"a = \nb = []\n", "1:4: expected a value, found the end of the line\n"
+                               "2:6: the array is empty\n"},
+            {"a.b = [ 9223372036854775808 ]\n", "1:9: the integer needs more than 64 bits\n"},
+            {"a = \"\\uD800\"\n", "1:6: the escape \\uD800 stands for no character\n"},
+            {"[a]\n\"\\UFFFFFFFF\".b = 1\n",
+             "2:2: the escape \\UFFFFFFFF stands for no character\n"},
+            {std::string("a = 'b\0c'\n", 10), "1:7: the control character U+0000 is not allowed\n"},
+            {"a = 'x\x80y'\n", "1:7: the byte 80 is not valid UTF-8\n"},
+            {"a = \"\\'\"\n", "1:6: unknown escape \\'\n"},
+            {"a = 1979-02-30\n", "1:13: the day 30 does not exist\n"},
+            {"a = 1\n\"\\u0061\" = 2\n", "2:1: the key \"\\u0061\"" + twice},
+            {"[a.b]\n[a]\n[a]\n", "3:2: the table 'a'" + twice},
+            {"a = { b = 1, b = 1 }\n", "1:14: the key 'b'" + twice},
+            {"[a]\n[[a]]\n",
+             "2:3: the key 'a' is a table already, so it cannot be an array of tables\n"},
+            {"a = { b = 1 }\n[a.c]\n", "2:2: the inline table 'a' cannot be extended\n"},
+        });
 }
 
 } // namespace

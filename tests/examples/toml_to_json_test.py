@@ -149,7 +149,7 @@ def fault_with_wrong(program, path):
         except tomllib.TOMLDecodeError:
             pass
     status, output, error = run_on(program, path)
-    if status != 1 or output or not error.startswith(f"{path}: "):
+    if status != 1 or output or not error.startswith(f"{path}:"):
         return f"status {status}\n{output}{error}"
     return None
 

@@ -1,10 +1,10 @@
-// Values of scalars, where the library's conversions leave something to the visitor.
+// Values of strings and floats, for JSON.
 #pragma once
 
 #include <stdexcept>
 #include <string>
 
-namespace example
+namespace tool
 {
 
 // A value that cannot be taken; what() says why.
@@ -24,4 +24,4 @@ std::string stringValue(const std::string& text);
 // of double yields the largest one, as with parseFloat().
 double floatValue(const std::string& text);
 
-} // namespace example
+} // namespace tool

@@ -1,4 +1,4 @@
-#include "value.h"
+#include "scalar_value.h"
 
 #include <vorn/parsers/toml.h>
 
@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <limits>
 
-namespace example
+namespace tool
 {
 namespace
 {
@@ -150,4 +150,4 @@ double floatValue(const std::string& text)
     return toml::parseFloat(text);
 }
 
-} // namespace example
+} // namespace tool
