@@ -235,15 +235,21 @@ void Navigation::reportUnknown(Position position, const Key& key)
     }
     Problem problem;
     problem.severity = unknown == Unknown::warning ? Severity::warning : Severity::error;
-    if (problems_.takes(problem))
-    {
-        describeUnknown(position, key, problem);
-    }
-    problems_.add(spotOf(key.offset), std::move(problem));
     if (unknown == Unknown::problem)
     {
         containers_.damage(position.container);
     }
+    if (problems_.takes(problem))
+    {
+        describeUnknown(position, key, problem);
+        // The keys and headers of a table that is unknown mostly follow one another.
+        if (problem.path == lastUnknown_)
+        {
+            return;
+        }
+        lastUnknown_ = problem.path;
+    }
+    problems_.add(spotOf(key.offset), std::move(problem));
 }
 
 void Navigation::describeUnknown(Position position, const Key& key, Problem& problem) const

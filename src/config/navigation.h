@@ -50,6 +50,7 @@ public:
     {
         source_ = source;
         isSuspicious_ = false;
+        lastUnknown_.clear();
     }
     // Whether something in the source is perhaps defined twice: known keys, and unknown ones.
     bool isSuspicious() const { return isSuspicious_; }
@@ -93,6 +94,7 @@ private:
     Closing closing_;
     std::uint32_t source_ = 0;
     bool isSuspicious_ = false;
+    std::string lastUnknown_; // the path that was told last
 };
 
 } // namespace vorn::parsers::toml::config

@@ -42,10 +42,10 @@ std::size_t distanceOf(std::string_view one, std::string_view other)
     return row[other.size()];
 }
 
-// A third of a name may be wrong.
+// About a third of a name may be wrong.
 std::size_t maxDistance(std::string_view word)
 {
-    return word.size() / 3;
+    return word.size() < 2 ? 0 : std::max(std::size_t{1}, (word.size() + 1) / 3);
 }
 
 } // namespace

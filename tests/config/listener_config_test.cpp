@@ -101,7 +101,9 @@ TEST(ListenerConfig, tellsUnknownKeys)
         {"name = 'a'\nlistener = [{port = 1, prt = 2}]\n",
          "2:24: listener[0].prt: unknown key (did you mean port?)\n"},
         {"name = 'a'\n\"a b\" = {x = [1, {y = 2}]}\n", "2:1: \"a b\": unknown key\n"},
-        {"name = 'a'\n[[extra]]\nx = 1\n", "2:3: extra: unknown key\n"},
+        {"name = 'a'\n[[extra]]\nx = 1\n[[extra]]\n[extra.more]\n", "2:3: extra: unknown key\n"},
+        {"name = 'a'\n[extra]\n[other]\n[extra.more]\n",
+         "2:2: extra: unknown key\n3:2: other: unknown key\n4:2: extra: unknown key\n"},
     });
 }
 
