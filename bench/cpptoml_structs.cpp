@@ -5,6 +5,7 @@
 
 #include <cpptoml.h>
 
+#include <memory>
 #include <sstream>
 #include <stdexcept>
 

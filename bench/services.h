@@ -31,7 +31,7 @@ struct Services
     std::vector<Service> services;
 };
 
-// A document that describes so many services.
+// A document that describes so many services, at most 64,000: each has a port of its own.
 std::string servicesDocument(std::size_t count);
 
 // What such a document says, filled without one, as a reader does that meets one value after the

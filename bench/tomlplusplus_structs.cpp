@@ -2,12 +2,15 @@
 
 #include <toml++/toml.h>
 
+#include <stdexcept>
+#include <string>
+
 namespace bench
 {
 namespace
 {
 
-// Its references to what is not there are null, which throws.
+// What is not there, or of another type, throws.
 template <typename Pointer>
 auto& there(Pointer pointer)
 {
