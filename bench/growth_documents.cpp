@@ -4,6 +4,17 @@
 
 namespace bench
 {
+namespace
+{
+
+// Made in place: a copy on the way would hide what is taken afterwards.
+std::string mixedThen(std::size_t size, const std::string& after)
+{
+    const std::string lines = test::mixedDocument(0);
+    return test::enclosed("", lines, size / lines.size() + 1, after);
+}
+
+} // namespace
 
 std::vector<Document> growingDocuments()
 {
@@ -22,7 +33,7 @@ std::vector<Document> growingDocuments()
         {"bad characters, `@`", false, 100 * kilobyte,
          [](std::size_t size) { return test::repeated("@", size); }},
         {"lines of all kinds, then `@`", false, 250 * kilobyte,
-         [](std::size_t size) { return test::mixedDocument(size) + "@"; }},
+         [](std::size_t size) { return mixedThen(size, "@"); }},
         {"one long string, not closed", false, 4 * megabyte,
          [](std::size_t size) { return test::enclosed("a = \"", "x", size, "\n"); }},
         {"one long key, without a value", false, 4 * megabyte,
@@ -76,7 +87,7 @@ std::vector<Document> mistakenDocuments()
 {
     return {
         {"lines of all kinds, then `a = []`", false, 10 * megabyte,
-         [](std::size_t size) { return test::mixedDocument(size) + "a = []\n"; }},
+         [](std::size_t size) { return mixedThen(size, "a = []\n"); }},
         {"lines `[a`", false, 1600 * kilobyte,
          [](std::size_t size) { return test::repeated("[a\n", size / 3); }},
         {"lines `a 1`", false, 10 * megabyte,

@@ -5,6 +5,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "copying_visitor.h"
 #include "tests/support/direct_reading.h"
 #include "tests/support/temporary_directory.h"
 
@@ -16,29 +17,6 @@ namespace
 using vorn::parsers::toml::FilePath;
 using vorn::parsers::toml::TomlTreeVisitor;
 using vorn::parsers::toml::visitTomlTree;
-
-class CopyingVisitor : public TomlTreeVisitor
-{
-public:
-    void visitBareKey(const char* text) override { copy(text); }
-    void visitQuotedKey(const char* text) override { copy(text); }
-    void visitBasicString(const char* text) override { copy(text); }
-    void visitMultilineBasicString(const char* text) override { copy(text); }
-    void visitLiteralString(const char* text) override { copy(text); }
-    void visitMultilineLiteralString(const char* text) override { copy(text); }
-    void visitInteger(const char* text) override { copy(text); }
-    void visitFloat(const char* text) override { copy(text); }
-    void visitBoolean(const char* text) override { copy(text); }
-    void visitOffsetDateTime(const char* text) override { copy(text); }
-    void visitLocalDateTime(const char* text) override { copy(text); }
-    void visitLocalDate(const char* text) override { copy(text); }
-    void visitLocalTime(const char* text) override { copy(text); }
-
-private:
-    void copy(const char* text) { texts_.emplace_back(text); }
-
-    std::vector<std::string> texts_;
-};
 
 template <typename Visitor, typename Source>
 void read(const Source& source)

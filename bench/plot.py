@@ -9,13 +9,11 @@ import json
 import math
 import pathlib
 
+import figures
 import matplotlib
 
 matplotlib.use("svg")
 import matplotlib.pyplot as plot  # noqa: E402 (after the choice of the backend)
-
-BEGIN = "<!-- Written by bench/plot.py from here -->\n"
-END = "<!-- to here -->\n"
 
 # Reader: its name for people, and its colour.  Those without a colour are not drawn.
 READERS = {
@@ -30,68 +28,14 @@ READERS = {
 PEERS = ["toml++", "cpptoml", "toml11"]
 
 
-def rates_of(results):
-    """Document: reader: MB/s, the best of the repetitions; noise only ever slows down."""
-    rates = collections.defaultdict(lambda: collections.defaultdict(float))
-    # They ran in any order.
-    for run in sorted(results["benchmarks"], key=lambda run: run["family_index"]):
-        if run["run_type"] == "iteration":
-            document, reader = run["run_name"].rsplit("/", 1)
-            rate = run["bytes_per_second"] / 1e6
-            rates[document][reader] = max(rates[document][reader], rate)
-    return rates
-
-
-def caption_of(results):
-    context = results["context"]
-    return (
-        f"{context.get('processor', 'unknown processor')}, {context['num_cpus']} CPUs; "
-        f"{context['compiler']}; {context['date'][:10]}"
-    )
-
-
-def rounded(rate):
-    return f"{rate:,.0f}" if rate >= 10 else f"{rate:.1f}"
-
-
 def table_of(rates):
     names = [name for name, _ in READERS.values()]
-    lines = [
-        "| document | " + " | ".join(names) + " | times the fastest other |",
-        "|---" + "|---:" * (len(names) + 1) + "|",
-    ]
+    rows = []
     for document, measured in rates.items():
-        figures = [rounded(measured[reader]) for reader in READERS]
         times = measured["library"] / max(measured[peer] for peer in PEERS)
-        lines.append(f"| {document} | " + " | ".join(figures) + f" | {times:.1f} |")
-    return "\n".join(lines) + "\n"
-
-
-def write_page(page, picture, rates, caption):
-    text = page.read_text(encoding="utf-8")
-    before, begin, rest = text.partition(BEGIN)
-    _, end, after = rest.partition(END)
-    if not begin or not end:
-        raise SystemExit(f"{page}: the marks that the table stands between are missing")
-    content = f"\n![MB/s]({picture.name})\n\nMB/s; {caption}.\n\n{table_of(rates)}\n"
-    page.write_text(before + begin + content + end + after, encoding="utf-8")
-
-
-def draw(axes, kind, sizes):
-    """The bars of one kind of document, in groups by size."""
-    drawn = [(reader, *look) for reader, look in READERS.items() if look[1]]
-    width = 0.8 / len(drawn)
-    for index, (reader, name, colour) in enumerate(drawn):
-        places = [place + (index - (len(drawn) - 1) / 2) * width for place in range(len(sizes))]
-        heights = [measured[reader] for measured in sizes.values()]
-        axes.bar(places, heights, width, color=colour, label=name)
-    axes.set_title(kind, fontsize=10)
-    axes.set_xticks(range(len(sizes)), sizes)
-    axes.set_xlim(-0.6, 2.6)
-    axes.set_yscale("log")
-    axes.set_axisbelow(True)
-    axes.grid(axis="y", color="#e0e0e0")
-    axes.spines[["top", "right"]].set_visible(False)
+        rates_of_readers = [figures.rounded(measured[reader]) for reader in READERS]
+        rows.append([document, *rates_of_readers, f"{times:.1f}"])
+    return figures.table_of(["document", *names, "times the fastest other"], rows)
 
 
 def draw_picture(picture, rates, caption):
@@ -99,6 +43,7 @@ def draw_picture(picture, rates, caption):
     for document, measured in rates.items():
         kind, size = document.split("/")
         kinds[kind][size] = measured
+    drawn = [(reader, *look) for reader, look in READERS.items() if look[1]]
     # The same figures make the same file, with text that stays text.
     plot.rcParams.update({"svg.hashsalt": "vorn", "svg.fonttype": "none", "font.size": 9})
     figure, panels = plot.subplots(2, 3, figsize=(10, 6.4), sharey=True)
@@ -106,7 +51,9 @@ def draw_picture(picture, rates, caption):
         left=0.07, right=0.99, bottom=0.1, top=0.88, wspace=0.05, hspace=0.3
     )
     for axes, (kind, sizes) in zip(panels.flat, kinds.items(), strict=True):
-        draw(axes, kind, sizes)
+        figures.bars(axes, drawn, sizes)
+        axes.set_title(kind, fontsize=10)
+        axes.set_xlim(-0.6, 2.6)
     # Left to itself, the common axis ends far above the bars.
     fastest = max(rate for measured in rates.values() for rate in measured.values())
     panels[0, 0].set_ylim(1, 10 ** math.ceil(math.log10(fastest)))
@@ -126,10 +73,11 @@ def main():
     options = parser.parse_args()
 
     results = json.loads(options.results.read_text(encoding="utf-8"))
-    rates = rates_of(results)
-    caption = caption_of(results)
+    rates = figures.rates_of(results)
+    caption = figures.caption_of(results)
     draw_picture(options.picture, rates, caption)
-    write_page(options.page, options.picture, rates, caption)
+    content = f"\n![MB/s]({options.picture.name})\n\nMB/s; {caption}.\n\n{table_of(rates)}\n"
+    figures.write_part(options.page, "plot.py", content)
 
 
 if __name__ == "__main__":

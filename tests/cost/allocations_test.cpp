@@ -1,15 +1,15 @@
-// How often a reading asks for memory.  This program's allocation functions count.
+// How often a reading asks for memory.
 #include <gtest/gtest.h>
 
 #include <vorn/parsers/toml.h>
 
-#include <atomic>
 #include <cstdlib>
 #include <new>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "support/allocation_counter.h"
 #include "support/counting_visitor.h"
 #include "support/large_documents.h"
 
@@ -20,26 +20,6 @@ namespace
 
 constexpr long mostAllocations = 8;
 
-struct Counts
-{
-    std::atomic<long> allocations{0};
-    std::atomic<long> releases{0};
-};
-
-Counts counts;
-
-// How often memory is asked for and given back while this lives.
-class Counter
-{
-public:
-    long allocations() const { return counts.allocations - allocationsBefore_; }
-    long releases() const { return counts.releases - releasesBefore_; }
-
-private:
-    long allocationsBefore_ = counts.allocations;
-    long releasesBefore_ = counts.releases;
-};
-
 struct Use
 {
     long allocations;
@@ -49,7 +29,7 @@ struct Use
 Use useOf(const std::string& text)
 {
     test::CountingVisitor visitor;
-    const Counter counter;
+    const test::AllocationCounter counter;
     const bool accepted = visitTomlTree(text, visitor);
     const Use use = {counter.allocations(), counter.releases()};
     EXPECT_TRUE(accepted);
@@ -66,51 +46,9 @@ void expectFew(const std::string& what, const std::string& text)
 
 } // namespace
 
-// glibc's own functions, which these stand before.
-extern "C"
-{
-    void* __libc_malloc(std::size_t size);
-    void* __libc_calloc(std::size_t count, std::size_t size);
-    void* __libc_realloc(void* memory, std::size_t size);
-    void* __libc_memalign(std::size_t alignment, std::size_t size);
-    void __libc_free(void* memory);
-
-    void* malloc(std::size_t size)
-    {
-        ++counts.allocations;
-        return __libc_malloc(size);
-    }
-
-    void* calloc(std::size_t count, std::size_t size)
-    {
-        ++counts.allocations;
-        return __libc_calloc(count, size);
-    }
-
-    void* realloc(void* memory, std::size_t size)
-    {
-        ++counts.allocations;
-        counts.releases += memory != nullptr ? 1 : 0;
-        return __libc_realloc(memory, size);
-    }
-
-    void* aligned_alloc(std::size_t alignment, std::size_t size)
-    {
-        ++counts.allocations;
-        return __libc_memalign(alignment, size);
-    }
-
-    void free(void* memory)
-    {
-        counts.releases += memory != nullptr ? 1 : 0;
-        __libc_free(memory);
-    }
-}
-
-// The standard library's operator new asks malloc() itself.
 TEST(Allocations, areCounted)
 {
-    const Counter counter;
+    const test::AllocationCounter counter;
     void* volatile memory = std::malloc(1);
     std::free(memory);
     EXPECT_EQ(counter.allocations(), 1);
@@ -121,7 +59,7 @@ TEST(Allocations, areCounted)
 
     // A document with a mistake is read by the recognisers, which take memory for all.
     test::CountingVisitor visitor;
-    const Counter pipeline;
+    const test::AllocationCounter pipeline;
     EXPECT_FALSE(visitTomlTree(test::repeated("a = 1\n", 1000) + "a = 1", visitor));
     EXPECT_GT(pipeline.allocations(), mostAllocations);
 }
@@ -182,7 +120,7 @@ TEST(Allocations, areTakenBackWhenTheVisitorThrows)
     for (int round = 0; round < 2; ++round)
     {
         ThrowingVisitor visitor;
-        const Counter counter;
+        const test::AllocationCounter counter;
         try
         {
             visitTomlTree(text, visitor);
