@@ -1,6 +1,7 @@
 // Reads the configuration of a network into structs and prints it: config_reader FILE
 //
-// What is wrong with it is told on standard error, with its place.
+// What is wrong with it is told on standard error, with its place.  For editors,
+// config_reader --json-schema prints what such a file may have.
 //
 // Exit status: 0 done, 1 the configuration is wrong, 2 wrong usage.
 #include <vorn/parsers/toml_config.h>
@@ -181,8 +182,13 @@ int main(int argc, char** argv)
 {
     if (argc != 2)
     {
-        std::fputs("Usage: config_reader FILE\n", stderr);
+        std::fputs("Usage: config_reader FILE | --json-schema\n", stderr);
         return 2;
+    }
+    if (argv[1] == std::string("--json-schema"))
+    {
+        std::cout << toml::describe(example::networkSchema(), toml::Format::jsonSchema);
+        return 0;
     }
     example::NetworkConfig config;
     const std::vector<toml::Problem> problems =

@@ -112,16 +112,16 @@ def defaults_in(schema):
 
 
 class Checks:
-    def __init__(self, program, name, directory):
-        self.command = [program, name]
+    def __init__(self, command, option, directory):
+        self.command = command
         self.file = directory / "document.toml"
-        text = self.output("json-schema")
+        text = self.output(option)
         text.encode("ascii")
         self.schema = json.loads(text)
         jsonschema.Draft7Validator.check_schema(self.schema)
         self.validator = jsonschema.Draft7Validator(self.schema)
         if self.validator.META_SCHEMA["$schema"] != self.schema["$schema"]:
-            sys.exit(f"{name} is of {self.schema['$schema']}")
+            sys.exit(f"{command} writes one of {self.schema['$schema']}")
 
     def output(self, what):
         return subprocess.run([*self.command, what], capture_output=True, check=True,
@@ -148,11 +148,13 @@ class Checks:
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--program", required=True)
+    parser.add_argument("--config-reader", required=True)
+    parser.add_argument("--network", type=pathlib.Path, required=True)
     options = parser.parse_args()
     count = defaults = 0
     with tempfile.TemporaryDirectory() as name:
         for schema in READ:
-            checks = Checks(options.program, schema, pathlib.Path(name))
+            checks = Checks([options.program, schema], "json-schema", pathlib.Path(name))
             described = checks.output("toml")
             documents = [*READ[schema], with_examples(described)]
             if schema == "every":
@@ -163,6 +165,11 @@ def main():
                 checks.check(document, False)
             count += len(documents) + len(NOT_READ[schema])
             defaults += checks.check_defaults()
+        checks = Checks([options.config_reader], "--json-schema", pathlib.Path(name))
+        network = options.network.read_text(encoding="utf-8")
+        checks.check(network, True)
+        checks.check(network.replace("[dns]", "[dsn]"), False)
+        defaults += checks.check_defaults()
     print(f"{count} documents, {defaults} defaults")
     if count < 50 or defaults < 40:
         sys.exit("These are too few.")

@@ -77,8 +77,8 @@ TEST(ExamplePrograms, SayHowTheyAreUsed)
     const std::vector<Case> cases = {
         {{TOML_TO_JSON}, "Usage: toml_to_json FILE\n"},
         {{TOML_TO_JSON, example, example}, "Usage: toml_to_json FILE\n"},
-        {{CONFIG_READER}, "Usage: config_reader FILE\n"},
-        {{CONFIG_READER, example, example}, "Usage: config_reader FILE\n"},
+        {{CONFIG_READER}, "Usage: config_reader FILE | --json-schema\n"},
+        {{CONFIG_READER, example, example}, "Usage: config_reader FILE | --json-schema\n"},
     };
     for (const Case& c : cases)
     {
