@@ -80,7 +80,6 @@ public:
 
     void report(const Slot& slot, Spot spot, std::string&& message, std::string&& hint = {});
     Spot spotOf(std::size_t offset) const { return {source_, offset}; }
-    const Containers& containers() const { return containers_; }
 
 private:
     void findInMap(std::uint32_t map, std::string_view name, Slot& slot);
