@@ -102,7 +102,7 @@ std::vector<Problem> readInto(Struct& config, Read read)
 //
 // Nothing is logged, and nothing is kept between calls: any number of threads may read by one
 // schema.  Throws std::bad_alloc if there is not enough memory, and what your checks throw.
-// Struct has to be copyable.
+// Struct has to be copyable, and made by Struct{}.
 //
 //   Config config;
 //   readConfig(FilePath("app.toml"), configSchema(), config).empty()   // true: config is filled
