@@ -158,6 +158,7 @@ TEST(NumberStorage, holdsNoDurationThatIsTooLong)
     using Tiny = std::chrono::duration<std::uint8_t>;
     const Entry seconds8 = entryOf<Tiny, seconds>();
     EXPECT_EQ(stored<Tiny>("255", seconds8).count(), 255);
+    EXPECT_EQ(stored<Tiny>("2.0", seconds8).count(), 2);
     EXPECT_FALSE(isHeld<Tiny>("256", seconds8));
     EXPECT_FALSE(isHeld<Tiny>("255.5", seconds8));
     EXPECT_FALSE(isHeld<Tiny>("-1", seconds8));
