@@ -46,6 +46,21 @@ TEST(Reader, takesDatesAndTimesOfAllKinds)
     EXPECT_FALSE(readOf("time = 07:32:00\n").time.date.has_value());
 }
 
+TEST(Reader, tellsValuesThatAreNoneInItsOwnWordsToo)
+{
+    const std::string date = "time = 1979-02-30\n";
+    EXPECT_EQ(toldOf(date),
+              "1:16: time: the day 30 does not exist (This month has the days 01 to 28.)\n");
+    // The diagnosis ends before it.
+    std::string names = "names = ['\x80'";
+    for (int i = 0; i < 1000; ++i)
+    {
+        names += ", '\x80'";
+    }
+    const std::string told = toldOf(names + "]\n" + date);
+    EXPECT_EQ(told.substr(told.find('\n') + 1), "2:8: time: 1979-02-30 has no value\n");
+}
+
 TEST(Reader, takesKeysOfAllKinds)
 {
     const EveryMember config =
