@@ -33,6 +33,8 @@ TEST(StrictFindings, areValuesThatThereAreNot)
     const Finding* const date = strict.noValueIn(4, 14);
     ASSERT_NE(date, nullptr);
     EXPECT_EQ(date->code, "date-does-not-exist");
+    EXPECT_EQ(strict.noValueIn(date->begin, date->begin + 1), date);
+    EXPECT_EQ(strict.noValueIn(4, date->begin), nullptr);
     const Finding* const escape = strict.noValueIn(19, 29);
     ASSERT_NE(escape, nullptr);
     EXPECT_EQ(escape->code, "escape-of-no-character");

@@ -180,4 +180,6 @@ TEST(NumberStorage, holdsTheLongestDuration)
     const Entry entry = entryOf<nanoseconds, nanoseconds>();
     EXPECT_EQ(stored<nanoseconds>("9223372036854775807", entry), nanoseconds::max());
     EXPECT_EQ(stored<nanoseconds>("-9223372036854775808", entry), nanoseconds::min());
+    EXPECT_EQ(stored<nanoseconds>("-9223372036854775808.0", entry), nanoseconds::min());
+    EXPECT_FALSE(isHeld<nanoseconds>("9223372036854775808.0", entry));
 }
