@@ -67,7 +67,7 @@ void Closing::closeOne(std::uint32_t number)
 Spot Closing::spotOf(std::uint32_t number, std::uint32_t node) const
 {
     const Container& container = containers_[number];
-    for (; node != 0 && node != none; node = container.table->nodes[node].parent)
+    for (; node != none; node = container.table->nodes[node].parent)
     {
         if (const Member& member = containers_.member(number, node); member.isThere)
         {

@@ -5,6 +5,7 @@
 
 #include <vorn/parsers/toml_values.h>
 
+#include "digits.h"
 #include "shown_text.h"
 
 namespace vorn::parsers::toml::config
@@ -14,8 +15,7 @@ namespace
 
 bool isBare(char c)
 {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' ||
-           c == '-';
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || isDigit(c) || c == '_' || c == '-';
 }
 
 std::size_t bareEnd(std::string_view text, std::size_t begin)
@@ -32,7 +32,7 @@ std::size_t bareEnd(std::string_view text, std::size_t begin)
 bool isBareKey(std::string_view text)
 {
     return !text.empty() && bareEnd(text, 0) == text.size() && text[0] != '-' &&
-           !(text[0] >= '0' && text[0] <= '9') && text != "true" && text != "false" &&
+           !isDigit(text[0]) && text != "true" && text != "false" &&
            text != "inf" && text != "nan";
 }
 

@@ -41,12 +41,13 @@ double countOf(double number, const Entry& entry)
            static_cast<double>(entry.unitDenominator);
 }
 
-// The integer next to a number, if the number is one but for the last digits of its fraction,
-// which 0.1 has in binary.
+// The integer next to a number, if the number is one but for the last bits of its fraction, which
+// a text like 0.1 and each conversion of its unit may get wrong.
 std::optional<std::int64_t> wholeOf(double number)
 {
     const double whole = std::nearbyint(number);
-    if (std::abs(number - whole) > 1e-9 * std::max(1.0, std::abs(number)))
+    constexpr double tolerance = 4 * std::numeric_limits<double>::epsilon();
+    if (std::abs(number - whole) > tolerance * std::abs(number))
     {
         return std::nullopt;
     }
@@ -110,6 +111,11 @@ bool canStore(const Number& number, const Type& type, const Entry& entry)
                                : std::numeric_limits<double>::max();
         const bool isFinite = std::isfinite(number.floating);
         return isFinite ? count <= max : type.kind == Kind::floating;
+    }
+    // The double that is nearest to the last integers is beyond them.
+    if (const auto count = number.isInteger ? countOf(number.integer, entry) : std::nullopt; count)
+    {
+        return *count >= type.min && *count <= type.max;
     }
     return isWithinInteger(countOf(number.floating, entry), type);
 }

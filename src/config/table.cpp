@@ -43,7 +43,7 @@ bool areOfType(const std::vector<Choice>& choices, const Type* type)
 // Whether a node can hold another entry: it has none, and no ancestor of it has one.
 bool isFree(const Table& table, std::uint32_t node)
 {
-    if (!table.nodes[node].children.empty() || table.nodes[node].entry != none)
+    if (!table.nodes[node].children.empty())
     {
         return false;
     }

@@ -1,7 +1,10 @@
 #include <gtest/gtest.h>
 #include <vorn/parsers/toml_config.h>
 
+#include <array>
 #include <cstddef>
+#include <limits>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -188,6 +191,41 @@ Schema<Odd> oddSchema()
 
 } // namespace
 
+TEST(DescribeInMarkdown, HasTheDefaultsOfStructsWithin)
+{
+    struct Outer
+    {
+        Item item{80};
+        std::map<std::string, Item> items;
+        std::array<int, 1> one{5};
+    };
+    const auto item = Schema<Item>().optional("port", &Item::port);
+    const auto schema = Schema<Outer>()
+                            .table("item", &Outer::item, item, "The one.")
+                            .tablesByName("items", &Outer::items, item)
+                            .optional("one", &Outer::one);
+    EXPECT_EQ(describe(schema), R"(# Configuration
+
+| Key | Value | Default | Description |
+|---|---|---|---|
+| `one` | an array of integers, 1 element, each -2147483648 to 2147483647 | `[5]` |  |
+
+## `[item]`
+
+The one.
+
+| Key | Value | Default | Description |
+|---|---|---|---|
+| `port` | an integer, -2147483648 to 2147483647 | `80` |  |
+
+## `[items.NAME]`
+
+| Key | Value | Default | Description |
+|---|---|---|---|
+| `port` | an integer, -2147483648 to 2147483647 | `0` |  |
+)");
+}
+
 TEST(DescribeInMarkdown, EscapesWhatEndsACell)
 {
     const std::string text = describe(oddSchema());
@@ -207,6 +245,19 @@ TEST(DescribeInJsonSchema, IsInAscii)
     {
         EXPECT_TRUE(c == '\n' || (c >= ' ' && c <= '~')) << text;
     }
+}
+
+TEST(DescribeInJsonSchema, HasNoLimitThatIsInfinite)
+{
+    struct Ratio
+    {
+        double ratio = 1;
+    };
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const auto schema = Schema<Ratio>().optional("ratio", &Ratio::ratio, range(0.5, infinity));
+    const std::string text = describe(schema, Format::jsonSchema);
+    EXPECT_NE(text.find("\"minimum\": 0.5"), std::string::npos) << text;
+    EXPECT_EQ(text.find("\"maximum\""), std::string::npos) << text;
 }
 
 TEST(DescribeInJsonSchema, LetsUnknownKeysBeWhereTheSchemaDoes)

@@ -48,6 +48,18 @@ TEST(ReadConfigFile, tellsWhyAFileCannotBeRead)
               folder + ": cannot be read: Is a directory\n");
 }
 
+TEST(ReadConfigFile, isNotReadByAWrongSchema)
+{
+    struct Wrong
+    {
+        int value = 0;
+    };
+    Wrong config;
+    const auto schema = toml::Schema<Wrong>().optional("a b", &Wrong::value);
+    EXPECT_EQ(test::told(toml::readConfig(FilePath("none.toml"), schema, config)),
+              "the schema is wrong: a b is not a key\n");
+}
+
 TEST(ReadConfigs, letsLaterFilesOverride)
 {
     const test::TemporaryDirectory directory;

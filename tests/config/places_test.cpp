@@ -151,6 +151,9 @@ TEST(Places, OfCopies)
             // The visitor stays where it is.
             PlacedVisitor::operator=(PlacedVisitor());
             expectPlace(place(), 1, 5, 4);
+            const PlacedVisitor& same = *this;
+            PlacedVisitor::operator=(same);
+            expectPlace(place(), 1, 5, 4);
         }
         std::vector<PlacedVisitor> copies;
     };

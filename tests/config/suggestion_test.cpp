@@ -41,5 +41,6 @@ TEST(Suggestion, isNotLookedForInLongNames)
 {
     const std::string name(41, 'a');
     EXPECT_EQ(didYouMean(name, {name}), "");
+    EXPECT_EQ(didYouMean(name.substr(1), {name}), "");
     EXPECT_EQ(didYouMean(name.substr(1), {name.substr(1)}), "did you mean " + name.substr(1) + "?");
 }

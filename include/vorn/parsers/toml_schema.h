@@ -147,7 +147,7 @@ VORN_TOML_CONFIG_API std::shared_ptr<Table> makeTable(WithDefault withDefault);
 VORN_TOML_CONFIG_API void addEntry(Table& table, Entry&& entry);
 VORN_TOML_CONFIG_API void addCheck(Table& table, Check&& check, std::vector<std::string>&& paths);
 VORN_TOML_CONFIG_API void setUnknownKeys(Table& table, Unknown unknown);
-// "seconds", "milliseconds", or "times 1/60 seconds" for one without a name.
+// "seconds", "milliseconds", or "1/60 seconds" for one without a name.
 VORN_TOML_CONFIG_API std::string nameOfUnit(long long numerator, long long denominator);
 
 // How far a member is from the start of its struct.
