@@ -56,7 +56,7 @@ Complaint assignNumber(const Scalar& scalar, const Type& type, const Entry& entr
         return wrongKind(scalar, type, entry);
     }
     const std::optional<Number> number = isInteger ? integerOf(scalar.text) : floatOf(scalar.text);
-    if (!number || !isWithin(*number, entry) || !canStore(*number, type, entry))
+    if (!number || !isWithin(*number, type, entry) || !canStore(*number, type, entry))
     {
         return outOfRange(scalar, type, entry);
     }

@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+#include "shown_text.h"
+
 namespace vorn::parsers::toml::config
 {
 namespace
@@ -146,7 +148,7 @@ void Closing::checkMember(std::uint32_t number)
     {
         return;
     }
-    std::string complaint = slot.entry->check(slot.object);
+    std::string complaint = printable(slot.entry->check(slot.object));
     if (!complaint.empty())
     {
         report(number, slot.spot, containers_.pathOf(number), std::move(complaint));
@@ -162,7 +164,7 @@ void Closing::checkTable(std::uint32_t number)
         {
             return;
         }
-        std::string complaint = check.check(containers_[number].object);
+        std::string complaint = printable(check.check(containers_[number].object));
         if (complaint.empty())
         {
             continue;

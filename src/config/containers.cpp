@@ -128,7 +128,7 @@ std::string Containers::pathOf(const Slot& slot) const
     std::string path = slot.parent == none ? std::string() : pathOf(slot.parent);
     if (slot.key != nullptr)
     {
-        addKey(path, *slot.key);
+        addShownKey(path, *slot.key);
     }
     else if (slot.index != none)
     {

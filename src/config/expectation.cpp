@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <string_view>
 #include <tuple>
 
@@ -55,6 +56,21 @@ std::string nounOf(const Type& type, const Entry& entry, bool isPlural)
     return noun.append(end);
 }
 
+// The shortest text that is read as the same number.
+template <typename Number>
+std::string shortest(Number number)
+{
+    std::array<char, 32> text{};
+    const char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+    return {text.data(), static_cast<std::size_t>(end - text.data())};
+}
+
+bool isFloat(double number)
+{
+    return std::abs(number) <= static_cast<double>(std::numeric_limits<float>::max()) &&
+           static_cast<double>(static_cast<float>(number)) == number;
+}
+
 } // namespace
 
 const char* nameOf(ScalarKind kind)
@@ -87,7 +103,13 @@ std::string expectationOf(const Type& type, const Entry& entry)
 
 std::string limitText(const Limit& limit)
 {
-    return limit.isInteger ? std::to_string(limit.integer) : textOf(limit.floating);
+    if (limit.isInteger)
+    {
+        return std::to_string(limit.integer);
+    }
+    // One that was a float has the text of the float: 0.7, not the double next to it.
+    return isFloat(limit.floating) ? shortest(static_cast<float>(limit.floating))
+                                   : textOf(limit.floating);
 }
 
 std::string limitsOf(const Type& type, const Entry& entry)
@@ -121,9 +143,7 @@ std::string textOf(double number)
     {
         return number < 0 ? "-inf" : "inf";
     }
-    std::array<char, 32> text{};
-    const char* const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
-    return {text.data(), static_cast<std::size_t>(end - text.data())};
+    return shortest(number);
 }
 
 std::string nameOfUnit(long long numerator, long long denominator)

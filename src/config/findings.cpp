@@ -52,7 +52,9 @@ const StrictFindings::Found& StrictFindings::found()
         DiagnosisOptions options;
         options.strict = true;
         options.maxFindings = Problems::max;
-        for (Finding& finding : diagnose(document_, options))
+        std::vector<Finding> findings = diagnose(document_, options);
+        found_.areCut = findings.size() == options.maxFindings;
+        for (Finding& finding : findings)
         {
             if (isOneOf(twiceCodes, finding))
             {

@@ -20,6 +20,8 @@ public:
 
     // Keys and tables that are defined twice.
     const std::vector<Finding>& definedTwice() { return found().definedTwice; }
+    // Whether there is too much to look for more.
+    bool areCut() { return found().areCut; }
     // What is told of a scalar or a key that has no value, like the 30th of February; null if
     // that is nothing.
     const Finding* noValueIn(std::size_t begin, std::size_t end);
@@ -28,6 +30,7 @@ private:
     struct Found
     {
         bool isDone = false;
+        bool areCut = false;
         std::vector<Finding> definedTwice;
         std::vector<Finding> noValues;
     };

@@ -32,8 +32,7 @@ std::size_t bareEnd(std::string_view text, std::size_t begin)
 bool isBareKey(std::string_view text)
 {
     return !text.empty() && bareEnd(text, 0) == text.size() && text[0] != '-' &&
-           !isDigit(text[0]) && text != "true" && text != "false" &&
-           text != "inf" && text != "nan";
+           !isDigit(text[0]) && text != "true" && text != "false" && text != "inf" && text != "nan";
 }
 
 // Where a quoted key ends, after its quote; npos if it does not.
@@ -95,6 +94,13 @@ void addKey(std::string& path, std::string_view name)
         path += '.';
     }
     path += keyOf(name);
+}
+
+void addShownKey(std::string& path, std::string_view name)
+{
+    constexpr std::size_t max = 60;
+    addKey(path, name.size() <= max ? name : name.substr(0, max));
+    path += name.size() <= max ? "" : "...";
 }
 
 } // namespace vorn::parsers::toml::config

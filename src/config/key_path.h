@@ -17,5 +17,7 @@ std::string keyOf(std::string_view name);
 
 // Adds a key to a path.
 void addKey(std::string& path, std::string_view name);
+// The same for messages: of a long name its start.
+void addShownKey(std::string& path, std::string_view name);
 
 } // namespace vorn::parsers::toml::config

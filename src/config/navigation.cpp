@@ -61,7 +61,8 @@ Slot Navigation::find(Position position, const Key& key, How how)
     slot.parent = position.container;
     Member& member = containers_.member(slot.parent, slot.node);
     isSuspicious_ = member.definition.add(how) || isSuspicious_;
-    if (!member.isThere)
+    // A later document overrides an earlier one.
+    if (!member.isThere || member.spot.source != source_)
     {
         member.isThere = true;
         member.spot = slot.spot;
@@ -107,6 +108,10 @@ Position Navigation::enter(const Slot& slot, Spot spot, const char* found)
     if (container == none)
     {
         container = containers_.open(slot, *content.type, content.object, slot.entry->table.get());
+    }
+    else if (containers_[container].slot.spot.source != source_)
+    {
+        containers_[container].slot.spot = slot.spot;
     }
     return {container};
 }
@@ -261,7 +266,7 @@ void Navigation::describeUnknown(Position position, const Key& key, Problem& pro
     {
         problem.path += (problem.path.empty() ? "" : ".") + node.path;
     }
-    addKey(problem.path, key.name);
+    addShownKey(problem.path, key.name);
     problem.message = "unknown key";
     std::vector<std::string_view> names;
     std::transform(node.children.begin(), node.children.end(), std::back_inserter(names),

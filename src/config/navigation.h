@@ -79,7 +79,7 @@ public:
     void closeElement(std::uint32_t list);
 
     void report(const Slot& slot, Spot spot, std::string&& message, std::string&& hint = {});
-    Spot spotOf(std::size_t offset) const { return {source_, offset}; }
+    Spot spotOf(std::size_t offset) const { return {source_, static_cast<std::uint32_t>(offset)}; }
 
 private:
     void findInMap(std::uint32_t map, std::string_view name, Slot& slot);

@@ -11,6 +11,14 @@ namespace vorn::parsers::toml::config
 namespace
 {
 
+// Half a unit beyond the last float: what is below it is rounded to that.
+constexpr double floatEnd = 0x1.ffffffp127;
+
+bool isFloat(const Type& type)
+{
+    return type.kind == Kind::floating && type.size == sizeof(float);
+}
+
 bool isBelow(const Number& number, const Limit& limit)
 {
     return number.isInteger && limit.isInteger ? number.integer < limit.integer
@@ -91,10 +99,19 @@ std::optional<Number> floatOf(std::string_view text)
     return value ? std::optional<Number>({false, 0, *value}) : std::nullopt;
 }
 
-bool isWithin(const Number& number, const Entry& entry)
+bool isWithin(const Number& number, const Type& type, const Entry& entry)
 {
-    return !entry.range ||
-           !(isBelow(number, entry.range->first) || isAbove(number, entry.range->second));
+    if (!entry.range)
+    {
+        return true;
+    }
+    Number stored = number;
+    if (isFloat(type) && std::abs(number.floating) < floatEnd)
+    {
+        // The limits are of the member: 0.7 as a float is not beyond 0.7F.
+        stored = {false, 0, static_cast<double>(static_cast<float>(number.floating))};
+    }
+    return !(isBelow(stored, entry.range->first) || isAbove(stored, entry.range->second));
 }
 
 bool canStore(const Number& number, const Type& type, const Entry& entry)
@@ -106,11 +123,8 @@ bool canStore(const Number& number, const Type& type, const Entry& entry)
     if (type.isFloating)
     {
         const double count = std::abs(countOf(number.floating, entry));
-        const double max = type.size == sizeof(float)
-                               ? static_cast<double>(std::numeric_limits<float>::max())
-                               : std::numeric_limits<double>::max();
-        const bool isFinite = std::isfinite(number.floating);
-        return isFinite ? count <= max : type.kind == Kind::floating;
+        const bool fits = type.size == sizeof(float) ? count < floatEnd : std::isfinite(count);
+        return std::isfinite(number.floating) ? fits : type.kind == Kind::floating;
     }
     // The double that is nearest to the last integers is beyond them.
     if (const auto count = number.isInteger ? countOf(number.integer, entry) : std::nullopt; count)

@@ -23,7 +23,7 @@ std::optional<Number> integerOf(std::string_view text);
 std::optional<Number> floatOf(std::string_view text);
 
 // Whether it is within the range of the entry, if that has one.
-bool isWithin(const Number& number, const Entry& entry);
+bool isWithin(const Number& number, const Type& type, const Entry& entry);
 
 // Whether the type holds numbers of that size.
 bool canStore(const Number& number, const Type& type, const Entry& entry);

@@ -15,7 +15,7 @@ namespace vorn::parsers::toml::config
 struct Spot
 {
     std::uint32_t source = 0; // the text or file, by its number
-    std::size_t offset = 0;
+    std::uint32_t offset = 0; // documents are smaller than four gigabytes
 };
 
 // A document, and the file that it is from.

@@ -55,6 +55,10 @@ public:
         if (navigation_.isSuspicious() || !findings.empty())
         {
             add(number, strict.definedTwice());
+            if (strict.areCut())
+            {
+                addUnknownRest(number, text.size());
+            }
         }
         navigation_.endSource();
     }
@@ -74,8 +78,17 @@ private:
     {
         for (const Finding& finding : findings)
         {
-            problems_.add({number, finding.begin}, problemOf(finding));
+            problems_.add({number, static_cast<std::uint32_t>(finding.begin)}, problemOf(finding));
         }
+    }
+
+    // A document with so many faults may have keys that are defined twice.
+    void addUnknownRest(std::uint32_t number, std::size_t end)
+    {
+        Problem problem;
+        problem.message =
+            "has more than 1,000 mistakes by TOML 1.0, so that not all are looked for";
+        problems_.add({number, static_cast<std::uint32_t>(end)}, std::move(problem));
     }
 
     Problems problems_;

@@ -6,6 +6,7 @@
 #include <vorn/parsers/toml_values.h>
 
 #include "assignment.h"
+#include "shown_text.h"
 
 namespace vorn::parsers::toml::config
 {
@@ -214,7 +215,7 @@ void Reader::scalar(const Scalar& scalar)
     }
     if (complaint.message.empty() && slot.node != none && slot.entry->check)
     {
-        complaint.message = slot.entry->check(slot.object);
+        complaint.message = printable(slot.entry->check(slot.object));
     }
     if (!complaint.message.empty())
     {

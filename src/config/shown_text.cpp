@@ -54,6 +54,25 @@ std::string escape(std::uint32_t code)
     return text;
 }
 
+// Adds the first character of a text.
+void addPrintable(std::string& result, std::string_view text)
+{
+    const Character character = characterAt(text);
+    if (!character.isValid)
+    {
+        result += "\\x";
+        addHex(result, character.code, 2);
+    }
+    else if (isInvisible(character.code))
+    {
+        result += escape(character.code);
+    }
+    else
+    {
+        result += text.substr(0, character.size);
+    }
+}
+
 } // namespace
 
 std::string shown(std::string_view text)
@@ -66,21 +85,21 @@ std::string shown(std::string_view text)
         {
             return result + "...";
         }
-        const Character character = characterAt(text);
-        if (!character.isValid)
-        {
-            result += "\\x";
-            addHex(result, character.code, 2);
-        }
-        else if (isInvisible(character.code))
-        {
-            result += escape(character.code);
-        }
-        else
-        {
-            result += text.substr(0, character.size);
-        }
-        text.remove_prefix(character.size);
+        const std::size_t size = characterAt(text).size;
+        addPrintable(result, text);
+        text.remove_prefix(size);
+    }
+    return result;
+}
+
+std::string printable(std::string_view text)
+{
+    std::string result;
+    while (!text.empty())
+    {
+        const std::size_t size = characterAt(text).size;
+        addPrintable(result, text);
+        text.remove_prefix(size);
     }
     return result;
 }

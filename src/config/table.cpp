@@ -4,6 +4,7 @@
 #include <numeric>
 #include <utility>
 
+#include "entry_fault.h"
 #include "key_path.h"
 
 namespace vorn::parsers::toml::config
@@ -29,15 +30,14 @@ std::uint32_t addNode(Table& table, std::uint32_t parent, const std::string& nam
     return added;
 }
 
-// The choices of an entry are of the type that is in its member.
-bool areOfType(const std::vector<Choice>& choices, const Type* type)
+// Schemas cannot be within themselves: each addition is checked.
+// NOLINTNEXTLINE(misc-no-recursion)
+bool isWithin(const Table& table, const Table& outer)
 {
-    while (type->element != nullptr)
-    {
-        type = type->element;
-    }
-    return std::all_of(choices.begin(), choices.end(),
-                       [type](const Choice& choice) { return choice.type() == type; });
+    return &table == &outer ||
+           std::any_of(outer.entries.begin(), outer.entries.end(),
+                       [&table](const Entry& entry)
+                       { return entry.table != nullptr && isWithin(table, *entry.table); });
 }
 
 // Whether a node can hold another entry: it has none, and no ancestor of it has one.
@@ -82,7 +82,12 @@ void addEntry(Table& table, Entry&& entry)
     const auto names = namesIn(entry.path);
     if (!names)
     {
-        table.mistakes.push_back(entry.path + " is not a key");
+        table.mistakes.push_back("'" + entry.path + "' is not a key");
+        return;
+    }
+    if (entry.table != nullptr && isWithin(table, *entry.table))
+    {
+        table.mistakes.push_back(entry.path + " is within itself");
         return;
     }
     const std::uint32_t node =
@@ -94,9 +99,10 @@ void addEntry(Table& table, Entry&& entry)
         table.mistakes.push_back(entry.path + " has two meanings");
         return;
     }
-    if (!areOfType(entry.choices, entry.type))
+    narrowRange(entry);
+    if (std::string fault = faultOf(entry); !fault.empty())
     {
-        table.mistakes.push_back("the choices of " + entry.path + " are of another type");
+        table.mistakes.push_back(std::move(fault));
     }
     table.nodes[node].entry = static_cast<std::uint32_t>(table.entries.size());
     table.entries.push_back(std::move(entry));

@@ -57,7 +57,7 @@ TEST(ReadConfigFile, isNotReadByAWrongSchema)
     Wrong config;
     const auto schema = toml::Schema<Wrong>().optional("a b", &Wrong::value);
     EXPECT_EQ(test::told(toml::readConfig(FilePath("none.toml"), schema, config)),
-              "the schema is wrong: a b is not a key\n");
+              "the schema is wrong: 'a b' is not a key\n");
 }
 
 TEST(ReadConfigs, letsLaterFilesOverride)
@@ -128,4 +128,15 @@ TEST(ReadConfigs, fillsAStructFromTablesInSeveralFiles)
     EXPECT_EQ(config.center->y, 1.0);
     EXPECT_EQ(config.named.at("a").begin, 5);
     EXPECT_EQ(config.named.at("a").end, 6);
+}
+
+// What a later file has is what a check is about.
+TEST(ReadConfigs, tellsThePlaceThatOverrides)
+{
+    const test::TemporaryDirectory directory;
+    const FilePath one(directory.write("1.toml", "[named.a]\nbegin = 1\nend = 8\n"));
+    const FilePath two(directory.write("2.toml", "[named.a]\nend = 0\n"));
+    test::EveryMember config;
+    EXPECT_EQ(test::told(toml::readConfigs({one, two}, test::everySchema(), config)),
+              two.string() + ":2:1: named.a.end, named.a.begin: end is before begin\n");
 }

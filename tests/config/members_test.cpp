@@ -62,6 +62,8 @@ TEST(Members, areFloats)
     EXPECT_EQ(config.ratio, 0.5F);
     EXPECT_EQ(config.exact, 3.0);
     EXPECT_EQ(readOf("exact = -inf\n").exact, -std::numeric_limits<double>::infinity());
+    // The shortest text of the last float.
+    EXPECT_EQ(readOf("ratio = 3.4028235e38\n").ratio, std::numeric_limits<float>::max());
     EXPECT_EQ(readOf("ratio = inf\n").ratio, std::numeric_limits<float>::infinity());
     EXPECT_EQ(toldOf("ratio = 1e39\nexact = 1e400\n"),
               "1:9: ratio: 1e39 is out of range\n2:9: exact: 1e400 is out of range\n");

@@ -33,7 +33,7 @@ bool isWithin(const std::string& text, Range<Value> range)
 {
     Entry entry;
     config::apply<Value>(entry, range);
-    return config::isWithin(numberOf(text), entry);
+    return config::isWithin(numberOf(text), config::typeOf<Value>, entry);
 }
 
 // An entry of a duration, whose number counts this unit.
@@ -89,7 +89,7 @@ TEST(NumberStorage, readsNumbers)
 
 TEST(NumberStorage, knowsRanges)
 {
-    EXPECT_TRUE(config::isWithin(numberOf("nan"), Entry{}));
+    EXPECT_TRUE(config::isWithin(numberOf("nan"), config::typeOf<double>, Entry{}));
     EXPECT_FALSE(isWithin("0", range(1, 5)));
     EXPECT_TRUE(isWithin("1", range(1, 5)));
     EXPECT_TRUE(isWithin("5", range(1, 5)));

@@ -2,9 +2,14 @@
 #include "every_member.h"
 #include "told_problems.h"
 
+#include "support/large_documents.h"
+
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <limits>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -110,9 +115,9 @@ TEST(Schema, tellsItsOwnMistakes)
 {
     const auto toldOfEmpty = [](const toml::Schema<Outer>& schema) { return toldOf("", schema); };
     EXPECT_EQ(toldOfEmpty(toml::Schema<Outer>().optional("a b", &Outer::name)),
-              "the schema is wrong: a b is not a key\n");
+              "the schema is wrong: 'a b' is not a key\n");
     EXPECT_EQ(toldOfEmpty(toml::Schema<Outer>().optional("", &Outer::name)),
-              "the schema is wrong:  is not a key\n");
+              "the schema is wrong: '' is not a key\n");
     EXPECT_EQ(toldOfEmpty(toml::Schema<Outer>()
                               .optional("a", &Outer::name)
                               .optional("a.b", &Outer::name)
@@ -128,6 +133,69 @@ TEST(Schema, tellsItsOwnMistakes)
     EXPECT_EQ(toldOf("", toml::Schema<EveryMember>().optional("color", &EveryMember::color,
                                                               toml::oneOf({{"one", Other::one}}))),
               "the schema is wrong: the choices of color are of another type\n");
+}
+
+TEST(Schema, tellsLimitsThatLeaveNothing)
+{
+    struct Limited
+    {
+        int integer = 0;
+        double number = 0;
+        Outer outer;
+        test::Color color = test::Color::red;
+    };
+    using L = Limited;
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_EQ(toldOf("", toml::Schema<L>()
+                             .optional("integer", &L::integer, toml::range(10, 1))
+                             .optional("number", &L::number, toml::range(0.0, nan))
+                             .optional("color", &L::color, toml::oneOf({}))
+                             .optional("again", &L::color,
+                                       toml::oneOf({{"red", test::Color::red},
+                                                    {"red", test::Color::green}}))),
+              "the schema is wrong: the range of integer is empty\n"
+              "the schema is wrong: the range of number is empty\n"
+              "the schema is wrong: color has no choices\n"
+              "the schema is wrong: again has the choice red twice\n");
+}
+
+// Otherwise there would be no end to it.
+TEST(Schema, isNotWithinItself)
+{
+    struct Node
+    {
+        std::vector<Node> children;
+    };
+    toml::Schema<Node> schema;
+    schema.tables("children", &Node::children, schema);
+    EXPECT_EQ(toldOf("", schema), "the schema is wrong: children is within itself\n");
+}
+
+TEST(Schema, tellsTheNarrowerLimits)
+{
+    struct Narrow
+    {
+        std::uint8_t byte = 0;
+        std::uint64_t size = 0;
+        float ratio = 0;
+    };
+    const toml::Schema<Narrow> schema =
+        toml::Schema<Narrow>()
+            .optional("byte", &Narrow::byte, toml::range(-5, 3000))
+            .optional("size", &Narrow::size, toml::range(1, std::uint64_t{0} - 1))
+            .optional("ratio", &Narrow::ratio, toml::range(0.0F, 0.7F));
+    EXPECT_EQ(toldOf("byte = 300\nsize = 0\nratio = 0.8\n", schema),
+              "1:8: byte: 300 is not in 0 to 255\n"
+              "2:8: size: 0 is not in 1 to 9223372036854775807\n"
+              "3:9: ratio: 0.8 is not in 0 to 0.7\n");
+    EXPECT_EQ(toldOf("byte = 255\nsize = 5\nratio = 0.7\n", schema), "");
+}
+
+TEST(Schema, showsWhatChecksSaySafely)
+{
+    const toml::Schema<Outer> schema = toml::Schema<Outer>().optional(
+        "name", &Outer::name, [](const std::string& name) { return "is " + name; });
+    EXPECT_EQ(toldOf("name = \"a\\nb\\u001b[2J\"\n", schema), "1:8: name: is a\\nb\\u001B[2J\n");
 }
 
 TEST(Schema, isSharedByItsCopies)
@@ -164,6 +232,27 @@ TEST(ReadConfig, leavesTheConfigurationAloneIfThereAreErrors)
     EXPECT_NE(test::told(toml::readConfig("number = 8\ntiny = 999\n", test::everySchema(), config)),
               "");
     EXPECT_EQ(config.number, 7);
+}
+
+// The diagnosis does not look for more than a thousand mistakes.
+TEST(ReadConfig, isNotSilentIfItCannotLookAtAll)
+{
+    const std::string text = test::repeated("# \f\n", 1000) + "on = true\non = false\n";
+    EveryMember config;
+    EXPECT_EQ(test::told(toml::readConfig(text, test::everySchema(), config)),
+              "1003:1: has more than 1,000 mistakes by TOML 1.0, so that not all are looked for\n");
+    EXPECT_FALSE(config.isOn);
+}
+
+TEST(ReadConfig, tellsTheStartsOfLongKeys)
+{
+    const std::string name(1000, 'k');
+    EveryMember config;
+    const auto problems =
+        toml::readConfig(name + " = 1\n[named." + name + "]\nx = 1\n", test::everySchema(), config);
+    const std::string start = name.substr(0, 60) + "...";
+    EXPECT_EQ(test::told(problems),
+              "1:1: " + start + ": unknown key\n3:1: named." + start + ".x: unknown key\n");
 }
 
 TEST(ReadConfig, tellsAtMostAThousandProblems)

@@ -82,10 +82,10 @@ TEST(Table, tellsNamesApartThatLookAlike)
 TEST(Table, remembersTheMistakesOfItsAuthor)
 {
     const auto table = tableOf({"a.b", "a", "a.b", "a.b.c", "a b", ""});
-    EXPECT_EQ(
-        mistakesOf(*table),
-        (std::vector<std::string>{"a has two meanings", "a.b has two meanings",
-                                  "a.b.c has two meanings", "a b is not a key", " is not a key"}));
+    EXPECT_EQ(mistakesOf(*table),
+              (std::vector<std::string>{"a has two meanings", "a.b has two meanings",
+                                        "a.b.c has two meanings", "'a b' is not a key",
+                                        "'' is not a key"}));
     EXPECT_EQ(table->entries.size(), 1U);
 }
 
@@ -101,7 +101,7 @@ TEST(Table, hasTheMistakesOfTablesWithin)
     entry.table = inner;
     addEntry(*table, std::move(entry));
     EXPECT_EQ(mistakesOf(*table),
-              (std::vector<std::string>{"a b is not a key", "c has a check, but is not a key",
+              (std::vector<std::string>{"'a b' is not a key", "c has a check, but is not a key",
                                         "d has a check, but is not a key"}));
 }
 

@@ -24,6 +24,7 @@
 
 #include <iosfwd>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -72,6 +73,8 @@ VORN_TOML_CONFIG_API bool haveErrors(const std::vector<Problem>& problems) noexc
 template <typename Struct, typename Read>
 std::vector<Problem> readInto(Struct& config, Read read)
 {
+    static_assert(std::is_copy_constructible_v<Struct> && std::is_move_assignable_v<Struct>,
+                  "the struct can be copied, and assigned to");
     Struct draft = config;
     std::vector<Problem> problems = read(&draft);
     if (!haveErrors(problems))

@@ -20,6 +20,7 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <limits>
 #include <map>
 #include <memory>
 #include <optional>
@@ -85,11 +86,12 @@ struct Unit
 
 // Limits the numbers that an entry may have: range(1, 65535), range(0.1, 60.0).  Of a list or a
 // map it limits each element, of a duration the number that the document has.
-template <typename Number>
-constexpr Range<Number> range(Number min, Number max)
+template <typename Min, typename Max>
+constexpr Range<std::common_type_t<Min, Max>> range(Min min, Max max)
 {
-    static_assert(std::is_arithmetic_v<Number>, "the limits are numbers");
-    return {min, max};
+    static_assert(std::is_arithmetic_v<Min> && std::is_arithmetic_v<Max>, "the limits are numbers");
+    using Number = std::common_type_t<Min, Max>;
+    return {static_cast<Number>(min), static_cast<Number>(max)};
 }
 
 // The names that the values of an enum have in documents, all there are:
@@ -156,15 +158,27 @@ std::size_t offsetOf(Member Owner::*member)
 {
     static_assert(std::is_base_of_v<Owner, Struct>, "the member is of the schema's struct");
     alignas(Struct) static char memory[sizeof(Struct)];
-    const auto* object = reinterpret_cast<const Struct*>(memory);
-    return static_cast<std::size_t>(reinterpret_cast<const char*>(&(object->*member)) - memory);
+    const void* const start = memory;
+    const void* const place = &(static_cast<const Struct*>(start)->*member);
+    return static_cast<std::size_t>(static_cast<const char*>(place) - memory);
 }
 
+// (Integers of TOML have 63 bits and a sign; what is beyond them is no limit.)
 template <typename Number>
 constexpr Limit limitOf(Number number)
 {
-    return {std::is_integral_v<Number>, static_cast<std::int64_t>(number),
-            static_cast<double>(number)};
+    if constexpr (std::is_integral_v<Number>)
+    {
+        constexpr auto last = std::numeric_limits<std::int64_t>::max();
+        const bool isBeyond =
+            number > 0 && static_cast<std::uint64_t>(number) > static_cast<std::uint64_t>(last);
+        const auto integer = isBeyond ? last : static_cast<std::int64_t>(number);
+        return {true, integer, static_cast<double>(integer)};
+    }
+    else
+    {
+        return {false, 0, static_cast<double>(number)};
+    }
 }
 
 template <typename T>
@@ -193,7 +207,8 @@ template <typename Member, typename Number>
 void apply(Entry& entry, const Range<Number>& range)
 {
     using Value = LeafOf<Member>;
-    static_assert(std::is_arithmetic_v<Value> || isDuration<Value>, "a range is of a number");
+    constexpr bool isNumber = std::is_arithmetic_v<Value> && !std::is_same_v<Value, bool>;
+    static_assert(isNumber || isDuration<Value>, "a range is of a number");
     static_assert(!std::is_integral_v<Value> || std::is_integral_v<Number>,
                   "the limits of an integer are integers");
     entry.range = {limitOf(range.min), limitOf(range.max)};
@@ -231,13 +246,17 @@ void apply(Entry& entry, const Argument& argument)
     }
     else
     {
-        static_assert(std::is_invocable_r_v<std::string, const Argument&, const Value&>,
-                      "a check takes the member and returns what is wrong with it");
-        entry.check = [argument](const void* member)
+        constexpr bool isCheck = std::is_invocable_r_v<std::string, const Argument&, const Value&>;
+        static_assert(isCheck, "what follows a member is range(), oneOf(), unit(), a description, "
+                               "or a check, which takes the member and returns a text");
+        if constexpr (isCheck)
         {
-            const auto& value = *static_cast<const Member*>(member);
-            return value.has_value() ? std::string(argument(*value)) : std::string();
-        };
+            entry.check = [argument](const void* member)
+            {
+                const auto& value = *static_cast<const Member*>(member);
+                return value.has_value() ? std::string(argument(*value)) : std::string();
+            };
+        }
     }
 }
 
@@ -259,7 +278,10 @@ template <typename Struct>
 class Schema
 {
 public:
-    Schema() : table_(config::makeTable(withDefault)) {}
+    Schema() : table_(config::makeTable(withDefault))
+    {
+        static_assert(std::is_default_constructible_v<Struct>, "the struct is made by Struct{}");
+    }
 
     // A key that a document must have.
     template <typename Member, typename Owner, typename... Arguments>
@@ -292,8 +314,9 @@ public:
     Schema& tables(std::string path, Member Owner::*member, const Schema<Inner>& schema,
                    const Arguments&... arguments)
     {
-        static_assert(std::is_same_v<typename Member::value_type, Inner>,
-                      "the member is a list of the schema's struct");
+        constexpr bool isList = config::typeOf<Member>.kind == config::Kind::list;
+        static_assert(isList && std::is_same_v<config::LeafOf<Member>, Inner>,
+                      "the member is a std::vector or a std::array of the schema's struct");
         return structs(std::move(path), member, schema, arguments...);
     }
 
@@ -302,8 +325,9 @@ public:
     Schema& tablesByName(std::string path, Member Owner::*member, const Schema<Inner>& schema,
                          const Arguments&... arguments)
     {
-        static_assert(std::is_same_v<typename Member::mapped_type, Inner>,
-                      "the member is a std::map of names to the schema's struct");
+        constexpr bool isMap = config::typeOf<Member>.kind == config::Kind::map;
+        static_assert(isMap && std::is_same_v<config::LeafOf<Member>, Inner>,
+                      "the member is a std::map of std::string to the schema's struct");
         return structs(std::move(path), member, schema, arguments...);
     }
 
@@ -341,7 +365,8 @@ private:
     {
         using Value = config::LeafOf<Member>;
         constexpr bool isStruct = config::typeOf<Value>.kind == config::Kind::table;
-        static_assert(!isStruct, "structs are added by table(), tables() or tablesByName()");
+        static_assert(!isStruct, "a schema cannot fill a member of this type; structs are added by "
+                                 "table(), tables() or tablesByName()");
         static_assert(!std::is_enum_v<Value> || (std::is_same_v<Arguments, Choices> || ...),
                       "the values of an enum have names: oneOf()");
         static_assert(!config::isDuration<Value> || (config::isUnit<Arguments> || ...),
