@@ -32,8 +32,7 @@ std::size_t bareEnd(std::string_view text, std::size_t begin)
 bool isBareKey(std::string_view text)
 {
     return !text.empty() && bareEnd(text, 0) == text.size() && text[0] != '-' &&
-           !isDigit(text[0]) && text != "true" && text != "false" &&
-           text != "inf" && text != "nan";
+           !isDigit(text[0]) && text != "true" && text != "false" && text != "inf" && text != "nan";
 }
 
 // Where a quoted key ends, after its quote; npos if it does not.
