@@ -11,11 +11,11 @@ namespace vorn::parsers::toml::config
 std::string describeTable(const Table& table, Format format)
 {
     Text text;
-    const auto describe = format == Format::toml         ? describeInToml
-                          : format == Format::jsonSchema ? describeInJsonSchema
-                                                         : describeInMarkdown;
+    const auto write = format == Format::toml         ? describeInToml
+                       : format == Format::jsonSchema ? describeInJsonSchema
+                                                      : describeInMarkdown;
     visitDefault(table,
-                 [&](const void* object, const std::string*) { describe(text, table, object); });
+                 [&](const void* object, const std::string*) { write(text, table, object); });
     return std::move(text.text);
 }
 

@@ -22,6 +22,7 @@ class ObjectVisitor
 public:
     template <typename Function>
     // NOLINTNEXTLINE(google-explicit-constructor): it is an argument.
+    // cppcheck-suppress noExplicitConstructor
     ObjectVisitor(const Function& function)
         : function_(&function),
           call_([](const void* context, const void* object, const std::string* name)

@@ -20,13 +20,12 @@ using Row = std::array<std::size_t, maxLength + 1>;
 // one to the other.
 std::size_t distanceOf(std::string_view one, std::string_view other)
 {
-    Row beforeLast{};
     Row last{};
     Row row{};
     std::iota(row.begin(), row.end(), std::size_t{0});
     for (std::size_t i = 1; i <= one.size(); ++i)
     {
-        beforeLast = last;
+        const Row beforeLast = last;
         last = row;
         row[0] = i;
         for (std::size_t j = 1; j <= other.size(); ++j)

@@ -19,7 +19,7 @@ using namespace toml::config;
 
 // The text of a value, after a '!' if it is not exact.
 template <typename Member>
-std::string textOf(const Member& member, const Entry& entry = {}, Syntax syntax = Syntax::toml)
+std::string scalarText(const Member& member, const Entry& entry = {}, Syntax syntax = Syntax::toml)
 {
     Text text;
     const bool isExact = addScalar(text, typeOf<Member>, entry, &member, syntax);
@@ -31,7 +31,7 @@ std::string durationText(const Member& member)
 {
     Entry entry;
     apply<Member>(entry, toml::unit<Unit>());
-    return textOf(member, entry);
+    return scalarText(member, entry);
 }
 
 toml::DateTime moment(const toml::Date& date, const toml::Time& time, int offset)
@@ -47,25 +47,25 @@ toml::DateTime moment(const toml::Date& date, const toml::Time& time, int offset
 
 TEST(ScalarText, isOfBooleansAndIntegers)
 {
-    EXPECT_EQ(textOf(true), "true");
-    EXPECT_EQ(textOf(false), "false");
-    EXPECT_EQ(textOf(std::int8_t{-128}), "-128");
-    EXPECT_EQ(textOf(std::uint32_t{4294967295}), "4294967295");
-    EXPECT_EQ(textOf(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808");
+    EXPECT_EQ(scalarText(true), "true");
+    EXPECT_EQ(scalarText(false), "false");
+    EXPECT_EQ(scalarText(std::int8_t{-128}), "-128");
+    EXPECT_EQ(scalarText(std::uint32_t{4294967295}), "4294967295");
+    EXPECT_EQ(scalarText(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808");
     // TOML has no larger one than 2^63-1.
-    EXPECT_EQ(textOf(std::numeric_limits<std::uint64_t>::max())[0], '!');
+    EXPECT_EQ(scalarText(std::numeric_limits<std::uint64_t>::max())[0], '!');
 }
 
 TEST(ScalarText, isOfFloats)
 {
-    EXPECT_EQ(textOf(0.1), "0.1");
-    EXPECT_EQ(textOf(0.1F), "0.1");
-    EXPECT_EQ(textOf(-0.0), "-0.0");
-    EXPECT_EQ(textOf(60.0), "60.0");
-    EXPECT_EQ(textOf(1e300), "1e+300");
-    EXPECT_EQ(textOf(-std::numeric_limits<float>::infinity()), "-inf");
-    EXPECT_EQ(textOf(std::nan("5")), "nan");
-    EXPECT_EQ(textOf(std::numeric_limits<float>::max()), "3.4028234663852886e+38");
+    EXPECT_EQ(scalarText(0.1), "0.1");
+    EXPECT_EQ(scalarText(0.1F), "0.1");
+    EXPECT_EQ(scalarText(-0.0), "-0.0");
+    EXPECT_EQ(scalarText(60.0), "60.0");
+    EXPECT_EQ(scalarText(1e300), "1e+300");
+    EXPECT_EQ(scalarText(-std::numeric_limits<float>::infinity()), "-inf");
+    EXPECT_EQ(scalarText(std::nan("5")), "nan");
+    EXPECT_EQ(scalarText(std::numeric_limits<float>::max()), "3.4028234663852886e+38");
 }
 
 TEST(ScalarText, isOfDurations)
@@ -92,26 +92,27 @@ TEST(ScalarText, isNotExactIfAUnitLosesDigits)
 
 TEST(ScalarText, isOfDatesAndTimes)
 {
-    EXPECT_EQ(textOf(moment({1979, 5, 27}, {7, 32, 0, 0}, 0)), "1979-05-27T07:32:00+00:00");
-    EXPECT_EQ(textOf(moment({1, 2, 3}, {4, 5, 6, 120000000}, -90)), "0001-02-03T04:05:06.12-01:30");
-    EXPECT_EQ(textOf(moment({9999, 12, 31}, {23, 59, 60, 7}, 23 * 60 + 59)),
+    EXPECT_EQ(scalarText(moment({1979, 5, 27}, {7, 32, 0, 0}, 0)), "1979-05-27T07:32:00+00:00");
+    EXPECT_EQ(scalarText(moment({1, 2, 3}, {4, 5, 6, 120000000}, -90)),
+              "0001-02-03T04:05:06.12-01:30");
+    EXPECT_EQ(scalarText(moment({9999, 12, 31}, {23, 59, 60, 7}, 23 * 60 + 59)),
               "9999-12-31T23:59:60.000000007+23:59");
     toml::DateTime value;
-    EXPECT_EQ(textOf(value), "!");
+    EXPECT_EQ(scalarText(value), "!");
     value.date = toml::Date{1979, 5, 27};
-    EXPECT_EQ(textOf(value), "1979-05-27");
-    EXPECT_EQ(textOf(value, {}, Syntax::json), "\"1979-05-27\"");
+    EXPECT_EQ(scalarText(value), "1979-05-27");
+    EXPECT_EQ(scalarText(value, {}, Syntax::json), "\"1979-05-27\"");
     value.date->day = 32;
-    EXPECT_EQ(textOf(value)[0], '!');
+    EXPECT_EQ(scalarText(value)[0], '!');
 }
 
 TEST(ScalarText, isOfStringsAndChoices)
 {
-    EXPECT_EQ(textOf(std::string("a\"\n\xf0\x9f\x98\x80")), R"("a\"\n\U0001F600")");
-    EXPECT_EQ(textOf(std::string("a\xf0\x9f\x98\x80"), {}, Syntax::json), R"("a\uD83D\uDE00")");
-    EXPECT_EQ(textOf(std::string("\xff"))[0], '!');
+    EXPECT_EQ(scalarText(std::string("a\"\n\xf0\x9f\x98\x80")), R"("a\"\n\U0001F600")");
+    EXPECT_EQ(scalarText(std::string("a\xf0\x9f\x98\x80"), {}, Syntax::json), R"("a\uD83D\uDE00")");
+    EXPECT_EQ(scalarText(std::string("\xff"))[0], '!');
     Entry entry;
     apply<test::Color>(entry, toml::oneOf({{"red", test::Color::red}}));
-    EXPECT_EQ(textOf(test::Color::red, entry), "\"red\"");
-    EXPECT_EQ(textOf(test::Color::green, entry)[0], '!');
+    EXPECT_EQ(scalarText(test::Color::red, entry), "\"red\"");
+    EXPECT_EQ(scalarText(test::Color::green, entry)[0], '!');
 }

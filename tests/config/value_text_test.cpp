@@ -18,7 +18,7 @@ using namespace toml::config;
 
 // The text of a value, after a '!' if it is not exact.
 template <typename Member>
-std::string textOf(const Member& member, Syntax syntax = Syntax::toml)
+std::string valueText(const Member& member, Syntax syntax = Syntax::toml)
 {
     Text text;
     const bool isExact = addValue(text, typeOf<Member>, Entry{}, &member, syntax);
@@ -48,24 +48,24 @@ TEST(ValueText, isOfListsAndMaps)
 {
     using Rows = std::vector<std::vector<int>>;
     using Map = std::map<std::string, bool>;
-    EXPECT_EQ(textOf(Rows{{1, 2}, {3}}), "[[1, 2], [3]]");
-    EXPECT_EQ(textOf(std::vector<bool>{true, false}), "[true, false]");
-    EXPECT_EQ(textOf(Map{{"a", true}, {"b c", false}}), R"({a = true, "b c" = false})");
-    EXPECT_EQ(textOf(Map{{"a", true}, {"b c", false}}, Syntax::json),
+    EXPECT_EQ(valueText(Rows{{1, 2}, {3}}), "[[1, 2], [3]]");
+    EXPECT_EQ(valueText(std::vector<bool>{true, false}), "[true, false]");
+    EXPECT_EQ(valueText(Map{{"a", true}, {"b c", false}}), R"({a = true, "b c" = false})");
+    EXPECT_EQ(valueText(Map{{"a", true}, {"b c", false}}, Syntax::json),
               R"({"a": true, "b c": false})");
-    EXPECT_EQ(textOf(Map{{"\xff", true}}), R"(!{"\uFFFD" = true})");
+    EXPECT_EQ(valueText(Map{{"\xff", true}}), R"(!{"\uFFFD" = true})");
     // TOML, as it is here, has no empty ones.
-    EXPECT_EQ(textOf(std::vector<int>{}), "![]");
-    EXPECT_EQ(textOf(Rows{{1}, {}, {2}}), "![[1], [], [2]]");
-    EXPECT_EQ(textOf(Rows{{1}, {}}, Syntax::json), "[[1], []]");
-    EXPECT_EQ(textOf(Map{}), "!{}");
+    EXPECT_EQ(valueText(std::vector<int>{}), "![]");
+    EXPECT_EQ(valueText(Rows{{1}, {}, {2}}), "![[1], [], [2]]");
+    EXPECT_EQ(valueText(Rows{{1}, {}}, Syntax::json), "[[1], []]");
+    EXPECT_EQ(valueText(Map{}), "!{}");
 }
 
 TEST(ValueText, isOfOptionals)
 {
-    EXPECT_EQ(textOf(std::optional<int>(5)), "5");
-    EXPECT_EQ(textOf(std::optional<int>()), "!");
-    EXPECT_EQ(textOf(test::Point{}), "!");
+    EXPECT_EQ(valueText(std::optional<int>(5)), "5");
+    EXPECT_EQ(valueText(std::optional<int>()), "!");
+    EXPECT_EQ(valueText(test::Point{}), "!");
 }
 
 TEST(ValueText, isNotOfWhatACheckRefuses)
