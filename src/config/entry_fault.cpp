@@ -57,9 +57,8 @@ void narrowRange(Entry& entry)
     const Type& leaf = leafOf(entry);
     if (entry.range && leaf.kind == Kind::integer)
     {
-        auto& [min, max] = *entry.range;
-        min.integer = std::max(min.integer, leaf.min);
-        max.integer = std::min(max.integer, leaf.max);
+        entry.range->first.integer = std::max(entry.range->first.integer, leaf.min);
+        entry.range->second.integer = std::min(entry.range->second.integer, leaf.max);
     }
 }
 
