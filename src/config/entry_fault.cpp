@@ -57,8 +57,10 @@ void narrowRange(Entry& entry)
     const Type& leaf = leafOf(entry);
     if (entry.range && leaf.kind == Kind::integer)
     {
-        entry.range->first.integer = std::max(entry.range->first.integer, leaf.min);
-        entry.range->second.integer = std::min(entry.range->second.integer, leaf.max);
+        auto [min, max] = *entry.range;
+        min.integer = std::max(min.integer, leaf.min);
+        max.integer = std::min(max.integer, leaf.max);
+        entry.range = {min, max};
     }
 }
 
