@@ -100,6 +100,7 @@ int listFolder(const std::string& path, std::vector<std::string>& files)
         return errno;
     }
     errno = 0;
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): no other thread reads from this folder.
     while (const dirent* const entry = readdir(folder.get()))
     {
         if (isToml(entry->d_name))

@@ -14,8 +14,8 @@ namespace vorn::parsers::toml::config
 namespace
 {
 
-constexpr char table[] = "a table";
-constexpr char arrayOfTables[] = "an array of tables";
+constexpr char aTable[] = "a table";
+constexpr char anArrayOfTables[] = "an array of tables";
 
 } // namespace
 
@@ -121,12 +121,12 @@ Position Navigation::pass(Position position, const Key& key, How how)
     const Slot slot = find(position, key, how);
     if (slot.type == nullptr || contentOf(slot).type->kind != Kind::list)
     {
-        return enter(slot, slot.spot, table);
+        return enter(slot, slot.spot, aTable);
     }
     const std::uint32_t list = containers_.find(slot);
     if (list == none || containers_[list].firstChild == none)
     {
-        reportKind(slot, slot.spot, table);
+        reportKind(slot, slot.spot, aTable);
         return {};
     }
     return {containers_[list].firstChild};
@@ -135,19 +135,19 @@ Position Navigation::pass(Position position, const Key& key, How how)
 Position Navigation::header(Position position, const Key& key)
 {
     const Slot slot = find(position, key, How::header);
-    return enter(slot, slot.spot, table);
+    return enter(slot, slot.spot, aTable);
 }
 
 Position Navigation::arrayHeader(Position position, const Key& key)
 {
     const Slot slot = find(position, key, How::arrayHeader);
-    const std::uint32_t list = openList(slot, slot.spot, arrayOfTables);
+    const std::uint32_t list = openList(slot, slot.spot, anArrayOfTables);
     if (list == none)
     {
         return {};
     }
     const Slot element = append(list, key.offset);
-    return element.type == nullptr ? Position{} : enter(element, slot.spot, arrayOfTables);
+    return element.type == nullptr ? Position{} : enter(element, slot.spot, anArrayOfTables);
 }
 
 std::uint32_t Navigation::openList(const Slot& slot, Spot spot, const char* found)

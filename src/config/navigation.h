@@ -59,7 +59,7 @@ public:
     // The rest is complete at the end of the last one.
     void finish() { closing_.close(0); }
 
-    Position root() const { return {0, 0}; }
+    static Position root() { return {0, 0}; }
     // What a key fills; a slot without a type if it is a table on the way, or unknown.
     Slot find(Position position, const Key& key, How how);
     // The table or map in a slot.  `found` is what the document has at a spot: "a table".

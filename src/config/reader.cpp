@@ -21,7 +21,7 @@ void Reader::beginHeader()
 {
     follower_.bracket('[');
     frames_.front().position = {};
-    position_ = navigation_.root();
+    position_ = Navigation::root();
     way_ = How::headerOfMore;
     hasPending_ = false;
 }

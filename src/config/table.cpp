@@ -30,8 +30,7 @@ std::uint32_t addNode(Table& table, std::uint32_t parent, const std::string& nam
     return added;
 }
 
-// Schemas cannot be within themselves: each addition is checked.
-// NOLINTNEXTLINE(misc-no-recursion)
+// NOLINTBEGIN(misc-no-recursion): schemas cannot be within themselves, each addition is checked.
 bool isWithin(const Table& table, const Table& outer)
 {
     return &table == &outer ||
@@ -39,6 +38,7 @@ bool isWithin(const Table& table, const Table& outer)
                        [&table](const Entry& entry)
                        { return entry.table != nullptr && isWithin(table, *entry.table); });
 }
+// NOLINTEND(misc-no-recursion)
 
 // Whether a node can hold another entry: it has none, and no ancestor of it has one.
 bool isFree(const Table& table, std::uint32_t node)

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 #include <vorn/parsers/toml_values.h>
 
+#include <algorithm>
 #include <chrono>
+#include <cstdint>
 #include <ctime>
 #include <limits>
 #include <optional>
@@ -55,8 +57,12 @@ TEST(TimePoint, IsThatOfADateTimeWithAnOffset)
 // timegm() knows the calendar, too.
 TEST(TimePoint, IsThatOfTheCLibrary)
 {
-    for (std::time_t time = -9200000000; time < 9200000000; time += 12345678 + time % 86400)
+    using Limits = std::numeric_limits<std::time_t>;
+    const std::int64_t first = std::max<std::int64_t>(-9200000000, Limits::min());
+    const std::int64_t end = std::min<std::int64_t>(9200000000, Limits::max());
+    for (std::int64_t seconds = first; seconds < end; seconds += 12345678 + seconds % 86400)
     {
+        const auto time = static_cast<std::time_t>(seconds);
         std::tm parts = {};
         gmtime_r(&time, &parts);
         const DateTime value = {Date{parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday},
