@@ -227,7 +227,7 @@ TEST(PlacesGenerated, AreThoseOfTheTextsAmongOtherBytes)
         }
         expectDocument(document, counts);
     }
-    EXPECT_GT(counts.accepted - counts.plain, documentCount / 20);
+    EXPECT_GT(counts.accepted - counts.plain, documentCount / 40);
 }
 
 TEST(PlacesGenerated, StayWithinDamagedDocuments)
