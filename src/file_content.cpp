@@ -55,19 +55,19 @@ std::size_t reportedSize(int file)
     return known ? static_cast<std::size_t>(status.st_size) : 0;
 }
 
-// Has the system provide all pages of a large block at once, which takes half the time of one
-// after the other: reading 10 MB for the first time takes 2.3 ms instead of 3.3.  Where it
-// cannot, the pages come as they are written.
-void providePages([[maybe_unused]] char* bytes, [[maybe_unused]] std::size_t size)
+// Has the system put large pages under a large block where it has some: reading 10 MB for the
+// first time takes 2 ms less then, of 4.5 beyond the time for a text in memory.
+void allowLargePages([[maybe_unused]] char* bytes, [[maybe_unused]] std::size_t size)
 {
-#ifdef MADV_POPULATE_WRITE
-    constexpr std::size_t large = std::size_t{128} * 1024;
+#ifdef MADV_HUGEPAGE
+    // So that there is a whole one in it.
+    constexpr std::size_t large = std::size_t{4} * 1024 * 1024;
+    // What is advised on starts with a page, of whatever size the usual ones are.
+    constexpr std::uintptr_t boundary = std::uintptr_t{64} * 1024;
     if (size >= large)
     {
-        // The block starts within a page, which is there in any case.
-        const auto page = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
-        const std::uintptr_t before = reinterpret_cast<std::uintptr_t>(bytes) % page;
-        madvise(bytes - before, size + before, MADV_POPULATE_WRITE);
+        const std::uintptr_t before = -reinterpret_cast<std::uintptr_t>(bytes) % boundary;
+        madvise(bytes + before, size - before, MADV_HUGEPAGE);
     }
 #endif
 }
@@ -107,7 +107,7 @@ void FileContent::readRest(int file)
     // One more, at which the end shows.
     std::size_t room = std::max(expected + 1, 2 * sizeof(few_));
     many_.reset(new char[room]);
-    providePages(many_.get(), room);
+    allowLargePages(many_.get(), room);
     for (std::size_t length = 0;;)
     {
         char* const begin = many_.get();

@@ -1,21 +1,24 @@
-// Files' contents, whatever the system says about them.  This program's read(), pread() and
-// fstat() do as told.
+// Files' contents, whatever the system says about them.  This program's read(), pread(), fstat()
+// and madvise() do as told.
 #include <gtest/gtest.h>
 
 #include "file_content.h"
 
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <fstream>
 #include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "support/temporary_directory.h"
 
@@ -27,6 +30,7 @@ extern "C"
     ssize_t __real_read(int file, void* bytes, std::size_t most);
     ssize_t __real_pread(int file, void* bytes, std::size_t most, off_t position);
     int __real_fstat(int file, struct stat* status);
+    int __real_madvise(void* begin, std::size_t size, int advice);
 }
 
 namespace
@@ -35,6 +39,7 @@ namespace
 std::function<ssize_t(int, void*, std::size_t)> doRead;
 std::function<ssize_t(int, void*, std::size_t, off_t)> doReadAt;
 std::function<int(int, struct stat*)> doStat;
+std::function<int(void*, std::size_t, int)> doAdvise;
 
 // All that is less than this is read at a position, in one go.
 constexpr std::size_t fewBytes = 2048;
@@ -74,6 +79,7 @@ private:
         doRead = __real_read;
         doReadAt = __real_pread;
         doStat = __real_fstat;
+        doAdvise = __real_madvise;
     }
 
     TemporaryDirectory directory_;
@@ -118,6 +124,11 @@ extern "C" int __wrap_fstat(int file, struct stat* status)
     return doStat(file, status);
 }
 
+extern "C" int __wrap_madvise(void* begin, std::size_t size, int advice)
+{
+    return doAdvise(begin, size, advice);
+}
+
 TEST_F(FileContentTest, isWholeAtAnySize)
 {
     for (const std::size_t size :
@@ -160,6 +171,31 @@ TEST_F(FileContentTest, isReadInOneGo)
         EXPECT_TRUE(contentOf(write(numbers(size))) == numbers(size));
         EXPECT_EQ(reads, 1);
     }
+}
+
+// Nobody has to heed the advice, or to understand it.
+TEST_F(FileContentTest, ofALargeFileMayHaveLargePages)
+{
+    const std::string text = numbers(5'000'000);
+    const std::string path = write(text);
+    std::vector<std::size_t> sizes;
+    doAdvise = [&sizes](void* begin, std::size_t size, int advice)
+    {
+        sizes.push_back(size);
+        const int page = getpagesize();
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(begin) % static_cast<unsigned>(page), 0u);
+        EXPECT_EQ(advice, MADV_HUGEPAGE);
+        return __real_madvise(begin, size, advice);
+    };
+    EXPECT_TRUE(contentOf(path) == text);
+    ASSERT_EQ(sizes.size(), 1u);
+    EXPECT_LE(sizes[0], text.size() + 1);
+    EXPECT_GT(sizes[0], text.size() - 100'000);
+
+    doAdvise = [](void*, std::size_t, int) { return -1; };
+    EXPECT_TRUE(contentOf(path) == text);
+    doAdvise = [](void*, std::size_t, int) -> int { throw std::logic_error("not large"); };
+    EXPECT_TRUE(contentOf(write(numbers(1'000'000))) == numbers(1'000'000));
 }
 
 // As it is when the file grows or shrinks meanwhile, and for those of /proc.
