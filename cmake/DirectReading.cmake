@@ -1,7 +1,7 @@
 # switched_direct_reader: for programs that link the library's objects.  Their calls of
 # readDirectly() reach tests/support/direct_reading.cpp, where it can be switched off.
 string(CONCAT VORN_READ_DIRECTLY
-    _ZN4vorn7parsers4toml12readDirectlyERKNSt7__cxx1112basic_stringIcSt11char_traitsIcESaIcEEE
+    _ZN4vorn7parsers4toml12readDirectlyESt17basic_string_viewIcSt11char_traitsIcEE
     RNS1_16ITomlTreeVisitorE)
 
 add_library(switched_direct_reader STATIC ${PROJECT_SOURCE_DIR}/tests/support/direct_reading.cpp)

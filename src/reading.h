@@ -3,14 +3,15 @@
 
 #include <vorn/parsers/toml.h>
 
-#include <string>
+#include <string_view>
 
 #include "pipeline/refusal.h"
 
 namespace vorn::parsers::toml
 {
 
-// The same as the public function; also says why a rejected document was not read to its end.
-bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor, Refusal& refusal);
+// The same as the public function, for a text that ends with a NUL as that of a string does;
+// also says why a rejected document was not read to its end.
+bool visitTomlTree(std::string_view text, ITomlTreeVisitor& visitor, Refusal& refusal);
 
 } // namespace vorn::parsers::toml

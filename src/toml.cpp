@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 #include <initializer_list>
-#include <optional>
 #include <string>
+#include <string_view>
 
 #include <vorn/parsers/toml.h>
 #include <vorn/utils/file.h>
@@ -165,7 +165,7 @@ int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers
 // The pipeline over `text`, of which `input` is the stream: lexer, token stream, parser, node
 // stream, tree parser.  They are freed in the reverse order.
 // NOLINTNEXTLINE(readability-function-size): one stage follows the other.
-bool visitTomlTree(ANTLR3_INPUT_STREAM* input, const std::string& text, ITomlTreeVisitor& visitor,
+bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, ITomlTreeVisitor& visitor,
                    Refusal& refusal)
 {
     const auto lexer = owned(TomlLexerNew(input), "Failed to create toml lexer");
@@ -255,7 +255,7 @@ bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor)
     return visitTomlTree(text, visitor, refusal);
 }
 
-bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor, Refusal& refusal)
+bool visitTomlTree(std::string_view text, ITomlTreeVisitor& visitor, Refusal& refusal)
 {
     const bool canBeStreamed = isStreamable(text);
     if (canBeStreamed)
@@ -287,13 +287,14 @@ bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visitor)
         VORN_LOG_ERROR("No such file: %s", name);
         return false;
     }
-    const std::optional<std::string> content = fileContent(name);
-    if (!content)
+    const FileContent content(name);
+    if (!content.isRead())
     {
         VORN_LOG_ERROR("Failed to open file; %s", name);
         return false;
     }
-    return visitTomlTree(*content, visitor);
+    Refusal refusal;
+    return visitTomlTree(content.text(), visitor, refusal);
 }
 
 } // namespace vorn::parsers::toml

@@ -32,7 +32,7 @@ namespace
 } // namespace
 
 // With everything inlined, the positions in the text and in the record stay in registers.
-[[gnu::flatten]] DirectReading readDirectly(const std::string& text, ITomlTreeVisitor& visitor)
+[[gnu::flatten]] DirectReading readDirectly(std::string_view text, ITomlTreeVisitor& visitor)
 {
     const std::size_t size = text.size();
     const char* const end = text.data() + size;

@@ -3,7 +3,7 @@
 
 #include <vorn/parsers/toml.h>
 
-#include <string>
+#include <string_view>
 
 namespace vorn::parsers::toml
 {
@@ -15,6 +15,7 @@ enum class DirectReading
     outOfMemory, // no calls
 };
 
-DirectReading readDirectly(const std::string& text, ITomlTreeVisitor& visitor);
+// The text ends with a NUL, as that of a string does.
+DirectReading readDirectly(std::string_view text, ITomlTreeVisitor& visitor);
 
 } // namespace vorn::parsers::toml

@@ -7,7 +7,7 @@
 namespace vorn::parsers::toml
 {
 
-Refusal refusalOf(const std::string& text)
+Refusal refusalOf(std::string_view text)
 {
     if (!isMemoryLeft(memoryForSurvey(text.size())))
     {

@@ -1,7 +1,7 @@
 // Why the recognisers do not read a document, or not to its end.
 #pragma once
 
-#include <string>
+#include <string_view>
 
 namespace vorn::parsers::toml
 {
@@ -21,7 +21,7 @@ struct Refusal
     explicit operator bool() const noexcept { return reason != Reason::none; }
 };
 
-// What can be said before the recognisers exist.
-Refusal refusalOf(const std::string& text);
+// What can be said before the recognisers exist, of a text that ends with a NUL.
+Refusal refusalOf(std::string_view text);
 
 } // namespace vorn::parsers::toml

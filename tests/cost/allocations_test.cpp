@@ -12,7 +12,9 @@
 #include "support/allocation_counter.h"
 #include "support/counting_visitor.h"
 #include "support/large_documents.h"
+#include "support/temporary_directory.h"
 
+using vorn::parsers::toml::FilePath;
 using vorn::parsers::toml::visitTomlTree;
 
 namespace
@@ -26,11 +28,13 @@ struct Use
     long releases;
 };
 
-Use useOf(const std::string& text)
+// Of a text or a file.
+template <typename Source>
+Use useOf(const Source& source)
 {
     test::CountingVisitor visitor;
     const test::AllocationCounter counter;
-    const bool accepted = visitTomlTree(text, visitor);
+    const bool accepted = visitTomlTree(source, visitor);
     const Use use = {counter.allocations(), counter.releases()};
     EXPECT_TRUE(accepted);
     return use;
@@ -87,6 +91,19 @@ TEST(Allocations, areFewForDocumentsOfAnySize)
                       }
                       return text;
                   }());
+    }
+}
+
+TEST(Allocations, areNoneForASmallFileAndOneMoreForALargerOne)
+{
+    const test::TemporaryDirectory directory;
+    for (const std::size_t size : {0u, 1024u, 1900u, 3000u, 100'000u, 10'000'000u})
+    {
+        SCOPED_TRACE(size);
+        const std::string text = test::mixedDocument(size);
+        const Use use = useOf(FilePath(directory.write("file.toml", text)));
+        EXPECT_EQ(use.allocations, size <= 1900 ? 0 : useOf(text).allocations + 1);
+        EXPECT_EQ(use.allocations, use.releases);
     }
 }
 

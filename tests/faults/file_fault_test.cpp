@@ -1,5 +1,5 @@
-// Files that change or fail while a document is read from them.  This program's open() and
-// read() do as told.
+// Files that change or fail while a document is read from them.  This program's open(), read()
+// and pread() do as told.
 #include <gtest/gtest.h>
 
 #include <sys/resource.h>
@@ -26,6 +26,7 @@ extern "C"
 {
     int __real_open(const char* path, int flags);
     ssize_t __real_read(int file, void* bytes, std::size_t most);
+    ssize_t __real_pread(int file, void* bytes, std::size_t most, off_t position);
 }
 
 namespace
@@ -37,7 +38,7 @@ std::function<void()> beforeOpening;
 std::function<void(int)> beforeReading;
 // How the reading with this number fails; 0: it does not.
 int failingRead = 0;
-std::size_t mostBytes = 0; // that one read() gives; 0: as many as are asked for
+std::size_t mostBytes = 0; // that one read() gives, not pread(); 0: as many as are asked for
 int reads = 0;
 
 class FileFault : public testing::Test
@@ -95,6 +96,24 @@ void expectRead(const std::string& path, const std::string& text)
     }
 }
 
+int documentFile = -1;
+
+// Counts a reading of the document; returns whether it may go on.
+bool canRead(int file)
+{
+    if (file != documentFile)
+    {
+        return true;
+    }
+    ++reads;
+    if (beforeReading)
+    {
+        beforeReading(reads);
+    }
+    errno = EIO;
+    return reads != failingRead;
+}
+
 const std::string document = test::mixedDocument(20'000);
 
 } // namespace
@@ -105,22 +124,20 @@ extern "C" int __wrap_open(const char* path, int flags)
     {
         beforeOpening();
     }
-    return __real_open(path, flags);
+    documentFile = __real_open(path, flags);
+    return documentFile;
 }
 
 extern "C" ssize_t __wrap_read(int file, void* bytes, std::size_t most)
 {
-    ++reads;
-    if (beforeReading)
-    {
-        beforeReading(reads);
-    }
-    if (reads == failingRead)
-    {
-        errno = EIO;
-        return -1;
-    }
-    return __real_read(file, bytes, mostBytes == 0 ? most : std::min(most, mostBytes));
+    return canRead(file)
+               ? __real_read(file, bytes, mostBytes == 0 ? most : std::min(most, mostBytes))
+               : -1;
+}
+
+extern "C" ssize_t __wrap_pread(int file, void* bytes, std::size_t most, off_t position)
+{
+    return canRead(file) ? __real_pread(file, bytes, most, position) : -1;
 }
 
 TEST_F(FileFault, disappearsBeforeItIsOpened)
@@ -177,7 +194,8 @@ TEST_F(FileFault, shrinksWhileItIsRead)
         reads = 0;
         beforeReading = [&path, left](int number)
         {
-            if (number == 3)
+            // After the first look and two pieces.
+            if (number == 4)
             {
                 std::filesystem::resize_file(path, left);
             }
@@ -196,7 +214,7 @@ TEST_F(FileFault, growsWhileItIsRead)
         reads = 0;
         beforeReading = [&path, &more](int number)
         {
-            // The first one has had all that there was.
+            // Its size has been asked for.
             if (number == 2)
             {
                 std::ofstream(path, std::ios::app) << more;
@@ -219,6 +237,30 @@ TEST_F(FileFault, failsAtAnyReading)
     }
     failingRead = 0;
     expectRead(path, document);
+}
+
+TEST_F(FileFault, failsOrChangesAtTheOnlyReading)
+{
+    const std::string path = write("a = 1\n");
+    failingRead = 1;
+    expectNotOpened(path);
+    EXPECT_EQ(reads, 1);
+
+    failingRead = 0;
+    for (const std::size_t size : {0u, 3u, 100u, 2000u, 2047u, 2048u, 5000u})
+    {
+        SCOPED_TRACE(size);
+        const std::string changed = document.substr(0, size);
+        reads = 0;
+        beforeReading = [&](int number)
+        {
+            if (number == 1)
+            {
+                std::ofstream(path) << changed;
+            }
+        };
+        expectRead(path, changed);
+    }
 }
 
 TEST_F(FileFault, cannotBeOpenedWhereAllDescriptorsAreTaken)

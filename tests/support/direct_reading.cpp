@@ -1,7 +1,7 @@
 #include "direct_reading.h"
 
 #include <atomic>
-#include <string>
+#include <string_view>
 
 #include "direct/direct_reader.h"
 
@@ -12,9 +12,9 @@ using vorn::parsers::toml::DirectReading;
 using vorn::parsers::toml::ITomlTreeVisitor;
 
 // The linker gives these names: callers reach the one that wraps.
-DirectReading realReadDirectly(const std::string& text, ITomlTreeVisitor& visitor) //
+DirectReading realReadDirectly(std::string_view text, ITomlTreeVisitor& visitor) //
     asm("__real_" READ_DIRECTLY);
-DirectReading wrappedReadDirectly(const std::string& text, ITomlTreeVisitor& visitor) //
+DirectReading wrappedReadDirectly(std::string_view text, ITomlTreeVisitor& visitor) //
     asm("__wrap_" READ_DIRECTLY);
 
 namespace
@@ -24,7 +24,7 @@ std::atomic<bool> on{false};
 
 } // namespace
 
-DirectReading wrappedReadDirectly(const std::string& text, ITomlTreeVisitor& visitor)
+DirectReading wrappedReadDirectly(std::string_view text, ITomlTreeVisitor& visitor)
 {
     return on.load(std::memory_order_relaxed) ? realReadDirectly(text, visitor)
                                               : DirectReading::refused;
