@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "copying_visitor.h"
+#include "settings.h"
 #include "tests/support/direct_reading.h"
 #include "tests/support/temporary_directory.h"
 
@@ -45,6 +46,11 @@ Reading libraryReading(const std::string& text)
 Reading copyingReading(const std::string& text)
 {
     return [&text] { readDirectly<CopyingVisitor>(text); };
+}
+
+Reading settingsReading(const std::string& text)
+{
+    return [&text] { readDirectly<SettingsVisitor>(text); };
 }
 
 Reading fileReading(const std::string& text)
