@@ -34,9 +34,13 @@ Reading classesReading(const std::string& text)
     return [&text, classes = classesOfBytes()]
     {
         std::uint32_t sum = 0;
+#pragma GCC unroll 8
         for (const char byte : text)
         {
             sum += classes[static_cast<unsigned char>(byte)];
+            // Left to itself, the compiler adds vectors that it has filled byte by byte: that
+            // takes 2.4 times as long.
+            asm volatile("" : "+r"(sum));
         }
         benchmark::DoNotOptimize(sum);
     };

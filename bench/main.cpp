@@ -1,7 +1,10 @@
 // Compares readers: how many bytes of each document they read in a second.
 //
 // vorn-bench [--readers=NAME,...] [options of Google Benchmark]
-// A parser of JSON reads the document's twin; its rate counts the bytes of the document.
+// vorn-bench [--readers=NAME,...] --count
+//
+// A parser of JSON reads the document's twin; its rate counts the bytes of the document.  With
+// --count each reads once what has 100 KB, for a program that counts instructions.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -11,73 +14,22 @@
 #include <exception>
 #include <stdexcept>
 
-#include "documents.h"
-#include "json_twin.h"
-#include "readers.h"
-#include "tests/support/direct_reading.h"
+#include "counted_reading.h"
+#include "hardware_counters.h"
+#include "sources.h"
 
 namespace
 {
 
-using bench::Document;
 using bench::Reader;
-
-struct Source
-{
-    Document document;
-    std::string json;
-};
-
-const std::string& inputOf(const Source& source, const Reader& reader)
-{
-    return reader.input == bench::Input::json ? source.json : source.document.text;
-}
-
-std::vector<Source> sources(bool withJson)
-{
-    const test::DirectReadingOn on;
-    std::vector<Source> all;
-    for (Document& document : bench::documents())
-    {
-        std::string json = withJson ? bench::jsonTwin(document.text) : "";
-        all.push_back({std::move(document), std::move(json)});
-    }
-    return all;
-}
-
-// Those that the first argument names, if it does; it is taken away then.
-std::vector<Reader> readersToCompare(int& count, char** arguments)
-{
-    constexpr char option[] = "--readers=";
-    std::vector<Reader> all = bench::readers();
-    if (count < 2 || std::strncmp(arguments[1], option, std::strlen(option)) != 0)
-    {
-        return all;
-    }
-    std::string names = std::string(arguments[1] + std::strlen(option)) + ',';
-    std::copy(arguments + 2, arguments + count, arguments + 1);
-    arguments[--count] = nullptr;
-    std::vector<Reader> named;
-    for (; !names.empty(); names.erase(0, names.find(',') + 1))
-    {
-        const std::string name = names.substr(0, names.find(','));
-        const auto found = std::find_if(
-            all.begin(), all.end(), [&name](const Reader& reader) { return reader.name == name; });
-        if (found == all.end())
-        {
-            throw std::runtime_error("there is no reader '" + name + "'");
-        }
-        named.push_back(*found);
-    }
-    return named;
-}
+using bench::Source;
 
 // Whatever is compared must have read the document; that is checked before it is measured.
 void makeSureOfAcceptance(const Source& source, const Reader& reader)
 {
     try
     {
-        reader.prepare(inputOf(source, reader))();
+        reader.prepare(source.inputOf(reader))();
     }
     catch (const std::exception& error)
     {
@@ -86,26 +38,40 @@ void makeSureOfAcceptance(const Source& source, const Reader& reader)
     }
 }
 
-void measure(benchmark::State& state, const Source& source, const Reader& reader)
+// Without counters of the processor, just the time.
+void run(benchmark::State& state, const bench::Reading& reading, std::size_t bytes)
 {
-    const std::string& input = inputOf(source, reader);
-    const bench::Reading reading = reader.prepare(input);
+    bench::HardwareCounters counters;
+    if (counters.areThere())
+    {
+        counters.start();
+    }
     for ([[maybe_unused]] auto iteration : state)
     {
         reading();
     }
-    state.SetBytesProcessed(
-        static_cast<std::int64_t>(state.iterations() * source.document.text.size()));
+    if (counters.areThere())
+    {
+        const bench::Counts counts = counters.stop();
+        const double read = static_cast<double>(state.iterations()) * static_cast<double>(bytes);
+        state.counters["cycles_per_byte"] = static_cast<double>(counts.cycles) / read;
+        state.counters["instructions_per_byte"] = static_cast<double>(counts.instructions) / read;
+    }
+}
+
+void measure(benchmark::State& state, const Source& source, const Reader& reader)
+{
+    const std::string& input = source.inputOf(reader);
+    const std::size_t bytes = source.document.text.size();
+    run(state, reader.prepare(input), bytes);
+    state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes));
     state.counters["input_bytes"] = static_cast<double>(input.size());
 }
 
 void compare(const std::vector<Reader>& readers)
 {
-    const bool withJson =
-        std::any_of(readers.begin(), readers.end(),
-                    [](const Reader& reader) { return reader.input == bench::Input::json; });
-    const std::vector<Source> all = sources(withJson);
-    for (const Source& source : all)
+    const std::vector<Source> sources = bench::sourcesFor(readers);
+    for (const Source& source : sources)
     {
         for (const Reader& reader : readers)
         {
@@ -118,27 +84,73 @@ void compare(const std::vector<Reader>& readers)
     benchmark::RunSpecifiedBenchmarks();
 }
 
+// Prints what this program is made of, and then what is read, in the order in which it is.
+void count(const std::vector<Reader>& readers)
+{
+    constexpr std::size_t countedSize = 100'000;
+    std::printf("%s; simdjson for %s\n", VORN_COMPILER, bench::simdjsonImplementation().c_str());
+    for (const Source& source : bench::sourcesFor(readers, countedSize))
+    {
+        for (const Reader& reader : readers)
+        {
+            const bench::Reading reading = reader.prepare(source.inputOf(reader));
+            // The first takes memory that later ones have.  What is counted from its end to that of
+            // the second is the second.
+            bench::countedReading(reading);
+            bench::countedReading(reading);
+            std::printf("%s/%s %zu\n", source.document.name.c_str(), reader.name.c_str(),
+                        source.document.text.size());
+        }
+    }
+}
+
+// Takes the first argument away if it starts like this; the rest of it, or none.
+const char* taken(int& count, char** arguments, const char* start)
+{
+    const std::size_t length = std::strlen(start);
+    if (count < 2 || std::strncmp(arguments[1], start, length) != 0)
+    {
+        return nullptr;
+    }
+    const char* const rest = arguments[1] + length;
+    std::copy(arguments + 2, arguments + count, arguments + 1);
+    arguments[--count] = nullptr;
+    return rest;
+}
+
+int runAsTold(int argc, char** argv)
+{
+    const char* const names = taken(argc, argv, "--readers=");
+    const std::vector<Reader> readers =
+        names != nullptr ? bench::readersNamed(names) : bench::readers();
+    if (taken(argc, argv, "--count") != nullptr)
+    {
+        count(readers);
+        return EXIT_SUCCESS;
+    }
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    {
+        return EXIT_FAILURE;
+    }
+    benchmark::AddCustomContext("compiler", VORN_COMPILER);
+    benchmark::AddCustomContext("simdjson", bench::simdjsonImplementation());
+    compare(readers);
+    benchmark::Shutdown();
+    return EXIT_SUCCESS;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
     try
     {
-        const std::vector<Reader> readers = readersToCompare(argc, argv);
-        benchmark::Initialize(&argc, argv);
-        if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        {
-            return EXIT_FAILURE;
-        }
-        benchmark::AddCustomContext("compiler", VORN_COMPILER);
-        benchmark::AddCustomContext("simdjson", bench::simdjsonImplementation());
-        compare(readers);
-        benchmark::Shutdown();
+        return runAsTold(argc, argv);
     }
     catch (const std::exception& error)
     {
         std::fprintf(stderr, "vorn-bench: %s\n", error.what());
         return EXIT_FAILURE;
     }
-    return EXIT_SUCCESS;
 }

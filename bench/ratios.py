@@ -19,7 +19,7 @@ AIMS = {"TOML": 10, "simdjson": 0.45, "RapidJSON": 1}
 
 def of_fastest(measured, peers):
     """How many times as fast as the fastest of the peers."""
-    return measured["library"] / max(measured[peer] for peer in peers if peer in measured)
+    return measured["library"] / max(measured[peer] for peer in peers)
 
 
 def of_aims(measured):
@@ -33,11 +33,9 @@ def of_aims(measured):
 
 def slowness(results):
     """Document: how much slower than the best the library's median repetition is, in percent."""
-    rates = figures.best_of(
-        results, lambda run: [run["bytes_per_second"]], lambda one, other: one + other
-    )
+    rates = figures.collected(results, lambda run: run["bytes_per_second"])
     return {
-        document: (max(measured["library"]) / statistics.median(measured["library"]) - 1) * 100
+        document: (1 - statistics.median(measured["library"]) / max(measured["library"])) * 100
         for document, measured in rates.items()
     }
 
