@@ -34,7 +34,7 @@ Reading copyingReading(const std::string& text);
 Reading settingsReading(const std::string& text);
 // The library reading a file that holds the text.
 Reading fileReading(const std::string& text);
-// The library with its direct reader switched off.
+// The library's objects with the direct reader switched off.
 Reading pipelineReading(const std::string& text);
 
 // Other parsers, each building its document model and freeing it.

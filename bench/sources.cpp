@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "json_twin.h"
-#include "tests/support/direct_reading.h"
 
 namespace bench
 {
@@ -16,7 +15,6 @@ std::vector<Source> sourcesFor(const std::vector<Reader>& readers, std::size_t s
     const bool withJson =
         std::any_of(readers.begin(), readers.end(),
                     [](const Reader& reader) { return reader.input == Input::json; });
-    const test::DirectReadingOn on;
     std::vector<Source> all;
     for (Document& document : documents())
     {
