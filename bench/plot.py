@@ -64,7 +64,7 @@ def smallest(rates):
 def counters_table(results):
     """Cycles and instructions per byte, if they were counted; a sentence if not."""
     if not all("cycles_per_byte" in run for run in figures.repetitions_of(results)):
-        return "Its kernel lets nobody count the processor's cycles and instructions.\n"
+        return "Cycles and instructions of the processor cannot be counted on this machine.\n"
     cycles, instructions = (
         figures.best_of(results, lambda run: run[counter], min)
         for counter in ["cycles_per_byte", "instructions_per_byte"]

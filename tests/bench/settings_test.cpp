@@ -24,7 +24,8 @@ bench::Settings settingsOf(const std::string& text)
 // Of the bench's documents.
 bench::Settings settingsOfDocument(const std::string& name)
 {
-    for (const bench::Document& document : bench::documents())
+    static const std::vector<bench::Document> documents = bench::documents();
+    for (const bench::Document& document : documents)
     {
         if (document.name == name)
         {
