@@ -3,17 +3,27 @@
 import collections
 
 
-def best_of(results, value_of, better):
+def repetitions_of(results):
+    """In the order of documents and readers; they ran in any order."""
+    runs = (run for run in results["benchmarks"] if run["run_type"] == "iteration")
+    return sorted(runs, key=lambda run: run["family_index"])
+
+
+def collected(results, value_of):
+    """Document: reader: a value for each of the repetitions."""
+    values = collections.defaultdict(lambda: collections.defaultdict(list))
+    for run in repetitions_of(results):
+        document, reader = run["run_name"].rsplit("/", 1)
+        values[document][reader].append(value_of(run))
+    return values
+
+
+def best_of(results, value_of, best):
     """Document: reader: the best of the repetitions; noise only ever slows down."""
-    best = collections.defaultdict(dict)
-    # They ran in any order.
-    for run in sorted(results["benchmarks"], key=lambda run: run["family_index"]):
-        if run["run_type"] == "iteration":
-            document, reader = run["run_name"].rsplit("/", 1)
-            measured = best[document]
-            value = value_of(run)
-            measured[reader] = better(measured.get(reader, value), value)
-    return best
+    return {
+        document: {reader: best(values) for reader, values in readers.items()}
+        for document, readers in collected(results, value_of).items()
+    }
 
 
 def rates_of(results):

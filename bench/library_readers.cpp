@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #include "copying_visitor.h"
-#include "tests/support/direct_reading.h"
+#include "settings.h"
 #include "tests/support/temporary_directory.h"
 
 namespace bench
@@ -28,35 +28,28 @@ void read(const Source& source)
     }
 }
 
-template <typename Visitor, typename Source>
-void readDirectly(const Source& source)
-{
-    const test::DirectReadingOn on;
-    read<Visitor>(source);
-}
-
 } // namespace
 
 Reading libraryReading(const std::string& text)
 {
-    return [&text] { readDirectly<TomlTreeVisitor>(text); };
+    return [&text] { read<TomlTreeVisitor>(text); };
 }
 
 Reading copyingReading(const std::string& text)
 {
-    return [&text] { readDirectly<CopyingVisitor>(text); };
+    return [&text] { read<CopyingVisitor>(text); };
+}
+
+Reading settingsReading(const std::string& text)
+{
+    return [&text] { read<SettingsVisitor>(text); };
 }
 
 Reading fileReading(const std::string& text)
 {
     const auto directory = std::make_shared<const test::TemporaryDirectory>();
     return [directory, path = FilePath(directory->write("document.toml", text))]
-    { readDirectly<TomlTreeVisitor>(path); };
-}
-
-Reading pipelineReading(const std::string& text)
-{
-    return [&text] { read<TomlTreeVisitor>(text); };
+    { read<TomlTreeVisitor>(path); };
 }
 
 } // namespace bench

@@ -1,41 +1,94 @@
-"""Shows what vorn-bench has measured: draws the picture and writes the table of the page.
+"""Shows what vorn-bench has measured: draws the picture and writes the tables of the page.
 
-The table and the caption stand in the page between two marks and are replaced there.
+The tables and the captions stand in the page between two marks and are replaced there.
 """
 
 import argparse
 import collections
 import json
-import math
 import pathlib
 
 import figures
 import matplotlib
+import ratios
+from readers import JSON, LIMIT, READERS, TOML, names_of
 
 matplotlib.use("svg")
 import matplotlib.pyplot as plot  # noqa: E402 (after the choice of the backend)
 
-# Reader: its name for people, and its colour.  Those without a colour are not drawn.
-READERS = {
-    "library": ("vorn_parsers", "#1b6ca8"),
-    "library-copying": ("copying texts", "#7fb3d9"),
-    "library-file": ("from a file", None),
-    "pipeline": ("pipeline alone", "#9aa0a6"),
-    "toml++": ("toml++", "#d9822b"),
-    "cpptoml": ("cpptoml", "#c25b56"),
-    "toml11": ("toml11", "#8d6fb8"),
-}
-PEERS = ["toml++", "cpptoml", "toml11"]
+# What is shown of the processor's counters.
+COUNTED = ["library", "library-settings", "toml++", "cpptoml", "simdjson", "RapidJSON"]
 
 
-def table_of(rates):
-    names = [name for name, _ in READERS.values()]
+def toml_table(rates):
+    shown = [reader for reader in READERS if reader not in [*JSON, LIMIT]]
+    rows = [
+        [document, *(figures.rounded(measured[reader]) for reader in shown)]
+        + [f"{ratios.of_fastest(measured, TOML):.1f}"]
+        for document, measured in rates.items()
+    ]
+    return figures.table_of(["document", *names_of(shown), "times the fastest other"], rows)
+
+
+def json_table(rates, sizes):
+    shown = ["library", *JSON, LIMIT]
     rows = []
     for document, measured in rates.items():
-        times = measured["library"] / max(measured[peer] for peer in PEERS)
-        rates_of_readers = [figures.rounded(measured[reader]) for reader in READERS]
-        rows.append([document, *rates_of_readers, f"{times:.1f}"])
-    return figures.table_of(["document", *names, "times the fastest other"], rows)
+        size = sizes[document]["simdjson"] / sizes[document]["library"]
+        times = [ratios.of_fastest(measured, [reader]) for reader in [*JSON, LIMIT]]
+        rows.append(
+            [document, f"{size:.0%}"]
+            + [figures.rounded(measured[reader]) for reader in shown]
+            + [*(f"{ratio:.2f}" for ratio in times[:-1]), f"{times[-1]:.0%}"]
+        )
+    columns = ["document", "size of the twin", *names_of(shown)]
+    columns += [*(f"times {name}" for name in names_of(JSON)), "share of the limit"]
+    return figures.table_of(columns, rows)
+
+
+def smallest(rates):
+    """A sentence with the smallest ratios."""
+    toml, *json_times = (
+        min(ratios.of_fastest(measured, peers) for measured in rates.values())
+        for peers in [TOML, *([reader] for reader in JSON)]
+    )
+    of_json = " and ".join(
+        f"{ratio:.2f} times {name}" for ratio, name in zip(json_times, names_of(JSON), strict=True)
+    )
+    return (
+        f"The smallest ratios of this run: {toml:.1f} times the fastest other parser of TOML, "
+        f"{of_json}.\n"
+    )
+
+
+def counters_table(results):
+    """Cycles and instructions per byte, if they were counted; a sentence if not."""
+    if not all("cycles_per_byte" in run for run in figures.repetitions_of(results)):
+        return "Cycles and instructions of the processor cannot be counted on this machine.\n"
+    cycles, instructions = (
+        figures.best_of(results, lambda run: run[counter], min)
+        for counter in ["cycles_per_byte", "instructions_per_byte"]
+    )
+    rows = [
+        [document]
+        + [f"{cycles[document][reader]:.2f}" for reader in COUNTED]
+        + [f"{instructions[document]['library']:.2f}"]
+        for document in cycles
+    ]
+    columns = ["document", *names_of(COUNTED), "instructions of vorn_parsers"]
+    return "Cycles per byte of TOML.\n\n" + figures.table_of(columns, rows)
+
+
+def content_of(results, picture):
+    rates = figures.rates_of(results)
+    sizes = figures.best_of(results, lambda run: run["input_bytes"], max)
+    caption = figures.caption_of(results)
+    json_caption = f"simdjson for {results['context']['simdjson']}"
+    return (
+        f"\n![MB/s]({picture.name})\n\nMB/s; {caption}.\n\n{toml_table(rates)}\n"
+        f"MB/s of TOML, the same run; {json_caption}.\n\n{json_table(rates, sizes)}\n"
+        f"{smallest(rates)}\n{counters_table(results)}\n"
+    )
 
 
 def draw_picture(picture, rates, caption):
@@ -55,10 +108,10 @@ def draw_picture(picture, rates, caption):
         axes.set_title(kind, fontsize=10)
         axes.set_xlim(-0.6, 2.6)
     # Left to itself, the common axis ends far above the bars.
-    fastest = max(rate for measured in rates.values() for rate in measured.values())
-    panels[0, 0].set_ylim(1, 10 ** math.ceil(math.log10(fastest)))
+    fastest = max(measured[reader] for measured in rates.values() for reader, *_ in drawn)
+    panels[0, 0].set_ylim(1, 1.5 * fastest)
     for axes in panels[:, 0]:
-        axes.set_ylabel("MB/s (logarithmic)")
+        axes.set_ylabel("MB/s of TOML (logarithmic)")
     handles, names = panels[0, 0].get_legend_handles_labels()
     figure.legend(handles, names, loc="upper center", ncols=len(names), frameon=False)
     figure.text(0.5, 0.02, caption, fontsize=8, color="#555555", horizontalalignment="center")
@@ -74,10 +127,8 @@ def main():
 
     results = json.loads(options.results.read_text(encoding="utf-8"))
     rates = figures.rates_of(results)
-    caption = figures.caption_of(results)
-    draw_picture(options.picture, rates, caption)
-    content = f"\n![MB/s]({options.picture.name})\n\nMB/s; {caption}.\n\n{table_of(rates)}\n"
-    figures.write_part(options.page, "plot.py", content)
+    draw_picture(options.picture, rates, figures.caption_of(results))
+    figures.write_part(options.page, "plot.py", content_of(results, options.picture))
 
 
 if __name__ == "__main__":

@@ -82,7 +82,7 @@ def main():
     caption = figures.caption_of(results)
     draw_picture(options.picture, figures.rates_of(results), caption)
     runs = figures.best_of(
-        results, lambda run: run, lambda one, other: min(one, other, key=lambda run: run["cpu_time"])
+        results, lambda run: run, lambda all_runs: min(all_runs, key=lambda run: run["cpu_time"])
     )
     content = (
         f"\n![MB/s, into structs]({options.picture.name})\n\nMicroseconds; {caption}.\n\n"
