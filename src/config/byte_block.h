@@ -115,7 +115,7 @@ public:
     }
     static Marks amongFirst(Marks marks, std::size_t count) noexcept
     {
-        return marks & (0xFFFFU >> (size - count));
+        return marks & ~(~0U << count);
     }
     static std::size_t beforeFirst(Marks marks) noexcept
     {
@@ -123,7 +123,7 @@ public:
     }
     static std::size_t upToLast(Marks marks) noexcept
     {
-        return static_cast<std::size_t>(32 - __builtin_clz(marks));
+        return static_cast<std::size_t>(31 - __builtin_clz(marks)) + 1;
     }
     static std::size_t count(Marks marks) noexcept
     {

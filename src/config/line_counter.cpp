@@ -1,5 +1,6 @@
 #include "line_counter.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "utf8.h"
@@ -11,6 +12,13 @@ LineCounter::LineCounter(std::string_view document) noexcept
     : document_(document), lineBegin_(byteOrderMarkLength(document)), offset_(lineBegin_),
       lessColumns_(lineBegin_ - 1)
 {
+}
+
+Place LineCounter::farther(std::size_t offset) noexcept
+{
+    offset = std::min(offset, document_.size());
+    goTo(offset);
+    return {line_, offset_ - lessColumns_, offset};
 }
 
 void LineCounter::goTo(std::size_t offset) noexcept

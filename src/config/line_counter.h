@@ -24,12 +24,7 @@ public:
     Place at(std::size_t offset) noexcept
     {
         takeAscii(offset);
-        if (offset_ != offset)
-        {
-            offset = std::min(offset, document_.size());
-            goTo(offset);
-        }
-        return {line_, offset_ - lessColumns_, offset};
+        return offset_ == offset ? Place{line_, offset_ - lessColumns_, offset} : farther(offset);
     }
 
 private:
@@ -38,16 +33,11 @@ private:
     {
         while (offset_ < end && document_.size() - offset_ >= ByteBlock::size)
         {
-            std::size_t count = std::min(end - offset_, ByteBlock::size);
+            const std::size_t count = std::min(end - offset_, ByteBlock::size);
             const ByteBlock block(document_.data() + offset_);
-            const auto others = ByteBlock::amongFirst(ByteBlock::marks(block.notAscii()), count);
-            if (others != 0)
+            if (ByteBlock::amongFirst(ByteBlock::marks(block.notAscii()), count) != 0)
             {
-                count = ByteBlock::beforeFirst(others);
-                if (count == 0)
-                {
-                    return;
-                }
+                return;
             }
             const auto lineFeeds =
                 ByteBlock::amongFirst(ByteBlock::marks(block.equal('\n')), count);
@@ -66,7 +56,8 @@ private:
         lessColumns_ = offset - 1;
     }
 
-    // The same with all that it may be: backwards, at the end, not ASCII.
+    // The same for all that it may be: backwards, at the end, not ASCII.
+    Place farther(std::size_t offset) noexcept;
     void goTo(std::size_t offset) noexcept;
 
     std::string_view document_;

@@ -16,6 +16,12 @@ PlacedReading::~PlacedReading()
     visitor_.reading_ = before_;
 }
 
+Place PlacedReading::nextPlace() noexcept
+{
+    offset_ = follower_.next();
+    return lines_.at(offset_);
+}
+
 void PlacedReading::bracket(char c) noexcept
 {
     follower_.bracket(c);

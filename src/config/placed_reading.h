@@ -20,14 +20,7 @@ public:
     PlacedReading& operator=(const PlacedReading&) = delete;
     ~PlacedReading() override;
 
-    Place place() noexcept
-    {
-        if (offset_ == atNext)
-        {
-            offset_ = follower_.next();
-        }
-        return lines_.at(offset_);
-    }
+    Place place() noexcept { return offset_ != atNext ? lines_.at(offset_) : nextPlace(); }
 
     void beginDocument() override;
     void endDocument() override;
@@ -64,6 +57,7 @@ private:
     // Where the follower goes next, which is looked for if somebody asks.
     static constexpr std::size_t atNext = std::string_view::npos;
 
+    Place nextPlace() noexcept;
     void bracket(char c) noexcept;
     using Operation = void (ITomlTreeVisitor::*)(const char*);
     using Try = bool (Follower::*)(const char*) noexcept;
