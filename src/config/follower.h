@@ -65,11 +65,11 @@ public:
     bool tryBareKey(const char* text) noexcept { return tryToken<BareKeyEnd>(text); }
     bool tryValue(const char* text) noexcept { return tryToken<ValueEnd>(text); }
     bool tryDateTime(const char* text) noexcept { return tryToken<DateTimeEnd>(text); }
+    bool tryBasicString(const char* text) noexcept { return tryToken<BasicStringEnd>(text); }
+    bool tryLiteralString(const char* text) noexcept { return tryToken<LiteralStringEnd>(text); }
     bool tryString(const char* text) noexcept
     {
-        return *text == '"'    ? tryToken<BasicStringEnd>(text)
-               : *text == '\'' ? tryToken<LiteralStringEnd>(text)
-                               : false;
+        return *text == '"' ? tryBasicString(text) : tryLiteralString(text);
     }
 
     std::string_view token(const char* text) noexcept;
@@ -107,8 +107,9 @@ private:
         {
             size = tokenEnd<End>(here, left, size + 1);
         }
-        if (size == 0 || size == noEnd || !End::isPlain(here[size]) ||
-            !hasStart(text, here, size + End::own))
+        const bool isPlain = size != 0 && size != noEnd && End::isPlain(here[size]) &&
+                             (End::own == 0 || End::isPlain(*here)); // both quotes
+        if (!isPlain || !hasStart(text, here, size + End::own))
         {
             return false;
         }

@@ -36,10 +36,10 @@ void PlacedReading::bracket(char c) noexcept
     (visitor_.*operation)(text);
 }
 
-// As a template it is inlined, and calls the operation by its place in the table.
+// Inlined, it knows where in their tables the operations are.
 template <PlacedReading::Try quickly, PlacedReading::Follow otherwise,
           PlacedReading::Operation operation>
-void PlacedReading::follow(const char* text)
+[[gnu::always_inline]] inline void PlacedReading::follow(const char* text)
 {
     if (__builtin_expect(static_cast<long>((follower_.*quickly)(text)), 1) == 0)
     {
@@ -148,7 +148,8 @@ void PlacedReading::endInlineTable()
 
 void PlacedReading::visitBasicString(const char* text)
 {
-    follow<&Follower::tryString, &Follower::anyString, &ITomlTreeVisitor::visitBasicString>(text);
+    follow<&Follower::tryBasicString, &Follower::anyString, &ITomlTreeVisitor::visitBasicString>(
+        text);
 }
 
 void PlacedReading::visitMultilineBasicString(const char* text)
@@ -158,7 +159,8 @@ void PlacedReading::visitMultilineBasicString(const char* text)
 
 void PlacedReading::visitLiteralString(const char* text)
 {
-    follow<&Follower::tryString, &Follower::anyString, &ITomlTreeVisitor::visitLiteralString>(text);
+    follow<&Follower::tryLiteralString, &Follower::anyString,
+           &ITomlTreeVisitor::visitLiteralString>(text);
 }
 
 void PlacedReading::visitMultilineLiteralString(const char* text)

@@ -206,9 +206,9 @@ TEST(Follower, SeesWhereTokensEnd)
 TEST(Follower, TakesWhatDoesNotShowWhereItEnds)
 {
     // A separator, and a part of a token.
-    EXPECT_FALSE(expectTaken(bareKey, "k", "\xC0\xAE" + far));
-    EXPECT_FALSE(expectTaken(value, "1", "\xC2 " + far));
-    EXPECT_FALSE(expectTaken(value, "1\xC0\xB0", far));
+    EXPECT_FALSE(expectTaken(bareKey, "longer_key", "\xC0\xAE" + far));
+    EXPECT_FALSE(expectTaken(value, "12345678", "\xC2 " + far));
+    EXPECT_FALSE(expectTaken(value, "12345678\xC0\xB0", far));
     EXPECT_FALSE(expectTaken(dateTime, "1979-05-2\xC1t 07:32:00", far));
     EXPECT_FALSE(expectTaken(dateTime, "1979-05-27 0\xC1t:32:00", far));
     EXPECT_FALSE(expectTaken(string, "\"\\\"\"", far));
