@@ -38,11 +38,11 @@ public:
     {
         return zeros((bytes_ | everywhere(bits)) ^ everywhere(c));
     }
-    // Those that are at most `c`, which is ASCII.
-    Found atMost(char c) const noexcept
+    // Those that are at most `max`, which is ASCII, and those that are not ASCII.
+    Found lowOrNotAscii(char max) const noexcept
     {
-        const Marks above = (bytes_ & ~highest) + (highest - everywhere(c) - ones);
-        return ~(above | bytes_) & highest;
+        const Marks above = (bytes_ & ~highest) + (highest - everywhere(max) - ones);
+        return (~above | bytes_) & highest;
     }
 
     static Marks marks(Found found) noexcept { return found; }
@@ -104,9 +104,10 @@ public:
     {
         return _mm_cmpeq_epi8(bytes_ | _mm_set1_epi8(bits), _mm_set1_epi8(c));
     }
-    Found atMost(char c) const noexcept
+    Found lowOrNotAscii(char max) const noexcept
     {
-        return _mm_cmpeq_epi8(_mm_min_epu8(bytes_, _mm_set1_epi8(c)), bytes_);
+        // Those that are not ASCII are negative here.
+        return ~_mm_cmpgt_epi8(bytes_, _mm_set1_epi8(max));
     }
 
     static Marks marks(Found found) noexcept

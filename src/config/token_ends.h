@@ -22,7 +22,7 @@ struct BareKeyEnd
     static constexpr std::size_t own = 0;
     static ByteBlock::Found found(const ByteBlock& block) noexcept
     {
-        return block.notAscii() | block.atMost('-' - 1) | block.equal('.') | braces(block);
+        return block.lowOrNotAscii('-' - 1) | block.equal('.') | braces(block);
     }
     static bool isAfterBlank(const char*, std::size_t) noexcept { return false; }
     // A malformed character may be a separator.
@@ -40,7 +40,7 @@ struct ValueEnd : BareKeyEnd
 {
     static ByteBlock::Found found(const ByteBlock& block) noexcept
     {
-        return block.notAscii() | block.atMost('+' - 1) | block.equal(',') | braces(block);
+        return block.lowOrNotAscii('+' - 1) | block.equal(',') | braces(block);
     }
 };
 
