@@ -1,6 +1,7 @@
 #include "follower.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace vorn::parsers::toml::config
 {
@@ -82,28 +83,34 @@ std::size_t stringEnd(std::string_view document, std::size_t begin)
     return characters.offset();
 }
 
-// Whether a part of a document has no bytes that the parser could take for anything else.
-bool isWellFormed(std::string_view part)
+// The line feed that ends a comment; the end of the document if there is none.  No value if there
+// is a malformed character before it, which may take it along.
+std::optional<std::size_t> commentEnd(std::string_view document, std::size_t at)
 {
-    using Word = std::uint64_t;
-    constexpr Word highBits = 0x8080808080808080U;
-    std::size_t at = 0;
-    while (at < part.size())
+    while (at < document.size())
     {
-        Word word = highBits;
-        if (part.size() - at >= sizeof(word))
+        if (document.size() - at >= ByteBlock::size)
         {
-            std::memcpy(&word, part.data() + at, sizeof(word));
+            const ByteBlock block(document.data() + at);
+            const auto marks = ByteBlock::marks(block.notAscii() | block.equal('\n'));
+            at += marks != 0 ? ByteBlock::beforeFirst(marks) : ByteBlock::size;
+            if (marks == 0)
+            {
+                continue;
+            }
         }
-        const bool isPlain = (word & highBits) == 0;
-        const std::size_t length = isPlain || isAscii(part[at]) ? 1 : characterLength(part, at);
-        if (length == 1 && !isAscii(part[at]))
+        if (document[at] == '\n')
         {
-            return false;
+            return at;
         }
-        at += isPlain ? sizeof(word) : length;
+        const std::size_t length = isAscii(document[at]) ? 1 : characterLength(document, at);
+        if (length == 1 && !isAscii(document[at]))
+        {
+            return std::nullopt;
+        }
+        at += length;
     }
-    return true;
+    return at;
 }
 
 bool isQuote(std::uint32_t code)
@@ -121,6 +128,21 @@ bool isTokenCharacter(std::uint32_t code)
 
 } // namespace
 
+std::string_view Follower::token(const char* text) noexcept
+{
+    next();
+    return take({text, std::strlen(text)});
+}
+
+std::string_view Follower::anyString(const char* text) noexcept
+{
+    const std::string_view taken = token(text);
+    // After a whole string there is no such byte.
+    const bool isCut = at_ < document_.size() && document_[at_] == '\0' &&
+                       taken.data() == document_.data() + position_;
+    return isCut ? wholeString() : taken;
+}
+
 std::string_view Follower::take(std::string_view text) noexcept
 {
     if (isAt(at_, text))
@@ -137,14 +159,11 @@ std::string_view Follower::take(std::string_view text) noexcept
 
 void Follower::skipComment() noexcept
 {
-    const std::size_t found = document_.find('\n', at_);
-    const std::size_t end = std::min(found, document_.size());
-    if (isWellFormed({document_.data() + at_, end - at_}))
+    if (const std::optional<std::size_t> end = commentEnd(document_, at_))
     {
-        at_ = end;
+        at_ = *end;
         return;
     }
-    // A malformed character may take the line feed along.
     Characters characters(document_, at_);
     while (characters.next() != '\n' && characters.next() != endOfDocument)
     {
@@ -157,7 +176,9 @@ void Follower::skipSpecial() noexcept
 {
     while (at_ < document_.size() && kindAt(at_) != other)
     {
-        const ReadCharacter character = readCharacter(document_, at_);
+        const char c = document_[at_];
+        const ReadCharacter character = isAscii(c) ? ReadCharacter{static_cast<unsigned char>(c), 1}
+                                                   : readCharacter(document_, at_);
         if (character.code >= 0x80)
         {
             return;

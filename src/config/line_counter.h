@@ -2,8 +2,11 @@
 
 #include <vorn/parsers/toml_places.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
+
+#include "byte_block.h"
 
 namespace vorn::parsers::toml::config
 {
@@ -18,18 +21,51 @@ public:
 
     // The place of an offset, at most the document's size.  Within a character it is that of the
     // character.
-    Place at(std::size_t offset) noexcept;
+    Place at(std::size_t offset) noexcept
+    {
+        takeAscii(offset);
+        return offset_ == offset ? Place{line_, offset_ - lessColumns_, offset} : farther(offset);
+    }
 
 private:
-    // The bytes of a line without its line feed, or a part of them.
-    void countColumns(std::size_t end) noexcept;
+    // Goes on to an offset in blocks, as far as there are any and they are ASCII.
+    void takeAscii(std::size_t end) noexcept
+    {
+        while (offset_ < end && document_.size() - offset_ >= ByteBlock::size)
+        {
+            const std::size_t count = std::min(end - offset_, ByteBlock::size);
+            const ByteBlock block(document_.data() + offset_);
+            if (ByteBlock::amongFirst(ByteBlock::marks(block.notAscii()), count) != 0)
+            {
+                return;
+            }
+            const auto lineFeeds =
+                ByteBlock::amongFirst(ByteBlock::marks(block.equal('\n')), count);
+            if (lineFeeds != 0)
+            {
+                line_ += ByteBlock::count(lineFeeds);
+                beginLine(offset_ + ByteBlock::upToLast(lineFeeds));
+            }
+            offset_ += count;
+        }
+    }
+
+    void beginLine(std::size_t offset) noexcept
+    {
+        lineBegin_ = offset;
+        lessColumns_ = offset - 1;
+    }
+
+    // The same for all that it may be: backwards, at the end, not ASCII.
+    Place farther(std::size_t offset) noexcept;
+    void goTo(std::size_t offset) noexcept;
 
     std::string_view document_;
     std::size_t line_ = 1;
     std::size_t lineBegin_;
     // The last offset, or the first byte of the character that it is within.
     std::size_t offset_;
-    std::size_t column_ = 1;
+    std::size_t lessColumns_; // by so much its column is less than it
 };
 
 } // namespace vorn::parsers::toml::config

@@ -16,22 +16,38 @@ PlacedReading::~PlacedReading()
     visitor_.reading_ = before_;
 }
 
+Place PlacedReading::nextPlace() noexcept
+{
+    offset_ = follower_.next();
+    return lines_.at(offset_);
+}
+
 void PlacedReading::bracket(char c) noexcept
 {
     follower_.bracket(c);
     offset_ = follower_.position();
 }
 
-void PlacedReading::token(const char* text) noexcept
+// On its own, so that the usual way needs no stack.
+[[gnu::noinline]] void PlacedReading::slowly(Follow way, Operation operation, const char* text)
 {
-    follower_.token(text);
+    (follower_.*way)(text);
     offset_ = follower_.position();
+    (visitor_.*operation)(text);
 }
 
-void PlacedReading::string(const char* text) noexcept
+// Inlined, it knows where in their tables the operations are.
+template <PlacedReading::Try quickly, PlacedReading::Follow otherwise,
+          PlacedReading::Operation operation>
+[[gnu::always_inline]] inline void PlacedReading::follow(const char* text)
 {
-    follower_.string(text);
+    if (__builtin_expect(static_cast<long>((follower_.*quickly)(text)), 1) == 0)
+    {
+        slowly(otherwise, operation, text);
+        return;
+    }
     offset_ = follower_.position();
+    (visitor_.*operation)(text);
 }
 
 void PlacedReading::beginDocument()
@@ -48,7 +64,7 @@ void PlacedReading::endDocument()
 
 void PlacedReading::beginKeyValue()
 {
-    offset_ = follower_.next();
+    offset_ = atNext;
     visitor_.beginKeyValue();
 }
 
@@ -86,7 +102,7 @@ void PlacedReading::endArrayTable()
 
 void PlacedReading::beginDottedKey()
 {
-    offset_ = follower_.next();
+    offset_ = atNext;
     visitor_.beginDottedKey();
 }
 
@@ -98,14 +114,12 @@ void PlacedReading::endDottedKey()
 
 void PlacedReading::visitBareKey(const char* text)
 {
-    token(text);
-    visitor_.visitBareKey(text);
+    follow<&Follower::tryBareKey, &Follower::token, &ITomlTreeVisitor::visitBareKey>(text);
 }
 
 void PlacedReading::visitQuotedKey(const char* text)
 {
-    string(text);
-    visitor_.visitQuotedKey(text);
+    follow<&Follower::tryString, &Follower::anyString, &ITomlTreeVisitor::visitQuotedKey>(text);
 }
 
 void PlacedReading::beginArray()
@@ -134,68 +148,59 @@ void PlacedReading::endInlineTable()
 
 void PlacedReading::visitBasicString(const char* text)
 {
-    string(text);
-    visitor_.visitBasicString(text);
+    follow<&Follower::tryBasicString, &Follower::anyString, &ITomlTreeVisitor::visitBasicString>(
+        text);
 }
 
 void PlacedReading::visitMultilineBasicString(const char* text)
 {
-    string(text);
-    visitor_.visitMultilineBasicString(text);
+    slowly(&Follower::anyString, &ITomlTreeVisitor::visitMultilineBasicString, text);
 }
 
 void PlacedReading::visitLiteralString(const char* text)
 {
-    string(text);
-    visitor_.visitLiteralString(text);
+    follow<&Follower::tryLiteralString, &Follower::anyString,
+           &ITomlTreeVisitor::visitLiteralString>(text);
 }
 
 void PlacedReading::visitMultilineLiteralString(const char* text)
 {
-    string(text);
-    visitor_.visitMultilineLiteralString(text);
+    slowly(&Follower::anyString, &ITomlTreeVisitor::visitMultilineLiteralString, text);
 }
 
 void PlacedReading::visitInteger(const char* text)
 {
-    token(text);
-    visitor_.visitInteger(text);
+    follow<&Follower::tryValue, &Follower::token, &ITomlTreeVisitor::visitInteger>(text);
 }
 
 void PlacedReading::visitFloat(const char* text)
 {
-    token(text);
-    visitor_.visitFloat(text);
+    follow<&Follower::tryValue, &Follower::token, &ITomlTreeVisitor::visitFloat>(text);
 }
 
 void PlacedReading::visitBoolean(const char* text)
 {
-    token(text);
-    visitor_.visitBoolean(text);
+    follow<&Follower::tryValue, &Follower::token, &ITomlTreeVisitor::visitBoolean>(text);
 }
 
 void PlacedReading::visitOffsetDateTime(const char* text)
 {
-    token(text);
-    visitor_.visitOffsetDateTime(text);
+    follow<&Follower::tryDateTime, &Follower::token, &ITomlTreeVisitor::visitOffsetDateTime>(text);
 }
 
 void PlacedReading::visitLocalDateTime(const char* text)
 {
-    token(text);
-    visitor_.visitLocalDateTime(text);
+    follow<&Follower::tryDateTime, &Follower::token, &ITomlTreeVisitor::visitLocalDateTime>(text);
 }
 
 void PlacedReading::visitLocalDate(const char* text)
 {
-    token(text);
-    visitor_.visitLocalDate(text);
+    follow<&Follower::tryValue, &Follower::token, &ITomlTreeVisitor::visitLocalDate>(text);
 }
 
 void PlacedReading::visitLocalTime(const char* text)
 {
-    token(text);
-    visitor_.visitLocalTime(text);
+    follow<&Follower::tryValue, &Follower::token, &ITomlTreeVisitor::visitLocalTime>(text);
 }
 
 } // namespace vorn::parsers::toml::config

@@ -20,7 +20,7 @@ public:
     PlacedReading& operator=(const PlacedReading&) = delete;
     ~PlacedReading() override;
 
-    Place place() noexcept { return lines_.at(offset_); }
+    Place place() noexcept { return offset_ != atNext ? lines_.at(offset_) : nextPlace(); }
 
     void beginDocument() override;
     void endDocument() override;
@@ -54,9 +54,18 @@ public:
     void end() noexcept { isEnded_ = true; }
 
 private:
+    // Where the follower goes next, which is looked for if somebody asks.
+    static constexpr std::size_t atNext = std::string_view::npos;
+
+    Place nextPlace() noexcept;
     void bracket(char c) noexcept;
-    void token(const char* text) noexcept;
-    void string(const char* text) noexcept;
+    using Operation = void (ITomlTreeVisitor::*)(const char*);
+    using Try = bool (Follower::*)(const char*) noexcept;
+    using Follow = std::string_view (Follower::*)(const char*) noexcept;
+
+    template <Try quickly, Follow otherwise, Operation operation>
+    void follow(const char* text);
+    void slowly(Follow way, Operation operation, const char* text);
 
     std::size_t size_;
     PlacedVisitor& visitor_;

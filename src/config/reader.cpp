@@ -65,7 +65,7 @@ void Reader::beginKeyValue()
 
 void Reader::visitBareKey(const char* text)
 {
-    key(follower_.token(text));
+    key(follower_.bareKey(text));
 }
 
 void Reader::visitQuotedKey(const char* text)
@@ -186,7 +186,8 @@ void Reader::string(const char* text)
 
 void Reader::plain(ScalarKind kind, const char* text)
 {
-    const std::string_view whole = follower_.token(text);
+    const bool isDateTime = kind == ScalarKind::dateTime;
+    const std::string_view whole = isDateTime ? follower_.dateTime(text) : follower_.value(text);
     scalar({kind, whole, follower_.position()});
 }
 

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 using vorn::parsers::toml::config::Follower;
 using namespace std::string_literals;
@@ -34,6 +35,60 @@ void expectWhole(const std::string& string)
     EXPECT_EQ(follower.position(), 4U);
     EXPECT_EQ(follower.token("next"), "next");
     EXPECT_EQ(follower.position(), document.size() - 9);
+}
+
+using Follow = std::string_view (Follower::*)(const char*) noexcept;
+using Try = bool (Follower::*)(const char*) noexcept;
+
+// How a token is taken: if it is plain to see where it ends, or else.
+struct Way
+{
+    Follow any;
+    Try plain;
+};
+constexpr Way bareKey = {&Follower::bareKey, &Follower::tryBareKey};
+constexpr Way value = {&Follower::value, &Follower::tryValue};
+constexpr Way dateTime = {&Follower::dateTime, &Follower::tryDateTime};
+constexpr Way string = {&Follower::string, &Follower::tryString};
+
+// On the heap, where a sanitizer sees whatever reads beyond it.
+struct Text
+{
+    explicit Text(std::string_view text) : bytes(text.begin(), text.end())
+    {
+        bytes.push_back('\0');
+    }
+    std::vector<char> bytes;
+};
+
+// Expects a token between others, whose text is all of it.  Returns whether its end was plain to
+// see.
+bool expectTaken(Way way, const std::string& token, const std::string& after)
+{
+    const std::string document = "# c\n " + token + after;
+    SCOPED_TRACE(testing::PrintToString(document));
+    const Text text(token);
+    Follower follower(document);
+    EXPECT_EQ((follower.*way.any)(text.bytes.data()), token);
+    EXPECT_EQ(follower.position(), 5U);
+    const std::size_t next = follower.next();
+
+    Follower other(document);
+    other.next();
+    const bool isPlain = (other.*way.plain)(text.bytes.data());
+    EXPECT_EQ(other.position(), isPlain ? 5U : 0U);
+    EXPECT_EQ(other.next(), isPlain ? next : 5U);
+    return isPlain;
+}
+
+const std::string far = "\n" + std::string(32, 'x');
+
+void expectPlain(Way way, const std::string& token, const std::string& after)
+{
+    EXPECT_TRUE(expectTaken(way, token, after + far)) << token << after;
+    // Near the document's end it may be or not.
+    expectTaken(way, token, after);
+    expectTaken(way, token, "");
 }
 
 } // namespace
@@ -116,6 +171,79 @@ TEST(Follower, TakesTokensWhole)
     const std::string_view last = follower.token("+inf");
     EXPECT_EQ(last, "+inf");
     EXPECT_EQ(last.data(), document.data() + document.find("+inf"));
+}
+
+TEST(Follower, SeesWhereTokensEnd)
+{
+    for (const std::string after : {" ", "\t", ".", "=", "]"})
+    {
+        expectPlain(bareKey, "k", after);
+        expectPlain(bareKey, "a_longer-KEY-0123456789-0123456789-0123456789", after);
+    }
+    for (const std::string after : {" ", "\t", "\n", "\r\n", ",", "]", "}", "#"})
+    {
+        for (const char* const token :
+             {"1", "+1_000", "-0.5e+3", "true", "-inf", "0xDEAD_beef", "1979-05-27",
+              "07:32:00.999999", "0.1234567890123456789e-9"})
+        {
+            expectPlain(value, token, after);
+        }
+        for (const char* const token :
+             {"1979-05-27T07:32:00", "1979-05-27t07:32:00.5Z", "1979-05-27 07:32:00",
+              "1979-05-27 07:32:00.123456789+01:00"})
+        {
+            expectPlain(dateTime, token, after);
+        }
+        for (const char* const token :
+             {"''", "'a'", "'\\'", "' # \" '", "'0123456789 0123456789 0123456789'", "\"\"",
+              "\"a\"", "\" ' = \"", "\"0123456789 0123456789 0123456789\""})
+        {
+            expectPlain(string, token, after);
+        }
+    }
+}
+
+TEST(Follower, TakesWhatDoesNotShowWhereItEnds)
+{
+    // A separator, and a part of a token.
+    EXPECT_FALSE(expectTaken(bareKey, "longer_key", "\xC0\xAE" + far));
+    EXPECT_FALSE(expectTaken(value, "12345678", "\xC2 " + far));
+    EXPECT_FALSE(expectTaken(value, "12345678\xC0\xB0", far));
+    EXPECT_FALSE(expectTaken(dateTime, "1979-05-2\xC1t 07:32:00", far));
+    EXPECT_FALSE(expectTaken(dateTime, "1979-05-27 0\xC1t:32:00", far));
+    EXPECT_FALSE(expectTaken(string, "\"\\\"\"", far));
+    EXPECT_FALSE(expectTaken(string, "\"\xE2\"x\"", far));
+    EXPECT_FALSE(expectTaken(string, "'\xC3\xA9'", far));
+    EXPECT_FALSE(expectTaken(string, "\"\"\"\n\"\"\"", far));
+    EXPECT_FALSE(expectTaken(string, "''''''", far));
+}
+
+// After mistakes.
+TEST(Follower, DoesNotTakeOtherTokens)
+{
+    const std::string document = "abc 'abc' 12 \n" + std::string(32, 'x');
+    for (const char* const other :
+         {"", "a", "ab", "abd", "abcd", "xbc", "abc-", "abcdefghijklmnop"})
+    {
+        const Text text(other);
+        Follower follower(document);
+        EXPECT_FALSE(follower.tryBareKey(text.bytes.data())) << other;
+        EXPECT_FALSE(follower.tryValue(text.bytes.data())) << other;
+        EXPECT_FALSE(follower.tryDateTime(text.bytes.data())) << other;
+        EXPECT_FALSE(follower.tryString(text.bytes.data())) << other;
+        EXPECT_EQ(follower.position(), 0U);
+        EXPECT_EQ(follower.next(), 0U);
+    }
+    for (const char* const other : {"", "'", "''", "'ab", "'ab'", "\"abc\"", "'abc", "'abcd'"})
+    {
+        const Text text(other);
+        Follower follower(document);
+        follower.token("abc");
+        EXPECT_FALSE(follower.tryString(text.bytes.data())) << other;
+    }
+    const std::string nul = "\0\0'\0"s + document;
+    EXPECT_FALSE(Follower(nul).tryString(Text("").bytes.data()));
+    EXPECT_FALSE(Follower(nul).tryValue(Text("").bytes.data()));
 }
 
 TEST(Follower, TakesStringsWithNulBytesWhole)
