@@ -2,10 +2,10 @@
 #include <sys/time.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdint>
 #include <ctime>
-#include <functional>
 #include <ios>
 #include <new>
 #include <sstream>
@@ -13,13 +13,15 @@
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include <vorn/parsers/toml.h>
 #include <vorn/utils/format.h>
 
 #include "log.h"
 #include "pipeline/cleanup_guard.h"
+#include "plain_date_time.h"
+#include "plain_number.h"
+#include "stated_conversions.h"
 
 namespace vorn::parsers::toml
 {
@@ -85,28 +87,22 @@ void dropFirstLineFeed(std::string& text)
     }
 }
 
-using Converter = std::function<bool(const std::string&, timeval&)>;
-
-// The character between date and time, whichever it is.
-char separator(const std::string& text)
+struct DateTimeForm
 {
-    return text[10];
-}
+    const char* pattern;
+    const char* fields; // a format of strptime(), made with the separator
+    bool guessesDaylightSaving;
+};
 
-// Reads what the format covers, up to the first mismatch, as local time.
-bool convert(const std::string& text, const std::string& format, bool guessDaylightSaving,
-             timeval& result)
-{
-    std::tm time = {};
-    strptime(text.c_str(), format.c_str(), &time);
-    if (guessDaylightSaving)
-    {
-        time.tm_isdst = -1;
-    }
-    result.tv_sec = std::mktime(&time);
-    result.tv_usec = 0;
-    return true;
-}
+// The forms of a date-time, in the order in which they are tried: with a zone letter,
+// with an offset, with neither.  The patterns match anywhere in a text.
+constexpr std::array<DateTimeForm, 3> dateTimeForms = {{
+    {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}[A-IK-Z]", "%%F%c%%TZ", true},
+    {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?"
+     "[+-][0-9]{2}:[0-9]{2}",
+     "%%F%c%%T%%z", false},
+    {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?", "%%F%c%%T", false},
+}};
 
 bool matches(const regex_t& regex, const std::string& text)
 {
@@ -121,34 +117,25 @@ bool matches(const regex_t& regex, const std::string& text)
     return matched;
 }
 
-bool convertWithLetter(const std::string& text, timeval& result)
+// The character between date and time, whichever it is.
+char separator(const std::string& text)
 {
-    return convert(text, utils::format("%%F%c%%TZ", separator(text)), true, result);
+    return text[10];
 }
 
-bool convertWithOffset(const std::string& text, timeval& result)
+// Reads what the form covers, up to the first mismatch, as local time.
+bool convert(const std::string& text, const DateTimeForm& form, timeval& result)
 {
-    return convert(text, utils::format("%%F%c%%T%%z", separator(text)), false, result);
-}
-
-bool convertWithNeither(const std::string& text, timeval& result)
-{
-    return convert(text, utils::format("%%F%c%%T", separator(text)), false, result);
-}
-
-// The forms of a date-time, in the order in which they are tried: with a zone letter,
-// with an offset, with neither.  The patterns match anywhere in a text.
-const std::vector<std::pair<std::string, Converter>>& dateTimeForms()
-{
-    static const std::vector<std::pair<std::string, Converter>> forms = {
-        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}[A-IK-Z]", convertWithLetter},
-        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?"
-         "[+-][0-9]{2}:[0-9]{2}",
-         convertWithOffset},
-        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?",
-         convertWithNeither},
-    };
-    return forms;
+    const std::string format = utils::format(form.fields, separator(text));
+    std::tm time = {};
+    strptime(text.c_str(), format.c_str(), &time);
+    if (form.guessesDaylightSaving)
+    {
+        time.tm_isdst = -1;
+    }
+    result.tv_sec = std::mktime(&time);
+    result.tv_usec = 0;
+    return true;
 }
 
 // glibc's regcomp() frees pointers that it has never set where memory ends within it.  So
@@ -160,6 +147,69 @@ void reserveFormMemory()
 }
 
 } // namespace
+
+namespace stated
+{
+
+bool parseBoolean(const std::string& text)
+{
+    return extract<bool>(text, std::ios_base::boolalpha, std::ios_base::boolalpha);
+}
+
+long long parseInteger(std::string text)
+{
+    text = withoutUnderscores(std::move(text));
+    if (startsWith(text, "0o"))
+    {
+        return extractInteger(text.substr(2), std::ios_base::oct);
+    }
+    if (startsWith(text, "0x"))
+    {
+        return extractInteger(text, std::ios_base::hex);
+    }
+    if (startsWith(text, "0b"))
+    {
+        return binaryInteger(std::string_view(text).substr(2));
+    }
+    return extractInteger(text, std::ios_base::dec);
+}
+
+double parseFloat(std::string text)
+{
+    return extract<double>(withoutUnderscores(std::move(text)), {}, {});
+}
+
+timeval parseDateTime(const std::string& text)
+{
+    timeval result = {};
+    for (const DateTimeForm& form : dateTimeForms)
+    {
+        reserveFormMemory();
+        regex_t regex = {};
+        if (regcomp(&regex, form.pattern, REG_EXTENDED | REG_NOSUB) != 0)
+        {
+            VORN_LOG_ERROR("Failed to compile regex: '%s'", form.pattern);
+        }
+        const CleanupGuard guard([&regex] { regfree(&regex); });
+        // A pattern that failed to compile has left nothing to match with, which the C
+        // library does not test.
+        const bool usable = regex.buffer != nullptr;
+        if (usable && matches(regex, text))
+        {
+            if (!convert(text, form, result))
+            {
+                // No conversion says that it has failed.  GCOVR_EXCL_START
+                VORN_LOG_ERROR("Failed to process date-time: '%s'", text.c_str());
+                // GCOVR_EXCL_STOP
+            }
+            return result;
+        }
+    }
+    VORN_LOG_ERROR("Failed to parse date-time: %s", text.c_str());
+    return result;
+}
+
+} // namespace stated
 
 std::string unquote(std::string text, const std::string& delimiter)
 {
@@ -224,60 +274,30 @@ std::string processMultilineString(std::string text)
 
 bool parseBoolean(const std::string& text)
 {
-    return extract<bool>(text, std::ios_base::boolalpha, std::ios_base::boolalpha);
+    bool value = false;
+    return readPlainBoolean(text, value) ? value : stated::parseBoolean(text);
 }
 
 long long parseInteger(std::string text)
 {
-    text = withoutUnderscores(std::move(text));
-    if (startsWith(text, "0o"))
-    {
-        return extractInteger(text.substr(2), std::ios_base::oct);
-    }
-    if (startsWith(text, "0x"))
-    {
-        return extractInteger(text, std::ios_base::hex);
-    }
-    if (startsWith(text, "0b"))
-    {
-        return binaryInteger(std::string_view(text).substr(2));
-    }
-    return extractInteger(text, std::ios_base::dec);
+    long long value = 0;
+    return readPlainInteger(text, value) ? value : stated::parseInteger(std::move(text));
 }
 
 double parseFloat(std::string text)
 {
-    return extract<double>(withoutUnderscores(std::move(text)), {}, {});
+    double value = 0.0;
+    return readPlainFloat(text, value) ? value : stated::parseFloat(std::move(text));
 }
 
 timeval parseDateTime(const std::string& text)
 {
-    timeval result = {};
-    for (const auto& [pattern, converter] : dateTimeForms())
+    std::tm time = {};
+    if (!readPlainDateTime(text, time))
     {
-        reserveFormMemory();
-        regex_t regex = {};
-        if (regcomp(&regex, pattern.c_str(), REG_EXTENDED | REG_NOSUB) != 0)
-        {
-            VORN_LOG_ERROR("Failed to compile regex: '%s'", pattern.c_str());
-        }
-        const CleanupGuard guard([&regex] { regfree(&regex); });
-        // A pattern that failed to compile has left nothing to match with, which the C
-        // library does not test.
-        const bool usable = regex.buffer != nullptr;
-        if (usable && matches(regex, text))
-        {
-            if (!converter(text, result))
-            {
-                // No form's converter says that it has failed.  GCOVR_EXCL_START
-                VORN_LOG_ERROR("Failed to process date-time: '%s'", text.c_str());
-                // GCOVR_EXCL_STOP
-            }
-            return result;
-        }
+        return stated::parseDateTime(text);
     }
-    VORN_LOG_ERROR("Failed to parse date-time: %s", text.c_str());
-    return result;
+    return {std::mktime(&time), 0};
 }
 
 } // namespace vorn::parsers::toml
