@@ -91,16 +91,6 @@ bool isRoundingNearest() noexcept
     return roundsToNearest<float>() && roundsToNearest<long double>();
 }
 
-// Whether a float has no digit but zeros before its exponent.
-bool isZero(const char* at, const char* end) noexcept
-{
-    while (at != end && *at < '1')
-    {
-        ++at;
-    }
-    return at == end || *at > '9';
-}
-
 } // namespace
 
 bool readPlainBoolean(std::string_view text, bool& value)
@@ -158,11 +148,8 @@ bool readPlainFloat(std::string_view text, double& value)
     text.remove_prefix(text[0] == '+' ? 1 : 0);
     const char* const end = text.data() + text.size();
     const bool isInRange = std::from_chars(text.data(), end, value).ec == std::errc();
-    // Outside of these limits strtod() sets errno, and the stream has its own idea of a value.
-    const double magnitude = std::abs(value);
-    const bool isInside = magnitude > std::numeric_limits<double>::min() &&
-                          magnitude <= std::numeric_limits<double>::max();
-    return isInRange && (isInside || isZero(text.data(), end));
+    // Below the smallest normal number strtod() sets errno.  (Zero is in range where it is exact.)
+    return isInRange && (std::abs(value) > std::numeric_limits<double>::min() || value == 0);
 }
 
 } // namespace vorn::parsers::toml
