@@ -9,10 +9,10 @@
 namespace vorn::parsers::toml::stated
 {
 
-// (A log line names the function that it comes from.)
+// (A log line names the function that it comes from: they are the exported names.)
 bool parseBoolean(const std::string& text);
-long long parseInteger(std::string text);
-double parseFloat(std::string text);
+long long parseInteger(std::string&& text);
+double parseFloat(std::string&& text);
 timeval parseDateTime(const std::string& text);
 
 } // namespace vorn::parsers::toml::stated

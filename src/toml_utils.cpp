@@ -7,18 +7,17 @@
 #include <cstdint>
 #include <ctime>
 #include <ios>
+#include <memory>
 #include <new>
 #include <sstream>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <utility>
 
 #include <vorn/parsers/toml.h>
 #include <vorn/utils/format.h>
 
 #include "log.h"
-#include "pipeline/cleanup_guard.h"
 #include "plain_date_time.h"
 #include "plain_number.h"
 #include "stated_conversions.h"
@@ -28,15 +27,9 @@ namespace vorn::parsers::toml
 namespace
 {
 
-std::string withoutUnderscores(std::string text)
+void dropUnderscores(std::string& text)
 {
     text.erase(std::remove(text.begin(), text.end(), '_'), text.end());
-    return text;
-}
-
-bool startsWith(const std::string& text, std::string_view prefix)
-{
-    return text.compare(0, prefix.size(), prefix) == 0;
 }
 
 // The value that a stream extracts from the start of a text: zero where there is none,
@@ -58,13 +51,15 @@ long long extractInteger(const std::string& text, std::ios_base::fmtflags base)
     return extract<long long>(text, base, std::ios_base::basefield);
 }
 
-// Binary digits, the most significant first.  At most 64 are read, and the value must
-// fit 32 bits, which is what the device's word holds; the same on every host.
-long long binaryInteger(std::string_view digits)
+// Binary digits after a prefix, the most significant first.  At most 64 are read, and the value
+// must fit 32 bits, which is what the device's word holds; the same on every host.
+long long binaryInteger(const std::string& text)
 {
+    const std::size_t end = std::min(text.size(), std::size_t{2} + 64);
     std::uint64_t value = 0;
-    for (const char digit : digits.substr(0, 64))
+    for (std::size_t at = 2; at < end; ++at)
     {
+        const char digit = text[at];
         if (digit != '0' && digit != '1')
         {
             throw std::invalid_argument("bitset::_M_copy_from_ptr");
@@ -86,6 +81,11 @@ void dropFirstLineFeed(std::string& text)
         text.erase(0, 1);
     }
 }
+
+struct RegexFree
+{
+    void operator()(regex_t* regex) const noexcept { regfree(regex); }
+};
 
 struct DateTimeForm
 {
@@ -117,16 +117,11 @@ bool matches(const regex_t& regex, const std::string& text)
     return matched;
 }
 
-// The character between date and time, whichever it is.
-char separator(const std::string& text)
-{
-    return text[10];
-}
-
 // Reads what the form covers, up to the first mismatch, as local time.
 bool convert(const std::string& text, const DateTimeForm& form, timeval& result)
 {
-    const std::string format = utils::format(form.fields, separator(text));
+    // The character between date and time, whichever it is.
+    const std::string format = utils::format(form.fields, text[10]);
     std::tm time = {};
     strptime(text.c_str(), format.c_str(), &time);
     if (form.guessesDaylightSaving)
@@ -156,27 +151,27 @@ bool parseBoolean(const std::string& text)
     return extract<bool>(text, std::ios_base::boolalpha, std::ios_base::boolalpha);
 }
 
-long long parseInteger(std::string text)
+long long parseInteger(std::string&& text)
 {
-    text = withoutUnderscores(std::move(text));
-    if (startsWith(text, "0o"))
+    dropUnderscores(text);
+    switch (text.size() > 1 && text[0] == '0' ? text[1] : '\0')
     {
-        return extractInteger(text.substr(2), std::ios_base::oct);
-    }
-    if (startsWith(text, "0x"))
-    {
+    case 'o':
+        text.erase(0, 2);
+        return extractInteger(text, std::ios_base::oct);
+    case 'x':
         return extractInteger(text, std::ios_base::hex);
+    case 'b':
+        return binaryInteger(text);
+    default:
+        return extractInteger(text, std::ios_base::dec);
     }
-    if (startsWith(text, "0b"))
-    {
-        return binaryInteger(std::string_view(text).substr(2));
-    }
-    return extractInteger(text, std::ios_base::dec);
 }
 
-double parseFloat(std::string text)
+double parseFloat(std::string&& text)
 {
-    return extract<double>(withoutUnderscores(std::move(text)), {}, {});
+    dropUnderscores(text);
+    return extract<double>(text, {}, {});
 }
 
 timeval parseDateTime(const std::string& text)
@@ -186,11 +181,11 @@ timeval parseDateTime(const std::string& text)
     {
         reserveFormMemory();
         regex_t regex = {};
+        const std::unique_ptr<regex_t, RegexFree> guard(&regex);
         if (regcomp(&regex, form.pattern, REG_EXTENDED | REG_NOSUB) != 0)
         {
             VORN_LOG_ERROR("Failed to compile regex: '%s'", form.pattern);
         }
-        const CleanupGuard guard([&regex] { regfree(&regex); });
         // A pattern that failed to compile has left nothing to match with, which the C
         // library does not test.
         const bool usable = regex.buffer != nullptr;
@@ -241,28 +236,28 @@ std::string enquote(const std::string& text, const std::string& delimiter)
 
 std::string processMultilineLiteralString(std::string text)
 {
-    text = unquote(std::move(text), "'''");
-    dropFirstLineFeed(text);
-    return text;
+    std::string content = unquote(std::move(text), "'''");
+    dropFirstLineFeed(content);
+    return content;
 }
 
 std::string processMultilineString(std::string text)
 {
-    text = unquote(std::move(text), "\"\"\"");
-    dropFirstLineFeed(text);
+    std::string content = unquote(std::move(text), "\"\"\"");
+    dropFirstLineFeed(content);
 
     std::string value;
     std::size_t rest = 0; // what has not been copied yet starts here
     std::size_t from = 0; // where the next search starts
     for (;;)
     {
-        const std::size_t backslash = text.find("\\\n", from);
-        value.append(text, rest, backslash - rest);
+        const std::size_t backslash = content.find("\\\n", from);
+        value.append(content, rest, backslash - rest);
         if (backslash == std::string::npos)
         {
             return value;
         }
-        rest = text.find_first_not_of(" \t\r\n", backslash + 2);
+        rest = content.find_first_not_of(" \t\r\n", backslash + 2);
         if (rest == std::string::npos)
         {
             return value;

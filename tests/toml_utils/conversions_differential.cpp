@@ -105,7 +105,7 @@ Outcome outcomeOf(const std::string& text)
     errno = 0;
     try
     {
-        outcome.value = bitsOf(convert(text));
+        outcome.value = bitsOf(convert(std::string(text)));
         outcome.error = errno;
     }
     catch (const std::exception& error)

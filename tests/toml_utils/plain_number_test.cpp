@@ -30,7 +30,7 @@ void expectPlainInteger(const std::string& text, long long expected)
     long long value = 0;
     EXPECT_TRUE(readPlainInteger(text, value));
     EXPECT_EQ(value, expected);
-    EXPECT_EQ(stated::parseInteger(text), expected);
+    EXPECT_EQ(stated::parseInteger(std::string(text)), expected);
 }
 
 // Whether the two are the same, zeros of different signs being different.
@@ -45,7 +45,7 @@ void expectPlainFloat(const std::string& text, double expected)
     double value = 1;
     EXPECT_TRUE(readPlainFloat(text, value));
     EXPECT_TRUE(isSame(value, expected)) << value;
-    EXPECT_TRUE(isSame(stated::parseFloat(text), expected));
+    EXPECT_TRUE(isSame(stated::parseFloat(std::string(text)), expected));
 }
 
 bool isPlainBoolean(const std::string& text)
@@ -213,7 +213,7 @@ TEST(PlainNumber, floatsSetErrnoWhereTheStatedWayDoes)
         const double value = parseFloat(text);
         const int error = errno;
         errno = 0;
-        EXPECT_TRUE(isSame(stated::parseFloat(text), value)) << text;
+        EXPECT_TRUE(isSame(stated::parseFloat(std::string(text)), value)) << text;
         EXPECT_EQ(errno, error) << text;
     }
 }
