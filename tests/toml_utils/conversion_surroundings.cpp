@@ -6,7 +6,9 @@
 #include <cstdlib>
 #include <ctime>
 #include <locale>
+#include <memory>
 #include <stdexcept>
+#include <type_traits>
 #include <utility>
 
 namespace test
@@ -85,36 +87,44 @@ void enterClassic()
     std::setlocale(LC_ALL, "C");
 }
 
+void freeLocale(locale_t own)
+{
+    if (own != nullptr)
+    {
+        freelocale(own);
+    }
+}
+
 std::vector<CLocale> cLocales()
 {
     std::vector<CLocale> locales(3, {"C", true, enterClassic});
     for (const char* const name : {"de_DE.UTF-8", "C.UTF-8"})
     {
-        // (Locales of threads are never freed here: they are few, and in use.)
-        locale_t own = newlocale(LC_ALL_MASK, name, nullptr);
+        const std::shared_ptr<std::remove_pointer_t<locale_t>> own(
+            newlocale(LC_ALL_MASK, name, nullptr), freeLocale);
         if (own == nullptr)
         {
             std::printf("There is no C locale %s: it is left out.\n", name);
             continue;
         }
-        const std::string german = name;
-        locales.push_back({german, false,
-                           [german]
+        const std::string other = name;
+        locales.push_back({other, false,
+                           [other]
                            {
                                enterClassic();
-                               std::setlocale(LC_ALL, german.c_str());
+                               std::setlocale(LC_ALL, other.c_str());
                            }});
-        locales.push_back({german + " for characters", true,
-                           [german]
+        locales.push_back({other + " for characters", true,
+                           [other]
                            {
                                enterClassic();
-                               std::setlocale(LC_CTYPE, german.c_str());
+                               std::setlocale(LC_CTYPE, other.c_str());
                            }});
-        locales.push_back({german + " of the thread", false,
+        locales.push_back({other + " of the thread", false,
                            [own]
                            {
                                enterClassic();
-                               uselocale(own);
+                               uselocale(own.get());
                            }});
     }
     return locales;

@@ -8,6 +8,8 @@
 namespace test
 {
 
+// They stay until others are entered.  The first ones are the classic ones, which are to be
+// entered at the end.
 struct Surroundings
 {
     std::string name;

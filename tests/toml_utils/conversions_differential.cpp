@@ -210,6 +210,7 @@ bool compareAll(const Conversion& conversion, std::size_t count, std::uint64_t s
         classic += current.isClassic ? 1 : 0;
         plain += way == Way::plain ? 1 : 0;
     }
+    surroundings.front().enter();
     const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - start;
     std::printf("%s: %zu texts, %zu of them where the short way may be taken, which took %zu; no "
                 "difference; %.0f s\n",
