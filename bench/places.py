@@ -39,7 +39,7 @@ def main():
 
     results = json.loads(options.results.read_text(encoding="utf-8"))
     runs = figures.best_of(
-        results, per_text, lambda one, other: min(one, other, key=lambda run: run["ns"])
+        results, per_text, lambda runs: min(runs, key=lambda run: run["ns"])
     )
     caption = figures.caption_of(results)
     content = f"\nNanoseconds per text; {caption}.\n\n{table(runs)}\n"

@@ -2,39 +2,34 @@
 #include <sys/time.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdint>
 #include <ctime>
-#include <functional>
 #include <ios>
+#include <memory>
 #include <new>
 #include <sstream>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <utility>
-#include <vector>
 
 #include <vorn/parsers/toml.h>
 #include <vorn/utils/format.h>
 
 #include "log.h"
-#include "pipeline/cleanup_guard.h"
+#include "plain_date_time.h"
+#include "plain_number.h"
+#include "stated_conversions.h"
 
 namespace vorn::parsers::toml
 {
 namespace
 {
 
-std::string withoutUnderscores(std::string text)
+void dropUnderscores(std::string& text)
 {
     text.erase(std::remove(text.begin(), text.end(), '_'), text.end());
-    return text;
-}
-
-bool startsWith(const std::string& text, std::string_view prefix)
-{
-    return text.compare(0, prefix.size(), prefix) == 0;
 }
 
 // The value that a stream extracts from the start of a text: zero where there is none,
@@ -56,13 +51,15 @@ long long extractInteger(const std::string& text, std::ios_base::fmtflags base)
     return extract<long long>(text, base, std::ios_base::basefield);
 }
 
-// Binary digits, the most significant first.  At most 64 are read, and the value must
-// fit 32 bits, which is what the device's word holds; the same on every host.
-long long binaryInteger(std::string_view digits)
+// Binary digits after a prefix, the most significant first.  At most 64 are read, and the value
+// must fit 32 bits, which is what the device's word holds; the same on every host.
+long long binaryInteger(const std::string& text)
 {
+    const std::size_t end = std::min(text.size(), std::size_t{2} + 64);
     std::uint64_t value = 0;
-    for (const char digit : digits.substr(0, 64))
+    for (std::size_t at = 2; at < end; ++at)
     {
+        const char digit = text[at];
         if (digit != '0' && digit != '1')
         {
             throw std::invalid_argument("bitset::_M_copy_from_ptr");
@@ -85,28 +82,27 @@ void dropFirstLineFeed(std::string& text)
     }
 }
 
-using Converter = std::function<bool(const std::string&, timeval&)>;
-
-// The character between date and time, whichever it is.
-char separator(const std::string& text)
+struct RegexFree
 {
-    return text[10];
-}
+    void operator()(regex_t* regex) const noexcept { regfree(regex); }
+};
 
-// Reads what the format covers, up to the first mismatch, as local time.
-bool convert(const std::string& text, const std::string& format, bool guessDaylightSaving,
-             timeval& result)
+struct DateTimeForm
 {
-    std::tm time = {};
-    strptime(text.c_str(), format.c_str(), &time);
-    if (guessDaylightSaving)
-    {
-        time.tm_isdst = -1;
-    }
-    result.tv_sec = std::mktime(&time);
-    result.tv_usec = 0;
-    return true;
-}
+    const char* pattern;
+    const char* fields; // a format of strptime(), made with the separator
+    bool guessesDaylightSaving;
+};
+
+// The forms of a date-time, in the order in which they are tried: with a zone letter,
+// with an offset, with neither.  The patterns match anywhere in a text.
+constexpr std::array<DateTimeForm, 3> dateTimeForms = {{
+    {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}[A-IK-Z]", "%%F%c%%TZ", true},
+    {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?"
+     "[+-][0-9]{2}:[0-9]{2}",
+     "%%F%c%%T%%z", false},
+    {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?", "%%F%c%%T", false},
+}};
 
 bool matches(const regex_t& regex, const std::string& text)
 {
@@ -121,34 +117,20 @@ bool matches(const regex_t& regex, const std::string& text)
     return matched;
 }
 
-bool convertWithLetter(const std::string& text, timeval& result)
+// Reads what the form covers, up to the first mismatch, as local time.
+bool convert(const std::string& text, const DateTimeForm& form, timeval& result)
 {
-    return convert(text, utils::format("%%F%c%%TZ", separator(text)), true, result);
-}
-
-bool convertWithOffset(const std::string& text, timeval& result)
-{
-    return convert(text, utils::format("%%F%c%%T%%z", separator(text)), false, result);
-}
-
-bool convertWithNeither(const std::string& text, timeval& result)
-{
-    return convert(text, utils::format("%%F%c%%T", separator(text)), false, result);
-}
-
-// The forms of a date-time, in the order in which they are tried: with a zone letter,
-// with an offset, with neither.  The patterns match anywhere in a text.
-const std::vector<std::pair<std::string, Converter>>& dateTimeForms()
-{
-    static const std::vector<std::pair<std::string, Converter>> forms = {
-        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}[A-IK-Z]", convertWithLetter},
-        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?"
-         "[+-][0-9]{2}:[0-9]{2}",
-         convertWithOffset},
-        {"[0-9]{4}-[0-9]{2}-[0-9]{2}[ T][0-9]{2}:[0-9]{2}:[0-9]{2}(.[0-9]{1,6})?",
-         convertWithNeither},
-    };
-    return forms;
+    // The character between date and time, whichever it is.
+    const std::string format = utils::format(form.fields, text[10]);
+    std::tm time = {};
+    strptime(text.c_str(), format.c_str(), &time);
+    if (form.guessesDaylightSaving)
+    {
+        time.tm_isdst = -1;
+    }
+    result.tv_sec = std::mktime(&time);
+    result.tv_usec = 0;
+    return true;
 }
 
 // glibc's regcomp() frees pointers that it has never set where memory ends within it.  So
@@ -160,6 +142,69 @@ void reserveFormMemory()
 }
 
 } // namespace
+
+namespace stated
+{
+
+bool parseBoolean(const std::string& text)
+{
+    return extract<bool>(text, std::ios_base::boolalpha, std::ios_base::boolalpha);
+}
+
+long long parseInteger(std::string&& text)
+{
+    dropUnderscores(text);
+    switch (text.size() > 1 && text[0] == '0' ? text[1] : '\0')
+    {
+    case 'o':
+        text.erase(0, 2);
+        return extractInteger(text, std::ios_base::oct);
+    case 'x':
+        return extractInteger(text, std::ios_base::hex);
+    case 'b':
+        return binaryInteger(text);
+    default:
+        return extractInteger(text, std::ios_base::dec);
+    }
+}
+
+double parseFloat(std::string&& text)
+{
+    dropUnderscores(text);
+    return extract<double>(text, {}, {});
+}
+
+timeval parseDateTime(const std::string& text)
+{
+    timeval result = {};
+    for (const DateTimeForm& form : dateTimeForms)
+    {
+        reserveFormMemory();
+        regex_t regex = {};
+        const std::unique_ptr<regex_t, RegexFree> guard(&regex);
+        if (regcomp(&regex, form.pattern, REG_EXTENDED | REG_NOSUB) != 0)
+        {
+            VORN_LOG_ERROR("Failed to compile regex: '%s'", form.pattern);
+        }
+        // A pattern that failed to compile has left nothing to match with, which the C
+        // library does not test.
+        const bool usable = regex.buffer != nullptr;
+        if (usable && matches(regex, text))
+        {
+            if (!convert(text, form, result))
+            {
+                // No conversion says that it has failed.  GCOVR_EXCL_START
+                VORN_LOG_ERROR("Failed to process date-time: '%s'", text.c_str());
+                // GCOVR_EXCL_STOP
+            }
+            return result;
+        }
+    }
+    VORN_LOG_ERROR("Failed to parse date-time: %s", text.c_str());
+    return result;
+}
+
+} // namespace stated
 
 std::string unquote(std::string text, const std::string& delimiter)
 {
@@ -191,28 +236,28 @@ std::string enquote(const std::string& text, const std::string& delimiter)
 
 std::string processMultilineLiteralString(std::string text)
 {
-    text = unquote(std::move(text), "'''");
-    dropFirstLineFeed(text);
-    return text;
+    std::string content = unquote(std::move(text), "'''");
+    dropFirstLineFeed(content);
+    return content;
 }
 
 std::string processMultilineString(std::string text)
 {
-    text = unquote(std::move(text), "\"\"\"");
-    dropFirstLineFeed(text);
+    std::string content = unquote(std::move(text), "\"\"\"");
+    dropFirstLineFeed(content);
 
     std::string value;
     std::size_t rest = 0; // what has not been copied yet starts here
     std::size_t from = 0; // where the next search starts
     for (;;)
     {
-        const std::size_t backslash = text.find("\\\n", from);
-        value.append(text, rest, backslash - rest);
+        const std::size_t backslash = content.find("\\\n", from);
+        value.append(content, rest, backslash - rest);
         if (backslash == std::string::npos)
         {
             return value;
         }
-        rest = text.find_first_not_of(" \t\r\n", backslash + 2);
+        rest = content.find_first_not_of(" \t\r\n", backslash + 2);
         if (rest == std::string::npos)
         {
             return value;
@@ -224,60 +269,30 @@ std::string processMultilineString(std::string text)
 
 bool parseBoolean(const std::string& text)
 {
-    return extract<bool>(text, std::ios_base::boolalpha, std::ios_base::boolalpha);
+    bool value = false;
+    return readPlainBoolean(text, value) ? value : stated::parseBoolean(text);
 }
 
 long long parseInteger(std::string text)
 {
-    text = withoutUnderscores(std::move(text));
-    if (startsWith(text, "0o"))
-    {
-        return extractInteger(text.substr(2), std::ios_base::oct);
-    }
-    if (startsWith(text, "0x"))
-    {
-        return extractInteger(text, std::ios_base::hex);
-    }
-    if (startsWith(text, "0b"))
-    {
-        return binaryInteger(std::string_view(text).substr(2));
-    }
-    return extractInteger(text, std::ios_base::dec);
+    long long value = 0;
+    return readPlainInteger(text, value) ? value : stated::parseInteger(std::move(text));
 }
 
 double parseFloat(std::string text)
 {
-    return extract<double>(withoutUnderscores(std::move(text)), {}, {});
+    double value = 0.0;
+    return readPlainFloat(text, value) ? value : stated::parseFloat(std::move(text));
 }
 
 timeval parseDateTime(const std::string& text)
 {
-    timeval result = {};
-    for (const auto& [pattern, converter] : dateTimeForms())
+    std::tm time = {};
+    if (!readPlainDateTime(text, time))
     {
-        reserveFormMemory();
-        regex_t regex = {};
-        if (regcomp(&regex, pattern.c_str(), REG_EXTENDED | REG_NOSUB) != 0)
-        {
-            VORN_LOG_ERROR("Failed to compile regex: '%s'", pattern.c_str());
-        }
-        const CleanupGuard guard([&regex] { regfree(&regex); });
-        // A pattern that failed to compile has left nothing to match with, which the C
-        // library does not test.
-        const bool usable = regex.buffer != nullptr;
-        if (usable && matches(regex, text))
-        {
-            if (!converter(text, result))
-            {
-                // No form's converter says that it has failed.  GCOVR_EXCL_START
-                VORN_LOG_ERROR("Failed to process date-time: '%s'", text.c_str());
-                // GCOVR_EXCL_STOP
-            }
-            return result;
-        }
+        return stated::parseDateTime(text);
     }
-    VORN_LOG_ERROR("Failed to parse date-time: %s", text.c_str());
-    return result;
+    return {std::mktime(&time), 0};
 }
 
 } // namespace vorn::parsers::toml

@@ -216,34 +216,6 @@ extern "C"
     }
 }
 
-// The first test, since it is about the first use in the process.
-TEST_F(ConversionAllocations, ofTheDateTimeFormsLeaveThemToTheNextUse)
-{
-    // What the C library keeps is made first.
-    std::tm time = {};
-    mktime(&time);
-    regex_t regex = {};
-    regcomp(&regex, "[0-9]{4}", REG_EXTENDED | REG_NOSUB);
-    regfree(&regex);
-
-    int thrown = 0;
-    for (long number = 1;; ++number)
-    {
-        SCOPED_TRACE(number);
-        const Outcome outcome = convert(isRead, number, Failing::once);
-        // Forms that have been made stay; what fails then is something after them.
-        if (!outcome.hasThrown || outcome.blocks != 0)
-        {
-            break;
-        }
-        ++thrown;
-    }
-    EXPECT_GT(thrown, 0);
-    const Outcome next = convert(isRead, 0, Failing::once);
-    EXPECT_TRUE(next.isRight);
-    EXPECT_EQ(next.blocks, 0);
-}
-
 TEST_F(ConversionAllocations, failWithAnExceptionWhereTheyFail)
 {
     for (const auto& [name, isRight] : conversions)

@@ -313,7 +313,7 @@ VORN_PARSERS_API bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visi
 // been checked.  What they make of other texts is stated all the same.
 //
 // All take the text as the document has it, delimiters, prefixes and underscores
-// included.  All allocate and may throw std::bad_alloc.
+// included.  All may allocate and throw std::bad_alloc.
 // ---------------------------------------------------------------------------------
 
 // Takes one quote off each end: the value of a basic or a literal string, or the name
@@ -365,7 +365,7 @@ VORN_PARSERS_API std::string processMultilineString(std::string text);
 //   processMultilineLiteralString("'''\nC:\\temp\\\n'''")   // C:\temp\ and a line feed
 VORN_PARSERS_API std::string processMultilineLiteralString(std::string text);
 
-// The functions parseBoolean(), parseInteger() and parseFloat() read through a string stream
+// The functions parseBoolean(), parseInteger() and parseFloat() read as a string stream does
 // in the global C++ locale, which is the classic one unless your program has set another.
 // If that locale has its own names for true and false, decimal comma or digit grouping, they
 // apply:

@@ -1,0 +1,98 @@
+// Measures what it costs to convert a scalar's text: by the exported functions, and by the stated
+// way that they leave other texts to: vorn-conversions
+#include <benchmark/benchmark.h>
+#include <vorn/parsers/toml.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <string>
+
+#include "src/stated_conversions.h"
+
+namespace
+{
+
+using namespace vorn::parsers;
+
+template <typename Convert>
+void measure(const std::string& name, const std::string& text, Convert convert)
+{
+    const auto run = [text, convert](benchmark::State& state)
+    {
+        for (auto _ : state)
+        {
+            const char* written = text.c_str();
+            benchmark::DoNotOptimize(written);
+            benchmark::DoNotOptimize(convert(written));
+        }
+    };
+    benchmark::RegisterBenchmark((name + ' ' + text).c_str(), run);
+}
+
+void measureBoolean(const std::string& text)
+{
+    measure("boolean", text, [](const char* written) { return toml::parseBoolean(written); });
+    measure("boolean, stated", text,
+            [](const char* written) { return toml::stated::parseBoolean(written); });
+}
+
+void measureInteger(const std::string& text)
+{
+    measure("integer", text, [](const char* written) { return toml::parseInteger(written); });
+    measure("integer, stated", text,
+            [](const char* written) { return toml::stated::parseInteger(written); });
+}
+
+void measureFloat(const std::string& text)
+{
+    measure("float", text, [](const char* written) { return toml::parseFloat(written); });
+    measure("float, stated", text,
+            [](const char* written) { return toml::stated::parseFloat(written); });
+}
+
+// In a zone: no TZ is one, too, for which the C library looks at a file in each call.
+void measureDateTime(const char* zone, const std::string& text)
+{
+    const auto in = [zone](auto parse)
+    {
+        return [zone, parse](const char* written)
+        {
+            // (The benchmarks run one after the other.)
+            static const char* current = "";
+            if (current != zone)
+            {
+                zone != nullptr ? setenv("TZ", zone, 1) : unsetenv("TZ");
+                current = zone;
+            }
+            return parse(written).tv_sec;
+        };
+    };
+    const std::string name = std::string(zone != nullptr ? zone : "no TZ") + ", date-time";
+    measure(name, text, in([](const char* written) { return toml::parseDateTime(written); }));
+    measure(name + ", stated", text,
+            in([](const char* written) { return toml::stated::parseDateTime(written); }));
+}
+
+} // namespace
+
+int main(int count, char** words)
+{
+    benchmark::Initialize(&count, words);
+    measureBoolean("true");
+    measureBoolean("false");
+    for (const char* const text : {"8080", "-1_000_000", "0xDEAD_beef", "0o755", "0b1101_0101"})
+    {
+        measureInteger(text);
+    }
+    for (const char* const text : {"0.5", "3.141592653589793", "-1_000.5", "6.62607015e-34"})
+    {
+        measureFloat(text);
+    }
+    for (const char* const zone : {"UTC0", "Europe/Berlin", "America/New_York", "Asia/Kolkata",
+                                   static_cast<const char*>(nullptr)})
+    {
+        measureDateTime(zone, "2024-07-15T12:00:00Z");
+        measureDateTime(zone, "2024-07-15T12:00:00.25+02:00");
+    }
+    benchmark::RunSpecifiedBenchmarks();
+}
