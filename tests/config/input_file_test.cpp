@@ -1,5 +1,5 @@
 // The files of a configuration, whatever the system says about them.  This program's read(),
-// fstat() and opendir() do as told.
+// fstat64() and opendir() do as told.
 #include "config/input_file.h"
 
 #include "told_problems.h"
@@ -25,7 +25,7 @@ using vorn::parsers::toml::config::readInputs;
 extern "C"
 {
     ssize_t __real_read(int file, void* bytes, std::size_t most);
-    int __real_fstat(int file, struct stat* status);
+    int __real_fstat64(int file, struct stat64* status);
     DIR* __real_opendir(const char* path);
 }
 
@@ -89,9 +89,9 @@ extern "C" ssize_t __wrap_read(int file, void* bytes, std::size_t most)
     return fails(failingReads) ? -1 : __real_read(file, bytes, most);
 }
 
-extern "C" int __wrap_fstat(int file, struct stat* status)
+extern "C" int __wrap_fstat64(int file, struct stat64* status)
 {
-    return fails(failingStats) ? -1 : __real_fstat(file, status);
+    return fails(failingStats) ? -1 : __real_fstat64(file, status);
 }
 
 extern "C" DIR* __wrap_opendir(const char* path)
