@@ -4,7 +4,6 @@
 #include <vorn/parsers/toml.h>
 
 #include <cstdlib>
-#include <ctime>
 #include <string>
 
 #include "src/stated_conversions.h"
@@ -14,11 +13,19 @@ namespace
 
 using namespace vorn::parsers;
 
-template <typename Convert>
-void measure(const std::string& name, const std::string& text, Convert convert)
+// In a time zone: none is one, too, for which the C library looks at a file in each call.
+void enterZone(const char* zone)
 {
-    const auto run = [text, convert](benchmark::State& state)
+    zone != nullptr ? setenv("TZ", zone, 1) : unsetenv("TZ");
+}
+
+template <typename Convert>
+void measure(const std::string& name, const std::string& text, Convert convert,
+             const char* zone = nullptr)
+{
+    const auto run = [text, convert, zone](benchmark::State& state)
     {
+        enterZone(zone);
         for (auto _ : state)
         {
             const char* written = text.c_str();
@@ -50,27 +57,14 @@ void measureFloat(const std::string& text)
             [](const char* written) { return toml::stated::parseFloat(written); });
 }
 
-// In a zone: no TZ is one, too, for which the C library looks at a file in each call.
 void measureDateTime(const char* zone, const std::string& text)
 {
-    const auto in = [zone](auto parse)
-    {
-        return [zone, parse](const char* written)
-        {
-            // (The benchmarks run one after the other.)
-            static const char* current = "";
-            if (current != zone)
-            {
-                zone != nullptr ? setenv("TZ", zone, 1) : unsetenv("TZ");
-                current = zone;
-            }
-            return parse(written).tv_sec;
-        };
-    };
     const std::string name = std::string(zone != nullptr ? zone : "no TZ") + ", date-time";
-    measure(name, text, in([](const char* written) { return toml::parseDateTime(written); }));
-    measure(name + ", stated", text,
-            in([](const char* written) { return toml::stated::parseDateTime(written); }));
+    measure(
+        name, text, [](const char* written) { return toml::parseDateTime(written).tv_sec; }, zone);
+    measure(
+        name + ", stated", text,
+        [](const char* written) { return toml::stated::parseDateTime(written).tv_sec; }, zone);
 }
 
 } // namespace
