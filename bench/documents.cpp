@@ -1,5 +1,6 @@
 #include "documents.h"
 
+#include <cstdint>
 #include <utility>
 
 namespace bench
@@ -85,6 +86,80 @@ std::string datedEntry(unsigned number)
            std::to_string(number) + ", local = 1979-05-27T07:32:00 } }\n";
 }
 
+// Numbers without a pattern, the same on every machine.
+class Numbers
+{
+public:
+    explicit Numbers(unsigned seed) : state_(seed * 2654435761U + 1) {}
+
+    // From 0 to below `end`.
+    unsigned below(unsigned end)
+    {
+        state_ = state_ * 1664525U + 1013904223U;
+        return (state_ >> 8U) % end;
+    }
+
+private:
+    std::uint32_t state_;
+};
+
+std::string word(Numbers& numbers)
+{
+    std::string letters;
+    for (unsigned left = 2 + numbers.below(10); left > 0; --left)
+    {
+        letters += static_cast<char>('a' + numbers.below(26));
+    }
+    return letters;
+}
+
+std::string words(Numbers& numbers, unsigned count)
+{
+    return count <= 1 ? word(numbers) : word(numbers) + ' ' + words(numbers, count - 1);
+}
+
+std::string randomNumber(Numbers& numbers)
+{
+    constexpr unsigned ends[] = {10, 100, 1'000, 10'000, 100'000, 1'000'000};
+    return std::to_string(numbers.below(ends[numbers.below(6)]));
+}
+
+std::string randomValue(Numbers& numbers)
+{
+    switch (numbers.below(10))
+    {
+    case 0:
+    case 1:
+    case 2:
+    case 3:
+        return '"' + words(numbers, 1 + numbers.below(4)) + '"';
+    case 4:
+    case 5:
+        return randomNumber(numbers);
+    case 6:
+        return (numbers.below(2) == 0 ? "-" : "") + randomNumber(numbers) + '.' +
+               randomNumber(numbers);
+    case 7:
+        return "[" + randomNumber(numbers) + ", " + randomNumber(numbers) + ", " +
+               randomNumber(numbers) + "]";
+    default:
+        return numbers.below(2) == 0 ? "true" : "false";
+    }
+}
+
+// A table of words and values whose lengths and order no processor can foresee.
+std::string randomTable(unsigned number)
+{
+    Numbers numbers(number);
+    std::string text = "[" + word(numbers) + numbered(".t", number) + "]\n";
+    for (unsigned index = 0, count = 2 + numbers.below(8); index < count; ++index)
+    {
+        text += word(numbers) + numbered("_", index) + " = " + randomValue(numbers) +
+                (numbers.below(8) == 0 ? "  # " + words(numbers, 4) : "") + '\n';
+    }
+    return text + '\n';
+}
+
 // One part of each kind.  Where keys stand in no table of their own they get one.
 std::string mixed(unsigned number)
 {
@@ -111,11 +186,9 @@ std::string repeat(Part part, std::size_t size)
 
 std::vector<Document> documents()
 {
-    const std::pair<const char*, Part> kinds[] = {{"services", service},
-                                                  {"long-strings", longString},
-                                                  {"number-arrays", numberArray},
-                                                  {"small-tables", smallTable},
-                                                  {"dates", datedEntry}};
+    const std::pair<const char*, Part> kinds[] = {
+        {"services", service},        {"long-strings", longString}, {"number-arrays", numberArray},
+        {"small-tables", smallTable}, {"dates", datedEntry},        {"random-tables", randomTable}};
     const std::pair<const char*, std::size_t> sizes[] = {
         {"1KB", 1'000}, {"100KB", 100'000}, {"1MB", 1'000'000}};
     std::vector<Document> all;

@@ -27,7 +27,7 @@ TEST(BenchDocuments, areOfEachKindInEachSize)
 {
     std::map<std::string, std::size_t> expected = {{"mixed/10MB", 10'000'000}};
     for (const std::string kind :
-         {"services", "long-strings", "number-arrays", "small-tables", "dates"})
+         {"services", "long-strings", "number-arrays", "small-tables", "dates", "random-tables"})
     {
         expected[kind + "/1KB"] = 1'000;
         expected[kind + "/100KB"] = 100'000;
