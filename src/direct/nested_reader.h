@@ -48,8 +48,8 @@ private:
 
     After pair()
     {
-        const Event read = readPair(tokens_, sink_);
-        return read == Event::endKeyValue ? afterPair() : enter(read);
+        const Event event = readPair(tokens_, sink_);
+        return event == Event::endKeyValue ? afterPair() : enter(event);
     }
 
     After element()
