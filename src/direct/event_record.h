@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 
 #include "record_entry.h"
 #include "repetition.h"
@@ -81,10 +82,10 @@ private:
                                                 std::size_t length) noexcept
     {
         longestText_ = std::max(longestText_, length);
+        const LongText text = {gap, length};
         last[0] = 0;
-        last[1] = static_cast<RecordEntry>(gap);
-        last[2] = static_cast<RecordEntry>(length);
-        return last + 3;
+        std::memcpy(last + 1, &text, sizeof(text));
+        return last + 1 + longTextEntries;
     }
 
     // All events of the lines before `position` have come.

@@ -12,11 +12,18 @@ namespace vorn::parsers::toml
 // From the lowest bits on: the length of the text, the gap between it and the text before, what
 // starts right before the event and ends right after it, and the event.
 //
-// Where the length or the gap has more bits, both are in two entries of their own, after one that
-// is 0 and before that of the text, which has neither.
+// Where the length or the gap has more bits, both are in entries of their own, after one that is 0
+// and before that of the text, which has neither.
 using RecordEntry = std::uint32_t;
 
-inline constexpr std::size_t longestEntry = 4;
+struct LongText
+{
+    std::size_t gap;
+    std::size_t length;
+};
+
+inline constexpr std::size_t longTextEntries = sizeof(LongText) / sizeof(RecordEntry);
+inline constexpr std::size_t longestEntry = 1 + longTextEntries + 1;
 inline constexpr std::size_t maxShortText = 0xFF;
 
 enum Edge : RecordEntry

@@ -1,6 +1,7 @@
 #include "repetition.h"
 
 #include <cstddef>
+#include <cstring>
 
 namespace vorn::parsers::toml
 {
@@ -90,10 +91,12 @@ void callText(RecordEntry entry, const char* text, VisitorCalls& calls)
                 callEnds(current, calls);
                 continue;
             }
-            text += entry[0];
-            length = entry[1];
-            current = entry[2];
-            entry += 3;
+            LongText numbers = {};
+            std::memcpy(&numbers, entry, sizeof(numbers));
+            text += numbers.gap;
+            length = numbers.length;
+            current = entry[longTextEntries];
+            entry += longTextEntries + 1;
         }
         const char* const copy = calls.terminated({text, length});
         text += length;
