@@ -40,7 +40,11 @@ public:
         return next != nullptr;
     }
 
-    TakenText takeKeyPart() noexcept { return takeAny<keyEvent>(); }
+    TakenText takeKeyPart() noexcept
+    {
+        const char* const stop = bareKeyEnd(position(), end());
+        return stop != nullptr ? TakenText{Event::visitBareKey, goOver(stop)} : takeAny<keyEvent>();
+    }
 
     // Goes over a bare key and the sign after it, with a blank on each side of that or on none, if
     // a value comes next.  Otherwise it stays.
@@ -88,6 +92,10 @@ public:
         }
         switch (first)
         {
+        case '[':
+            return {Event::beginArray, goOver(position() + 1)};
+        case '{':
+            return {Event::beginInlineTable, goOver(position() + 1)};
         case '-':
         case '+':
             return takeNumber(position() + 1);
@@ -144,6 +152,18 @@ private:
         return {found.event, found.event != Event::none ? goOver(found.stop) : std::string_view()};
     }
 
+    // The end of a bare key; null if that is not easy to see.
+    [[gnu::noinline]] static const char* bareKeyEnd(const char* begin, const char* end) noexcept
+    {
+        if (!is(*begin, letter))
+        {
+            return nullptr;
+        }
+        const char* const stop = earlyRunEnd<KeyCharacters>(begin, end);
+        return stop != nullptr && is(*begin, keywordStart) && startsLikeValue(begin) ? nullptr
+                                                                                     : stop;
+    }
+
     // The start of the token after a line break; null if there is none.
     [[gnu::noinline]] static const char* afterNewline(TokenCursor tokens) noexcept
     {
@@ -178,8 +198,17 @@ private:
     // A decimal integer, or a float with a fraction, whose digits start at `whole`.
     TakenText takeNumber(const char* whole) noexcept
     {
-        const char* const point = earlyRunEnd<Digits>(whole, end());
-        if (point == nullptr || point == whole || (*whole == '0' && point != whole + 1))
+        if (end() - whole <= ByteBlock::size)
+        {
+            return takeAny<valueEvent>();
+        }
+        const auto others = Digits::outside(ByteBlock(whole));
+        if (others == 0)
+        {
+            return takeAny<valueEvent>();
+        }
+        const char* const point = whole + ByteBlock::firstOf(others);
+        if (point == whole || (*whole == '0' && point != whole + 1))
         {
             return takeAny<valueEvent>();
         }
@@ -187,10 +216,11 @@ private:
         {
             return {Event::visitInteger, goOver(point)};
         }
-        if (*point == '.')
+        const auto more = others & (others - 1);
+        if (*point == '.' && more != 0)
         {
-            const char* const stop = earlyRunEnd<Digits>(point + 1, end());
-            if (stop != nullptr && stop != point + 1 && endsNumber(*stop))
+            const char* const stop = whole + ByteBlock::firstOf(more);
+            if (stop != point + 1 && endsNumber(*stop))
             {
                 return {Event::visitFloat, goOver(stop)};
             }

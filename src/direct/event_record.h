@@ -65,7 +65,7 @@ private:
     void hand(const RecordEntry* last) { text_ = repeat(begin_, last, text_, *calls_); }
 
     // Returns where to write the next entry if there is no room for it at `last`.
-    [[gnu::noinline]] RecordEntry* makeRoom(const RecordEntry* last)
+    [[gnu::noinline, gnu::cold]] RecordEntry* makeRoom(const RecordEntry* last)
     {
         if (calls_ == nullptr)
         {
@@ -78,8 +78,8 @@ private:
 
     // Writes what comes before the entry of a text that is long, or far from the one before.
     // Returns the place of that entry.
-    [[gnu::noinline]] RecordEntry* writeNumbers(RecordEntry* last, std::size_t gap,
-                                                std::size_t length) noexcept
+    [[gnu::noinline, gnu::cold]] RecordEntry* writeNumbers(RecordEntry* last, std::size_t gap,
+                                                           std::size_t length) noexcept
     {
         longestText_ = std::max(longestText_, length);
         const LongText text = {gap, length};
