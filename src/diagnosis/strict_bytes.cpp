@@ -14,17 +14,16 @@ namespace
 {
 
 // What most of a document is made of.
-constexpr bool isPrintable(char c)
+struct Printable
 {
-    return c >= ' ' && c <= '~';
-}
+    static constexpr bool has(char c) { return c >= ' ' && c <= '~'; }
 
-// Marks, by its high bit, at least the first byte that is not printable, and none before it.
-constexpr PackedBytes nonPrintable(PackedBytes word)
-{
-    const PackedBytes controls = (word - everywhere(' ')) & ~word;
-    return (controls | bytesEqual(word, '\x7F') | word) & highBits;
-}
+    template <typename Block>
+    static auto outside(Block block) noexcept
+    {
+        return block.notMarked(block.from(' ', '~'));
+    }
+};
 
 // One forbidden byte, or an allowed character.
 struct Classified
@@ -48,7 +47,7 @@ Classified classify(const char* at, const char* end)
     default:
         break;
     }
-    if (isPrintable(*at))
+    if (Printable::has(*at))
     {
         return {nullptr, at + 1};
     }
@@ -101,7 +100,7 @@ std::vector<Mistake> findForbiddenBytes(std::string_view text, std::size_t max,
     const auto offset = [text](const char* place)
     { return static_cast<std::size_t>(place - text.data()); };
     const char* at = text.data();
-    while (!mistakes.isFull() && (at = runEnd<nonPrintable, isPrintable>(at, end)) != end)
+    while (!mistakes.isFull() && (at = runEnd<Printable>(at, end)) != end)
     {
         const char* const begin = at;
         const Classified found = classify(begin, end);

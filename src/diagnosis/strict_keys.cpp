@@ -11,7 +11,7 @@ std::string_view keyPart(const char* begin, const char* end)
 {
     const char* const stop = *begin == '"'    ? scanBasic(begin, end).end
                              : *begin == '\'' ? scanLiteral(begin, end).end
-                                              : skipKeyCharacters(begin, end);
+                                              : runEnd<KeyCharacters>(begin, end);
     return {begin, static_cast<std::size_t>(stop - begin)};
 }
 

@@ -1,6 +1,8 @@
 #include "direct_reader.h"
 
+#include "direct_cursor.h"
 #include "event_record.h"
+#include "event_writer.h"
 #include "reader.h"
 #include "scan/utf8.h"
 #include "scratch.h"
@@ -11,28 +13,18 @@ namespace vorn::parsers::toml
 namespace
 {
 
-// Reads lines that are known to be valid and calls the visitor: for documents that are too
-// long to be recorded whole, which do not need it inlined.
-[[gnu::noinline]] void visitLines(const char* begin, const char* end, NestingStack nesting,
-                                  VisitorCalls calls)
+// What changes with every token is in registers, since nobody has its address: everything common is
+// inlined, and functions of their own take it by value.
+[[gnu::flatten, gnu::noinline]] bool readLines(const char* end, NestingStack nesting,
+                                               EventRecord& record)
 {
-    Reader(begin, end, nesting, calls).lines();
-}
-
-// Calls the visitor for the recorded lines.  Inlined into readDirectly(), this loop would run
-// out of registers: GCC 12 then stores each event's kind as one byte and loads eight at that
-// place right away, so that the look-up of the operation waits for the store.  On its own it
-// saves 1 to 4 % of the whole time (x86-64, the mean of eight placements of the code, each of
-// which changes the time by up to 7 % in either direction).
-[[gnu::noinline]] void visitRecorded(const EventRecord& record, VisitorCalls calls)
-{
-    record.repeat(calls);
+    EventWriter writer(record);
+    return Reader(DirectCursor(record.position(), end), nesting, writer).lines();
 }
 
 } // namespace
 
-// With everything inlined, the positions in the text and in the record stay in registers.
-[[gnu::flatten]] DirectReading readDirectly(std::string_view text, ITomlTreeVisitor& visitor)
+DirectReading readDirectly(std::string_view text, ITomlTreeVisitor& visitor)
 {
     const std::size_t size = text.size();
     const char* const end = text.data() + size;
@@ -40,14 +32,14 @@ namespace
     const char* const begin = text.data() + byteOrderMarkLength(text);
 
     const Scratch<NestingStack::Word, 64> words(NestingStack::wordsFor(size));
-    const Scratch<EventRecord::Byte, 2048> bytes(EventRecord::bytesFor(size));
-    if (words.begin() == nullptr || bytes.begin() == nullptr)
+    const Scratch<RecordEntry, 1024> entries(EventRecord::entriesFor(size));
+    if (words.begin() == nullptr || entries.begin() == nullptr)
     {
         return DirectReading::outOfMemory;
     }
-    NestingStack nesting(words.begin(), size);
-    EventRecord record(bytes.begin(), EventRecord::bytesFor(size), begin);
-    if (!Reader(begin, end, nesting, record).lines())
+    const NestingStack nesting(words.begin(), size);
+    EventRecord record(entries.begin(), EventRecord::entriesFor(size), begin);
+    if (!readLines(end, nesting, record))
     {
         return DirectReading::refused;
     }
@@ -59,10 +51,11 @@ namespace
     }
     VisitorCalls calls(visitor, buffer.begin(), end);
     visitor.beginDocument();
-    visitRecorded(record, calls);
+    record.handTo(calls);
     if (record.position() != end)
     {
-        visitLines(record.position(), end, NestingStack(words.begin(), size), calls);
+        readLines(end, nesting, record);
+        record.finish();
     }
     visitor.endDocument();
     return DirectReading::accepted;

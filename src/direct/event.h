@@ -34,7 +34,12 @@ enum class Event : std::uint8_t
     visitLocalDateTime,
     visitLocalDate,
     visitLocalTime,
-    none, // not a scalar
+    none, // no event
 };
+
+constexpr bool hasText(Event event)
+{
+    return event >= Event::visitBareKey && event < Event::none;
+}
 
 } // namespace vorn::parsers::toml

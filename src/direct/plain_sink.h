@@ -10,7 +10,8 @@ namespace vorn::parsers::toml
 // A sink takes a document's events in order: event(), text() for those with a text, and
 // lineEnd().  Two events that come together most of the time come as one call: keyOfPair() is
 // the start of a pair and its key, of one part; valueOfPair() is a scalar and the end of its
-// pair.  A sink that gains nothing by that derives from this one, which takes them apart.
+// pair.  The parts of other keys come by keyPart(): something starts or ends with many of them.
+// A sink that gains nothing by that derives from this one, which takes them apart.
 template <typename Sink>
 class PlainSink
 {
@@ -20,6 +21,14 @@ public:
         self().event(Event::beginKeyValue);
         self().text(event, text);
     }
+
+    void pair(std::string_view key, Event event, std::string_view value)
+    {
+        self().keyOfPair(Event::visitBareKey, key);
+        self().valueOfPair(event, value);
+    }
+
+    void keyPart(Event event, std::string_view text) { self().text(event, text); }
 
     void valueOfPair(Event event, std::string_view text)
     {

@@ -34,6 +34,12 @@ struct TakenToken
     return stop != nullptr ? stop : at;
 }
 
+// Few tokens start with a character as low as blanks and the start of comments.
+constexpr bool mayBeSkipped(char c)
+{
+    return static_cast<unsigned char>(c) <= '#';
+}
+
 // Goes over a NUL-terminated text token by token, without blanks and comments.  A token of one
 // character is known by it; the others are scanned when they are taken.
 //
@@ -93,31 +99,40 @@ public:
     // Goes over the next token, whatever it is; stays if none is recognised.
     TakenToken take() noexcept
     {
-        const char* const begin = at_;
-        const Token token = scanToken(begin, end_);
-        if (token.type == TokenType::none)
-        {
-            return {TokenType::none, {}};
-        }
-        at_ = token.end;
-        skipBlanks();
-        return {token.type, {begin, static_cast<std::size_t>(token.end - begin)}};
+        const Token token = scanToken(at_, end_);
+        return token.type != TokenType::none ? TakenToken{token.type, goOver(token.end)}
+                                             : TakenToken{TokenType::none, {}};
     }
 
     // Before the next token.
     const char* position() const noexcept { return at_; }
 
+protected:
+    // Goes over a token that ends at `stop`, and returns its text.
+    std::string_view goOver(const char* stop) noexcept
+    {
+        const char* const begin = at_;
+        at_ = stop;
+        skipBlanks();
+        return {begin, static_cast<std::size_t>(stop - begin)};
+    }
+
+    // To the start of a token.
+    void goTo(const char* at) noexcept { at_ = at; }
+
+    const char* end() const noexcept { return end_; }
+
 private:
     unsigned char byte() const noexcept { return static_cast<unsigned char>(*at_); }
 
-    // Also goes over a comment.  Mostly there is just one blank.
+    // Also goes over a comment.  Mostly there is just one blank, if any.
     void skipBlanks() noexcept
     {
         if (isNext(' '))
         {
             ++at_;
         }
-        if (is(*at_, skipped))
+        if (mayBeSkipped(*at_) && is(*at_, skipped))
         {
             at_ = skippedEnd(at_, end_);
         }

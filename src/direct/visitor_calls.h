@@ -9,13 +9,12 @@
 #include <string_view>
 
 #include "event.h"
-#include "plain_sink.h"
 
 namespace vorn::parsers::toml
 {
 
-// A sink that calls the visitor.  It hands over texts NUL-terminated, from one buffer.
-class VisitorCalls : public PlainSink<VisitorCalls>
+// Calls the visitor for events.  It hands over texts NUL-terminated, from one buffer.
+class VisitorCalls
 {
 public:
     // The bytes of a buffer for texts up to this length.
@@ -30,15 +29,30 @@ public:
     {
     }
 
-    void event(Event event) { (visitor_.*operations[static_cast<std::size_t>(event)])(); }
+    ITomlTreeVisitor& visitor() const noexcept { return visitor_; }
 
-    void text(Event event, std::string_view text)
+    // The text, as long as no other one is asked for.
+    const char* terminated(std::string_view text) noexcept
     {
-        const std::size_t operation = static_cast<std::size_t>(event) - operations.size();
-        (visitor_.*textOperations[operation])(terminated(text));
+        const auto left = static_cast<std::size_t>(end_ - text.data());
+        if (text.size() <= block && left >= block)
+        {
+            std::memcpy(buffer_, text.data(), block);
+        }
+        else
+        {
+            std::memcpy(buffer_, text.data(), text.size());
+        }
+        buffer_[text.size()] = '\0';
+        return buffer_;
     }
 
-    void lineEnd(const char*) noexcept {}
+    void call(Event event) { (visitor_.*operations[static_cast<std::size_t>(event)])(); }
+    void call(Event event, const char* text)
+    {
+        const std::size_t operation = static_cast<std::size_t>(event) - operations.size();
+        (visitor_.*textOperations[operation])(text);
+    }
 
 private:
     using Visitor = ITomlTreeVisitor;
@@ -63,21 +77,6 @@ private:
 
     // Most texts are short, and a block of a fixed size is copied fastest.
     static constexpr std::size_t block = 32;
-
-    const char* terminated(std::string_view text) noexcept
-    {
-        const auto left = static_cast<std::size_t>(end_ - text.data());
-        if (text.size() <= block && left >= block)
-        {
-            std::memcpy(buffer_, text.data(), block);
-        }
-        else
-        {
-            std::memcpy(buffer_, text.data(), text.size());
-        }
-        buffer_[text.size()] = '\0';
-        return buffer_;
-    }
 
     ITomlTreeVisitor& visitor_;
     char* buffer_;

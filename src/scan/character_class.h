@@ -7,7 +7,7 @@
 namespace vorn::parsers::toml
 {
 
-enum CharacterClass : std::uint8_t
+enum CharacterClass : std::uint16_t
 {
     binaryDigit = 1,
     octalDigit = 2,
@@ -16,7 +16,9 @@ enum CharacterClass : std::uint8_t
     letter = 16,
     keyCharacter = 32, // what bare keys are made of
     blank = 64,
-    skipped = 128, // blanks and the start of comments
+    skipped = 128,      // blanks and the start of comments
+    valueStart = 256,   // values and keys start with these, and no other token does
+    keywordStart = 512, // of words that are no keys
 };
 
 constexpr bool isFrom(unsigned c, char first, char last)
@@ -24,25 +26,43 @@ constexpr bool isFrom(unsigned c, char first, char last)
     return c >= static_cast<unsigned>(first) && c <= static_cast<unsigned>(last);
 }
 
-constexpr std::array<std::uint8_t, 256> makeCharacterClasses()
+constexpr bool isOneOf(unsigned c, const char* members)
 {
-    std::array<std::uint8_t, 256> classes = {};
+    for (; *members != '\0'; ++members)
+    {
+        if (c == static_cast<unsigned>(*members))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+constexpr std::uint16_t classesOf(unsigned c)
+{
+    const bool isDigit = isFrom(c, '0', '9');
+    const bool isLetter = isFrom(c, 'A', 'Z') || isFrom(c, 'a', 'z');
+    const bool isHexLetter = isFrom(c, 'A', 'F') || isFrom(c, 'a', 'f');
+    const bool isOfKey = isDigit || isLetter || isOneOf(c, "_-");
+    return static_cast<std::uint16_t>(
+        (isFrom(c, '0', '1') ? binaryDigit : 0) | (isFrom(c, '0', '7') ? octalDigit : 0) |
+        (isDigit ? digit : 0) | (isDigit || isHexLetter ? hexDigit : 0) | (isLetter ? letter : 0) |
+        (isOfKey ? keyCharacter : 0) | (isOneOf(c, " \t") ? blank : 0) |
+        (isOneOf(c, " \t#") ? skipped : 0) | (isOfKey || isOneOf(c, "+\"'[{") ? valueStart : 0) |
+        (isOneOf(c, "tfin") ? keywordStart : 0));
+}
+
+constexpr std::array<std::uint16_t, 256> makeCharacterClasses()
+{
+    std::array<std::uint16_t, 256> classes = {};
     for (unsigned c = 0; c < classes.size(); ++c)
     {
-        const bool isDigit = isFrom(c, '0', '9');
-        const bool isLetter = isFrom(c, 'A', 'Z') || isFrom(c, 'a', 'z');
-        const bool isHexLetter = isFrom(c, 'A', 'F') || isFrom(c, 'a', 'f');
-        classes[c] = static_cast<std::uint8_t>(
-            (c == '0' || c == '1' ? binaryDigit : 0) | (isFrom(c, '0', '7') ? octalDigit : 0) |
-            (isDigit ? digit : 0) | (isDigit || isHexLetter ? hexDigit : 0) |
-            (isLetter ? letter : 0) |
-            (isDigit || isLetter || c == '_' || c == '-' ? keyCharacter : 0) |
-            (c == ' ' || c == '\t' ? blank | skipped : 0) | (c == '#' ? skipped : 0));
+        classes[c] = classesOf(c);
     }
     return classes;
 }
 
-inline constexpr std::array<std::uint8_t, 256> characterClasses = makeCharacterClasses();
+inline constexpr std::array<std::uint16_t, 256> characterClasses = makeCharacterClasses();
 
 constexpr bool is(char c, CharacterClass kind)
 {

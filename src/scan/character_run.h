@@ -1,74 +1,85 @@
 // Finds the end of a run of characters without a branch for each of them: processors cannot
 // predict the lengths of words and numbers.
+//
+// A run is a type: has() says whether a character belongs to it, and outside() which bytes of a
+// block do not.
 #pragma once
 
+#include "byte_block.h"
 #include "character_class.h"
-#include "packed_bytes.h"
+#include "utf8.h"
 
 namespace vorn::parsers::toml
 {
 
-// Marks, by some of its bits, at least the first byte that is no digit, and none before it.
-constexpr PackedBytes nonDigits(PackedBytes word)
+struct Digits
 {
-    // Digits differ from '0' by 0 to 9: adding 6 leaves the upper half of the byte empty.
-    const PackedBytes difference = word ^ everywhere('0');
-    return (difference | (difference + everywhere(0x06))) & everywhere(0xF0);
-}
+    static constexpr bool has(char c) { return is(c, digit); }
 
-// The high bit of each byte that is from `first` to `last`, of bytes below 0x80.
-constexpr PackedBytes bytesFrom(PackedBytes word, unsigned char first, unsigned char last)
-{
-    return (word + everywhere(0x80 - first)) & ~(word + everywhere(0x7F - last));
-}
-
-// The high bit of each byte that is no key character.
-constexpr PackedBytes nonKeyCharacters(PackedBytes word)
-{
-    const PackedBytes low = word & ~highBits;
-    const PackedBytes found = bytesFrom(low | everywhere(0x20), 'a', 'z') |
-                              bytesFrom(low, '0', '9') | (highBits - (low ^ everywhere('-'))) |
-                              (highBits - (low ^ everywhere('_')));
-    return (~found | word) & highBits;
-}
-
-// The first position from `at` on whose character does not belong to the run.  Of a word,
-// `others` marks at least the first such byte, and none before.
-template <PackedBytes (*others)(PackedBytes), bool (*belongs)(char)>
-const char* runEnd(const char* at, const char* end) noexcept
-{
-    for (; end - at >= static_cast<std::ptrdiff_t>(sizeof(PackedBytes)); at += sizeof(PackedBytes))
+    template <typename Block>
+    static auto outside(Block block) noexcept
     {
-        if (const PackedBytes found = others(loadBytes(at)); found != 0)
+        return block.notMarked(block.from('0', '9'));
+    }
+};
+
+struct KeyCharacters
+{
+    static constexpr bool has(char c) { return is(c, keyCharacter); }
+
+    template <typename Block>
+    static auto outside(Block block) noexcept
+    {
+        return block.notMarked(block.fromInAnyCase('a', 'z') | block.from('0', '9') |
+                               block.equal('-') | block.equal('_'));
+    }
+};
+
+// ASCII without some characters: what strings and comments are made of for the most part.
+template <char... others>
+struct Plain
+{
+    static constexpr bool has(char c) { return ((c != others) && ...) && isAscii(c); }
+
+    template <typename Block>
+    static auto outside(Block block) noexcept
+    {
+        return block.markedOrNotAscii((block.equal(others) | ...));
+    }
+};
+
+// The first position from `at` on whose character does not belong to the run; null if it is within
+// the last block of bytes before the end.
+template <typename Run, typename Block = ByteBlock>
+const char* earlyRunEnd(const char* at, const char* end) noexcept
+{
+    for (; littleEndian && end - at >= Block::size; at += Block::size)
+    {
+        if (const auto outside = Run::outside(Block(at)); outside != 0)
         {
-            if constexpr (littleEndian)
-            {
-                return at + lowestByte(found);
-            }
-            break;
+            return at + Block::firstOf(outside);
         }
     }
-    while (at != end && belongs(*at))
+    return nullptr;
+}
+
+// The first position from `at` on whose character does not belong to the run.
+template <typename Run, typename Block = ByteBlock>
+const char* runEnd(const char* at, const char* end) noexcept
+{
+    if (const char* const early = earlyRunEnd<Run, Block>(at, end); early != nullptr)
+    {
+        return early;
+    }
+    if (littleEndian)
+    {
+        at = end - (end - at) % Block::size;
+    }
+    while (at != end && Run::has(*at))
     {
         ++at;
     }
     return at;
-}
-
-template <CharacterClass kind>
-constexpr bool isOf(char c)
-{
-    return is(c, kind);
-}
-
-inline const char* skipDigits(const char* at, const char* end) noexcept
-{
-    return runEnd<nonDigits, isOf<digit>>(at, end);
-}
-
-inline const char* skipKeyCharacters(const char* at, const char* end) noexcept
-{
-    return runEnd<nonKeyCharacters, isOf<keyCharacter>>(at, end);
 }
 
 } // namespace vorn::parsers::toml

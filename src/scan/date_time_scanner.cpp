@@ -1,6 +1,5 @@
 #include "date_time_scanner.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -16,21 +15,37 @@ constexpr std::ptrdiff_t dateLength = 10;      // 0000-00-00
 constexpr std::ptrdiff_t timeLength = 8;       // 00:00:00
 constexpr std::ptrdiff_t hourMinuteLength = 5; // 00:00
 
-// Whether eight bytes have a shape, in which '0' stands for any digit.
-//
-// Digits differ from '0' by 0 to 9, separators from themselves by 0.  The addition makes
-// any larger difference reach the upper half of its byte.
-bool haveShape(const char* at, const char (&shape)[9]) noexcept
+// What eight bytes look like, in which '0' stands for any digit.
+class Shape
 {
-    std::array<char, 8> reach = {};
-    for (unsigned index = 0; index < 8; ++index)
+public:
+    explicit constexpr Shape(const char (&text)[9])
     {
-        reach[index] = shape[index] == '0' ? 0x06 : 0x0F;
+        for (unsigned index = 0; index < 8; ++index)
+        {
+            const unsigned shift = 8 * (littleEndian ? index : 7 - index);
+            const auto byte = static_cast<unsigned char>(text[index]);
+            bytes_ |= std::uint64_t{byte} << shift;
+            reach_ |= std::uint64_t{text[index] == '0' ? 0x06U : 0x0FU} << shift;
+        }
     }
-    const auto difference = loadBytes<std::uint64_t>(at) ^ loadBytes<std::uint64_t>(shape);
-    const auto beyond = difference + loadBytes<std::uint64_t>(reach.data());
-    return ((difference | beyond) & 0xF0F0F0F0F0F0F0F0U) == 0;
-}
+
+    // Digits differ from '0' by 0 to 9, separators from themselves by 0.  The addition makes
+    // any larger difference reach the upper half of its byte.
+    bool isAt(const char* at) const noexcept
+    {
+        const auto difference = loadBytes<std::uint64_t>(at) ^ bytes_;
+        return ((difference | (difference + reach_)) & 0xF0F0F0F0F0F0F0F0U) == 0;
+    }
+
+private:
+    std::uint64_t bytes_ = 0;
+    std::uint64_t reach_ = 0;
+};
+
+constexpr Shape yearAndMonth("0000-00-");
+constexpr Shape shortDate("00-00-00");
+constexpr Shape wholeTime("00:00:00");
 
 bool areHourAndColon(const char* at, const char* end) noexcept
 {
@@ -46,7 +61,7 @@ bool areHourAndMinute(const char* at, const char* end) noexcept
 // The end of a time with an optional fraction; null if there is none.
 const char* partialTimeEnd(const char* at, const char* end) noexcept
 {
-    if (end - at < timeLength || !haveShape(at, "00:00:00"))
+    if (end - at < timeLength || !wholeTime.isAt(at))
     {
         return nullptr;
     }
@@ -89,7 +104,7 @@ Token scanDateTime(const char* at, const char* end) noexcept
 
 bool beginsWithDate(const char* at, const char* end) noexcept
 {
-    return end - at >= dateLength && haveShape(at, "0000-00-") && haveShape(at + 2, "00-00-00");
+    return end - at >= dateLength && yearAndMonth.isAt(at) && shortDate.isAt(at + 2);
 }
 
 // A date before a blank, and one before an hour with a colon, starts a date-time.  That must

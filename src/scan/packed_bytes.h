@@ -36,11 +36,4 @@ inline std::ptrdiff_t lowestByte(PackedBytes marked) noexcept
     return __builtin_ctzl(marked) / 8;
 }
 
-// Marks, by its high bit, at least the first byte that equals `c`, and none before it.
-constexpr PackedBytes bytesEqual(PackedBytes word, char c)
-{
-    const PackedBytes difference = word ^ everywhere(static_cast<unsigned char>(c));
-    return (difference - everywhere(1)) & ~difference;
-}
-
 } // namespace vorn::parsers::toml

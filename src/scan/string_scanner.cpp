@@ -14,26 +14,6 @@ namespace
 
 constexpr Token notRecognised = {TokenType::none, nullptr};
 
-// ASCII without some characters: what strings and comments are made of for the most part.
-template <char... others>
-constexpr bool isPlain(char c)
-{
-    return ((c != others) && ...) && isAscii(c);
-}
-
-// Marks, by its high bit, at least the first byte that is not plain, and none before it.
-template <char... others>
-constexpr PackedBytes nonPlainBytes(PackedBytes word)
-{
-    return ((bytesEqual(word, others) | ...) | word) & highBits;
-}
-
-template <char... others>
-const char* plainEnd(const char* at, const char* end) noexcept
-{
-    return runEnd<nonPlainBytes<others...>, isPlain<others...>>(at, end);
-}
-
 // The end of `count` hexadecimal digits; null if there are fewer.
 const char* hexEnd(const char* at, const char* end, std::ptrdiff_t count) noexcept
 {
@@ -85,7 +65,7 @@ Token scanLine(const char* at, const char* end) noexcept
     constexpr bool escapes = type == TokenType::basicString;
     for (;;)
     {
-        at = escapes ? plainEnd<quote, '\n', '\\'>(at, end) : plainEnd<quote, '\n'>(at, end);
+        at = escapes ? runEnd<Plain<quote, '\n', '\\'>>(at, end) : runEnd<Plain<quote, '\n'>>(at, end);
         if (at == end || *at == '\n')
         {
             return notRecognised;
@@ -110,7 +90,7 @@ Token scanLines(const char* at, const char* end) noexcept
     constexpr bool escapes = type == TokenType::mlBasicString;
     for (;;)
     {
-        at = escapes ? plainEnd<quote, '\\'>(at, end) : plainEnd<quote>(at, end);
+        at = escapes ? runEnd<Plain<quote, '\\'>>(at, end) : runEnd<Plain<quote>>(at, end);
         if (at == end)
         {
             return notRecognised;
@@ -160,7 +140,7 @@ const char* commentEnd(const char* begin, const char* end) noexcept
     const char* at = begin;
     while (at != nullptr)
     {
-        at = plainEnd<'\n'>(at, end);
+        at = runEnd<Plain<'\n'>>(at, end);
         if (at == end || *at == '\n')
         {
             return at;

@@ -137,7 +137,7 @@ TokenType classifyKeyword(std::string_view word) noexcept
 // started it must be whole: there is no way back to the word.
 Token scanNumber(const char* begin, const char* end) noexcept
 {
-    const char* const stop = skipKeyCharacters(begin, end);
+    const char* const stop = runEnd<KeyCharacters>(begin, end);
     if (stop != end && (*stop == '.' || *stop == '+'))
     {
         const char* const at = integerEnd(*begin == '-' ? begin + 1 : begin, stop);
@@ -157,7 +157,7 @@ Token scanNumber(const char* begin, const char* end) noexcept
 
 Token scanDigit(const char* begin, const char* end) noexcept
 {
-    const char* const stop = skipDigits(begin, end);
+    const char* const stop = runEnd<Digits>(begin, end);
     const char next = stop != end ? *stop : '\0';
     if (next == '-' && beginsWithDate(begin, end))
     {
@@ -181,7 +181,7 @@ Token scanWord(const char* begin, const char* end) noexcept
     {
         return scanNumber(begin, end);
     }
-    const char* const stop = skipKeyCharacters(begin, end);
+    const char* const stop = runEnd<KeyCharacters>(begin, end);
     return {classifyKeyword({begin, static_cast<std::size_t>(stop - begin)}), stop};
 }
 

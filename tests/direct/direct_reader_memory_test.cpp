@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "direct/direct_reader.h"
+#include "direct/record_entry.h"
 
 #include <cstdlib>
 #include <new>
@@ -13,6 +14,7 @@
 
 using namespace test;
 using vorn::parsers::toml::DirectReading;
+using vorn::parsers::toml::maxShortText;
 using vorn::parsers::toml::readDirectly;
 
 namespace
@@ -83,15 +85,36 @@ TEST(DirectReaderMemory, thatIsMissingMeansNoCalls)
         EXPECT_EQ(reading, DirectReading::outOfMemory);
         EXPECT_EQ(visitor.events(), Events());
     }
-    EXPECT_GT(number, 1);
-    EXPECT_LE(number - 1, maxAllocations);
+    EXPECT_EQ(number - 1, maxAllocations);
 }
 
 TEST(DirectReaderMemory, isNotNeededForASmallDocument)
 {
-    EventRecorder visitor;
-    const FailingAllocation failing(1);
-    EXPECT_EQ(readDirectly("a = [1, {b = 'c'}]\n", visitor), DirectReading::accepted);
+    std::string lines;
+    while (lines.size() < 1990)
+    {
+        lines += "a=[1]\nb=1\n";
+    }
+    for (const std::string& small : {std::string("a = [1, {b = 'c'}]\n"), lines,
+                                     "a = '" + std::string(maxShortText - 2, 'c') + "'\n"})
+    {
+        EventRecorder visitor;
+        const FailingAllocation failing(1);
+        EXPECT_EQ(readDirectly(small, visitor), DirectReading::accepted);
+        EXPECT_FALSE(FailingAllocation::hasFailed());
+    }
+}
+
+TEST(DirectReaderMemory, isNeededForALargeDocumentOrALongText)
+{
+    for (const std::string& large : {"a = 1\n#" + std::string(2040, 'c'),
+                                     "a = '" + std::string(maxShortText - 1, 'c') + "'\n"})
+    {
+        EventRecorder visitor;
+        const FailingAllocation failing(1);
+        EXPECT_EQ(readDirectly(large, visitor), DirectReading::outOfMemory);
+        EXPECT_EQ(visitor.events(), Events());
+    }
 }
 
 // The recognisers, which would need far more, are not asked then.

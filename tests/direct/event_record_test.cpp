@@ -3,221 +3,312 @@
 
 #include "direct/event_record.h"
 
+#include <sys/mman.h>
+
 #include <algorithm>
-#include <set>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "direct/event_writer.h"
+#include "support/event_recorder.h"
 #include "support/event_sink.h"
 
-using vorn::parsers::toml::Event;
-using vorn::parsers::toml::EventRecord;
+using namespace vorn::parsers::toml;
+using test::Events;
 
 namespace
 {
 
-// A record with bytes of its own.
-class Record : std::vector<EventRecord::Byte>, public EventRecord
+// Bytes that tell where they come from.
+std::string makeDocument(std::size_t size)
 {
-public:
-    explicit Record(const std::string& document)
-        : vector(bytesFor(document.size())),
-          EventRecord(vector::data(), vector::size(), document.data())
+    std::string text;
+    for (std::size_t index = 0; index < size; ++index)
     {
+        text += static_cast<char>('!' + (index / 7 * 5 + index) % 89);
     }
-};
+    return text;
+}
 
-// Hands the same events to a record and to a list of what is expected of it.
+const std::string document = makeDocument(3000 * 1000);
+
+// A record as for a document of some size, and lines for it, however many.
 class Recording
 {
 public:
-    explicit Recording(const std::string& document) : record(document), next_(document.data()) {}
+    explicit Recording(std::size_t size)
+        : entries_(EventRecord::entriesFor(size)),
+          record_(entries_.data(), entries_.size(), document.data())
+    {
+    }
 
-    void event(Event event)
+    // All lines, of integers: their lengths, each text a byte after the one before.
+    using Line = std::vector<std::size_t>;
+    void writeAll(const std::vector<Line>& lines)
     {
-        record.event(event);
-        expected.event(event);
+        ends_ = {document.data()};
+        calls_ = {0};
+        test::EventSink sink;
+        EventWriter writer(record_);
+        const char* at = document.data();
+        for (const Line& line : lines)
+        {
+            write(writer, at, line);
+            at = write(sink, at, line);
+            calls_.push_back(sink.events.size());
+            ends_.push_back(at);
+        }
+        lines_ = lines;
+        whole_ = sink.events;
     }
-    void text(Event event, std::size_t gap, std::size_t length)
-    {
-        const std::string_view text = next(gap, length);
-        record.text(event, text);
-        expected.text(event, text);
-    }
-    void keyOfPair(Event event, std::size_t gap, std::size_t length)
-    {
-        const std::string_view text = next(gap, length);
-        record.keyOfPair(event, text);
-        expected.keyOfPair(event, text);
-    }
-    void valueOfPair(Event event, std::size_t gap, std::size_t length)
-    {
-        const std::string_view text = next(gap, length);
-        record.valueOfPair(event, text);
-        expected.valueOfPair(event, text);
-    }
-    void lineEnd() { record.lineEnd(next_); }
 
-    const char* position() const { return next_; }
+    // How many lines are kept.
+    std::size_t kept() const
+    {
+        const auto end = std::find(ends_.begin(), ends_.end(), record_.position());
+        EXPECT_NE(end, ends_.end()) << "it ends within a line";
+        return static_cast<std::size_t>(end - ends_.begin());
+    }
 
-    Record record;
-    test::EventSink expected;
+    // What the visitor gets when the rest is read again.
+    void expectHandedOver()
+    {
+        test::EventRecorder visitor;
+        std::vector<char> buffer(VisitorCalls::bytesFor(record_.longestText()));
+        VisitorCalls calls(visitor, buffer.data(), document.data() + document.size());
+        const std::size_t kept = this->kept();
+        record_.handTo(calls);
+        ASSERT_EQ(visitor.events().size(), calls_[kept]);
+        EXPECT_TRUE(std::equal(visitor.events().begin(), visitor.events().end(), whole_.begin()));
+        EventWriter writer(record_);
+        for (std::size_t line = kept; line < lines_.size(); ++line)
+        {
+            write(writer, ends_[line], lines_[line]);
+        }
+        record_.finish();
+        EXPECT_EQ(record_.position(), ends_.back());
+        ASSERT_EQ(visitor.events().size(), whole_.size());
+        EXPECT_TRUE(visitor.events() == whole_);
+    }
+
+    const EventRecord& record() const { return record_; }
 
 private:
-    std::string_view next(std::size_t gap, std::size_t length)
+    template <typename Sink>
+    static const char* write(Sink& sink, const char* at, const Line& line)
     {
-        const std::string_view text(next_ + gap, length);
-        next_ = text.data() + length;
-        return text;
+        sink.keyOfPair(Event::visitBareKey, {at, 1});
+        ++at;
+        sink.event(Event::beginArray);
+        for (const std::size_t length : line)
+        {
+            sink.text(Event::visitInteger, {at + 1, length});
+            at += 1 + length;
+        }
+        sink.event(Event::endArray);
+        sink.event(Event::endKeyValue);
+        sink.lineEnd(at);
+        return at;
     }
 
-    const char* next_;
+    std::vector<RecordEntry> entries_;
+    EventRecord record_;
+    std::vector<Line> lines_;
+    std::vector<const char*> ends_;
+    std::vector<std::size_t> calls_; // until each line's end
+    Events whole_;
 };
 
-void expectRepeated(const EventRecord& record, const test::EventSink& expected)
+using Line = Recording::Line;
+
+// Addresses of which only those take memory that are written to.
+class ReservedMemory
 {
-    test::EventSink repeated;
-    record.repeat(repeated);
-    ASSERT_EQ(repeated.events.size(), expected.events.size());
-    EXPECT_EQ(repeated.events, expected.events);
-    ASSERT_EQ(repeated.texts.size(), expected.texts.size());
-    for (std::size_t index = 0; index < expected.texts.size(); ++index)
+public:
+    explicit ReservedMemory(std::size_t size)
+        : size_(size), memory_(mmap(nullptr, size, PROT_READ | PROT_WRITE,
+                                    MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0))
     {
-        EXPECT_EQ(repeated.texts[index].data(), expected.texts[index].data()) << index;
+        if (memory_ == MAP_FAILED)
+        {
+            throw std::runtime_error("no addresses");
+        }
     }
-}
+    ReservedMemory(const ReservedMemory&) = delete;
+    ReservedMemory& operator=(const ReservedMemory&) = delete;
+    ~ReservedMemory() { munmap(memory_, size_); }
+
+    char* begin() const { return static_cast<char*>(memory_); }
+
+private:
+    std::size_t size_;
+    void* memory_;
+};
 
 } // namespace
 
+TEST(EventRecord, hasEntriesForHalfTheBytesOfADocument)
+{
+    constexpr std::size_t spare = EventRecord::entriesFor(0);
+    EXPECT_EQ(spare, 2 * longestEntry);
+    EXPECT_EQ(EventRecord::entriesFor(1), spare);
+    EXPECT_EQ(EventRecord::entriesFor(2), spare + 1);
+    EXPECT_EQ(EventRecord::entriesFor(1000), spare + 500);
+    EXPECT_EQ(EventRecord::entriesFor(256 * 1024 - 1), spare + 128 * 1024 - 1);
+    for (const std::size_t large : {std::size_t{256} * 1024, ~std::size_t{0}})
+    {
+        EXPECT_EQ(EventRecord::entriesFor(large), spare + 128 * 1024);
+    }
+}
+
 TEST(EventRecord, ofNothingIsEmpty)
 {
-    for (const std::string& document : {std::string(), std::string("a = 1\n")})
-    {
-        const Record record(document);
-        expectRepeated(record, {});
-        EXPECT_EQ(record.position(), document.data());
-        EXPECT_EQ(record.longestText(), 0u);
-    }
+    Recording recording(10);
+    recording.writeAll({});
+    EXPECT_EQ(recording.record().position(), document.data());
+    EXPECT_GE(recording.record().longestText(), maxShortText);
+    recording.expectHandedOver();
 }
 
-TEST(EventRecord, repeatsEveryEvent)
+TEST(EventRecord, keepsLinesThatItHasRoomFor)
 {
-    const std::string document(20000, 'x');
-    Recording recording(document);
-    for (std::size_t number = 0; number < test::firstEventWithText; ++number)
-    {
-        recording.event(static_cast<Event>(number));
-    }
-    for (std::size_t number = test::firstEventWithText; number < test::eventCount; ++number)
-    {
-        recording.text(static_cast<Event>(number), 1, number);
-        recording.keyOfPair(static_cast<Event>(number), 0, 300 + number);
-        recording.valueOfPair(static_cast<Event>(number), 300, number);
-    }
-    recording.lineEnd();
-    expectRepeated(recording.record, recording.expected);
-    EXPECT_EQ(recording.record.position(), recording.position());
-    EXPECT_EQ(recording.record.longestText(), 300 + test::eventCount - 1);
-}
-
-TEST(EventRecord, repeatsTextsOfAnyLengthBehindAnyGap)
-{
-    const std::size_t gaps[] = {0, 1, 15, 16, 253, 254, 255, 256, 257, 65535, 65536, 100000};
-    const std::size_t lengths[] = {0,   1,    31,   32,    254,   255,  256,
-                                   257, 2047, 2048, 65535, 65536, 99999};
-    const std::string document(20 * 1000 * 1000, 'x');
-    Recording recording(document);
-    std::size_t line = 0;
-    for (const std::size_t gap : gaps)
-    {
-        for (const std::size_t length : lengths)
-        {
-            recording.event(Event::beginKeyValue);
-            recording.text(line % 2 == 0 ? Event::visitBareKey : Event::visitLocalTime, gap,
-                           length);
-            recording.text(Event::visitInteger, 1, 1);
-            recording.lineEnd();
-            ++line;
-        }
-    }
-    expectRepeated(recording.record, recording.expected);
-    EXPECT_EQ(recording.record.position(), recording.position());
-    EXPECT_EQ(recording.record.longestText(), 99999u);
+    Recording recording(100);
+    const std::vector<Line> lines = {{1, 2}, {}, {3}, {0, 200, 4}, {}};
+    recording.writeAll(lines);
+    EXPECT_EQ(recording.kept(), lines.size());
+    recording.expectHandedOver();
 }
 
 TEST(EventRecord, leavesOutALineThatHasNotEnded)
 {
-    const std::string document(100, 'x');
-    Recording recording(document);
-    recording.text(Event::visitBareKey, 0, 3);
-    recording.lineEnd();
-    const char* const position = recording.position();
-    recording.record.event(Event::beginKeyValue);
-    recording.record.text(Event::visitBareKey, {position + 1, 50});
-    expectRepeated(recording.record, recording.expected);
-    EXPECT_EQ(recording.record.position(), position);
-    EXPECT_EQ(recording.record.longestText(), 50u);
+    std::vector<RecordEntry> entries(EventRecord::entriesFor(100));
+    EventRecord record(entries.data(), entries.size(), document.data());
+    EventWriter writer(record);
+    writer.pair({document.data(), 3}, Event::visitInteger, {document.data() + 4, 2});
+    writer.lineEnd(document.data() + 7);
+    writer.keyOfPair(Event::visitBareKey, {document.data() + 8, 4});
+    EXPECT_EQ(record.position(), document.data() + 7);
+    test::EventRecorder visitor;
+    std::vector<char> buffer(VisitorCalls::bytesFor(record.longestText()));
+    VisitorCalls calls(visitor, buffer.data(), document.data() + document.size());
+    record.handTo(calls);
+    EXPECT_EQ(visitor.events(), Events({"beginKeyValue", "visitBareKey " + document.substr(0, 3),
+                                        "visitInteger " + document.substr(4, 2), "endKeyValue"}));
 }
 
-// Whatever there is room for, it is whole lines from the start on, and no line after
-// one that did not fit, however short it is.
+// Whatever there is room for, it is whole lines from the start on, and no line after one that did
+// not fit, however short it is; and what is lost comes when it is read again.
 TEST(EventRecord, isCutOffAtTheEndOfALine)
 {
     for (std::size_t size = 0; size < 60; ++size)
     {
-        SCOPED_TRACE(size);
-        const std::string document(size, 'x');
-        Record record(document);
-        // More events than a document of this size can have.
-        test::EventSink whole;
-        std::set<std::size_t> lineEnds = {0};
-        for (std::size_t line = 0; line < 40; ++line)
+        for (std::size_t first = 0; first < 12; ++first)
         {
-            for (std::size_t count = 0; count < line % 7 + 1; ++count)
+            SCOPED_TRACE(testing::Message() << size << " bytes, " << first);
+            std::vector<Line> lines = {Line(first, 1)};
+            for (std::size_t line = 0; line < 10; ++line)
             {
-                record.event(static_cast<Event>(line % 12));
-                whole.event(static_cast<Event>(line % 12));
+                // Some have long texts, which take more entries.
+                lines.push_back(Line(line * 5 % 4, line % 3 == 2 ? 300 : 5));
             }
-            record.lineEnd(document.data() + std::min(line, size));
-            lineEnds.insert(whole.events.size());
+            lines.push_back(Line(100, 1)); // more than all entries
+            lines.push_back({});
+            Recording recording(size);
+            recording.writeAll(lines);
+            EXPECT_LT(recording.kept(), lines.size() - 1);
+            recording.expectHandedOver();
         }
-        test::EventSink repeated;
-        record.repeat(repeated);
-        const std::size_t count = repeated.events.size();
-        ASSERT_LT(count, whole.events.size());
-        EXPECT_EQ(lineEnds.count(count), 1u) << count;
-        EXPECT_EQ(repeated.events,
-                  test::Events(whole.events.begin(),
-                               whole.events.begin() + static_cast<std::ptrdiff_t>(count)));
+    }
+}
+
+TEST(EventRecord, keepsALineThatTakesAllOfItsRoom)
+{
+    // A key, two brackets, and at most an entry that starts where there is just none left.
+    const std::size_t room = EventRecord::entriesFor(100) - EventRecord::entriesFor(0);
+    Recording exact(100);
+    exact.writeAll({Line(room - 2, 1)});
+    EXPECT_EQ(exact.kept(), 1u);
+    exact.expectHandedOver();
+
+    Recording larger(100);
+    larger.writeAll({Line(room - 1, 1)});
+    EXPECT_EQ(larger.kept(), 0u);
+    larger.expectHandedOver();
+}
+
+TEST(EventRecord, handsOverALineThatIsLargerThanItself)
+{
+    for (const std::size_t count : {31u, 32u, 33u, 1000u, 10000u})
+    {
+        SCOPED_TRACE(count);
+        Recording recording(20);
+        recording.writeAll({{1}, Line(count, 7), Line(count, 0), {2}});
+        EXPECT_EQ(recording.kept(), 1u);
+        recording.expectHandedOver();
+    }
+}
+
+TEST(EventRecord, knowsTheLongestTextWhetherItWasKeptOrNot)
+{
+    for (const std::size_t length : {256u, 65535u, 65536u, 300000u})
+    {
+        Recording recording(1000);
+        recording.writeAll({{1}, {length, 2}});
+        EXPECT_EQ(recording.kept(), 2u);
+        EXPECT_EQ(recording.record().longestText(), length);
+        recording.expectHandedOver();
+
+        Recording full(4);
+        full.writeAll({Line(20, 1), {1}, {2, length, length - 1}, {5}});
+        EXPECT_EQ(full.kept(), 0u);
+        EXPECT_EQ(full.record().longestText(), length);
+        full.expectHandedOver();
     }
 }
 
 TEST(EventRecord, isBounded)
 {
-    constexpr std::size_t lines = 200000;
-    constexpr std::size_t limit = 256 * 1024;
-    const std::string document(lines * 6, 'x');
-    Record record(document);
-    const char* at = document.data();
-    for (std::size_t line = 0; line < lines; ++line, at += 6)
-    {
-        record.event(Event::beginKeyValue);
-        record.text(Event::visitBareKey, {at, 1});
-        record.text(Event::visitInteger, {at + 4, 1});
-        record.event(Event::endKeyValue);
-        record.lineEnd(at + 6);
-    }
-    test::EventSink repeated;
-    record.repeat(repeated);
-    const std::size_t count = repeated.events.size();
-    EXPECT_LE(count, limit);
-    EXPECT_GE(count, limit - 16);
-    EXPECT_EQ(count % 4, 0u);
-    EXPECT_EQ(record.position(), document.data() + count / 4 * 6);
-    EXPECT_EQ(repeated.texts.back().data(), record.position() - 2);
+    constexpr std::size_t lines = 60000;
+    Recording recording(lines * 100);
+    recording.writeAll(std::vector<Line>(lines, Line{1}));
+    // Each line takes four entries.
+    EXPECT_EQ(recording.kept(), std::size_t{128} * 1024 / 4);
+    recording.expectHandedOver();
+}
 
-    // A text after the record counts all the same.
-    EXPECT_EQ(record.longestText(), 1u);
-    record.text(Event::visitBareKey, {document.data(), 5000});
-    EXPECT_EQ(record.longestText(), 5000u);
+// Nothing is read of what is between the texts, so that none of it needs memory.
+TEST(EventRecord, handsOverTextsThatAreFarFromEachOther)
+{
+    if (sizeof(std::size_t) < sizeof(std::uint64_t))
+    {
+        GTEST_SKIP() << "no document is as large";
+    }
+    const std::size_t size = std::size_t{5} << (sizeof(std::size_t) * 4 - 2);
+    const ReservedMemory memory(size);
+    std::memcpy(memory.begin(), "a", 1);
+    std::memcpy(memory.begin() + size - 100, "12", 2);
+    const std::string_view first(memory.begin(), 1);
+    const std::string_view second(memory.begin() + size - 100, 2);
+    std::vector<RecordEntry> entries(EventRecord::entriesFor(100));
+    EventRecord record(entries.data(), entries.size(), memory.begin());
+    EventWriter writer(record);
+    writer.keyOfPair(Event::visitBareKey, first);
+    writer.valueOfPair(Event::visitInteger, second);
+    writer.lineEnd(memory.begin() + size - 90);
+
+    test::EventRecorder visitor;
+    std::vector<char> buffer(VisitorCalls::bytesFor(record.longestText()));
+    VisitorCalls calls(visitor, buffer.data(), memory.begin() + size);
+    record.handTo(calls);
+    EXPECT_EQ(visitor.events(),
+              Events({"beginKeyValue", "visitBareKey a", "visitInteger 12", "endKeyValue"}));
+
+    const std::string_view all(memory.begin(), size);
+    EventWriter(record).text(Event::visitBasicString, all);
+    EXPECT_EQ(record.longestText(), size);
 }

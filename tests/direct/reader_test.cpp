@@ -130,53 +130,6 @@ TEST(Reader, readsPairsOfEveryScalar)
     }
 }
 
-TEST(Reader, readsArraysWithLineBreaksWhereTheyMayBe)
-{
-    const Events first = list({one});
-    const Events both = list({one, two});
-    const Events all = list({one, two, one});
-    expectReadAs(first,
-                 {"a = [1]\n", "a = [1,]\n", "a = [\n1]\n", "a = [\n\n1,]\n", "a = [ # c\n1]\n"});
-    expectReadAs(both, {"a = [1\n, 2]\n", "a = [1,\n2]\n", "a = [1\n,\n2\n]\n", "a = [1, 2,]\n",
-                        "a = [1, 2\n,]\n", "a = [\n1\n,\n2\n,]\n"});
-    expectReadAs(all, {"a = [1, 2\n, 1]\n", "a = [1, 2\n,\n1\n]\n", "a = [1,\n2,\n1,]\n"});
-    // After an element that is not the first there may be two.
-    expectReadAs(all, {"a = [1, 2\n \n, 1]\n", "a = [1, 2 # c\n# d\n,\n1 # e\n] # f\n"});
-}
-
-TEST(Reader, readsNestedArraysAndInlineTables)
-{
-    expectRead(
-        {{"a = [[1]]\n", list({array({one})})},
-         {"a = [[1], 2]\n", list({array({one}), two})},
-         {"a = [1, [2,\n1\n]\n]\n", list({one, array({two, one})})},
-         {"a = [[1,\n2\n]\n, 1\n]\n", list({array({one, two}), one})},
-         {"a = [[[1], 2], 1]\n", list({array({array({one}), two}), one})},
-         {"a = {b = 1}\n", tableOf({bIsOne})},
-         {"a = {b = 1, b = 1}\n", tableOf({bIsOne, bIsOne})},
-         {"a = {'b'.c = 1}\n", tableOf({pair(dotted({quoted("'b'"), bare("c")}), one)})},
-         {"a = {b = {b = 1}, b = 1}\n", tableOf({pair(bare("b"), inlineTable({bIsOne})), bIsOne})},
-         {"a = {b = [1], b = 1}\n", tableOf({pair(bare("b"), array({one})), bIsOne})},
-         {"a = {b = [\n1\n,\n2\n]}\n", tableOf({pair(bare("b"), array({one, two}))})},
-         {"a = [{b = 1}]\n", list({inlineTable({bIsOne})})},
-         {"a = [{b = 1},]\n", list({inlineTable({bIsOne})})},
-         {"a = [\n{b = 1},\n{b = [{b = 1}]}\n]\n",
-          list({inlineTable({bIsOne}),
-                inlineTable({pair(bare("b"), array({inlineTable({bIsOne})}))})})}});
-}
-
-// What an inner array is like says nothing about the outer one after it.
-TEST(Reader, goesBackToTheRulesOfTheEnclosingArray)
-{
-    expectRead({{"a = [[1, 2]\n, 1]\n", list({array({one, two}), one})},
-                {"a = [1, [2]\n]\n", list({one, array({two})})}});
-    for (const std::string text : {"a = [[1, 2]\n]\n", "a = [{b = [1, 2\n]}\n]\n",
-                                   "a = [1, [2\n]]\n", "a = [1, {b = [2\n]}]\n"})
-    {
-        EXPECT_FALSE(readLines(text).read) << text;
-    }
-}
-
 TEST(Reader, refusesDocumentsWithAMistake)
 {
     for (const auto& [mistake, texts] : refusedDocuments)
@@ -216,19 +169,4 @@ TEST(Reader, tellsWhereItsLinesEnd)
     // A line's end includes the run of line breaks after it, blanks and comments.
     EXPECT_EQ(after, std::vector<std::string>({"a = 1\n # c\n b = [1,\n2\n] \r\n\n[[u]]\n",
                                                "\n b = [1,\n2\n] \r\n\n[[u]]\n", "[[u]]\n", ""}));
-}
-
-// More brackets than the rest of the text could close are not read to the end.
-TEST(Reader, refusesWhatCannotBeClosed)
-{
-    for (const std::string opening : {"[", "{a=", "[{a="})
-    {
-        std::string text = "a=";
-        for (int level = 0; level < 1000; ++level)
-        {
-            text += opening;
-        }
-        EXPECT_FALSE(readLines(text).read) << opening;
-        EXPECT_FALSE(readLines(text + "1\n").read) << opening;
-    }
 }

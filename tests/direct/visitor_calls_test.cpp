@@ -1,9 +1,8 @@
-// The sink that calls the visitor.
+// Calls of the visitor, and the texts that it gets.
 #include <gtest/gtest.h>
 
 #include "direct/visitor_calls.h"
 
-#include <cstring>
 #include <set>
 #include <string>
 #include <vector>
@@ -23,14 +22,14 @@ const char* endOf(const std::string& text)
     return text.data() + text.size();
 }
 
-// What a visitor gets for a document's bytes from `begin` on.
-std::string handedOver(const char* begin, std::size_t length, const char* end)
+// The text of a document's bytes from `begin` on.
+std::string terminated(const char* begin, std::size_t length, const char* end)
 {
     test::EventRecorder visitor;
-    std::vector<char> buffer(VisitorCalls::bytesFor(length));
-    VisitorCalls calls(visitor, buffer.data(), end);
-    calls.text(Event::visitInteger, {begin, length});
-    return visitor.events().at(0).substr(std::strlen("visitInteger "));
+    test::GuardedMemory memory(VisitorCalls::bytesFor(length));
+    char* const buffer = const_cast<char*>(memory.end()) - VisitorCalls::bytesFor(length);
+    VisitorCalls calls(visitor, buffer, end);
+    return calls.terminated({begin, length});
 }
 
 } // namespace
@@ -46,8 +45,7 @@ TEST(VisitorCalls, callOneOperationForEachEventAndAnotherForAnother)
         std::vector<char> buffer(VisitorCalls::bytesFor(4));
         VisitorCalls calls(visitor, buffer.data(), endOf(document));
         const auto event = static_cast<Event>(number);
-        event < Event::visitBareKey ? calls.event(event)
-                                    : calls.text(event, {document.data() + 5, 4});
+        event < Event::visitBareKey ? calls.call(event) : calls.call(event, document.data() + 5);
         ASSERT_EQ(visitor.events().size(), 1u);
         called.insert(visitor.events()[0]);
     }
@@ -61,16 +59,18 @@ TEST(VisitorCalls, callOneOperationForEachEventAndAnotherForAnother)
     EXPECT_EQ(called, all);
 }
 
-TEST(VisitorCalls, areNotMadeForTheEndOfALine)
+TEST(VisitorCalls, knowTheirVisitor)
 {
     test::EventRecorder visitor;
     const std::string document = "a";
-    VisitorCalls(visitor, nullptr, endOf(document)).lineEnd(endOf(document));
+    const VisitorCalls calls(visitor, nullptr, endOf(document));
+    EXPECT_EQ(&calls.visitor(), &visitor);
     EXPECT_EQ(visitor.events(), test::Events());
 }
 
-// The text is just before a page that cannot be read, or some bytes before that.
-TEST(VisitorCalls, handTextsOverThatEndAnywhereBeforeTheDocument)
+// The text is just before a page that cannot be read, or some bytes before that; its copy is just
+// before a page that cannot be written.
+TEST(VisitorCalls, terminateTextsThatEndAnywhereBeforeTheDocument)
 {
     std::string bytes;
     for (int index = 0; index < 300; ++index)
@@ -84,7 +84,7 @@ TEST(VisitorCalls, handTextsOverThatEndAnywhereBeforeTheDocument)
         for (std::size_t after = 0; after <= 40; ++after)
         {
             const char* const begin = memory.end() - after - length;
-            ASSERT_EQ(handedOver(begin, length, memory.end()), std::string(begin, length))
+            ASSERT_EQ(terminated(begin, length, memory.end()), std::string(begin, length))
                 << length << " bytes, " << after << " after them";
         }
     }
@@ -96,11 +96,8 @@ TEST(VisitorCalls, endEachTextWhereItEndsWhateverCameBefore)
     test::EventRecorder visitor;
     std::vector<char> buffer(VisitorCalls::bytesFor(500));
     VisitorCalls calls(visitor, buffer.data(), endOf(document));
-    test::Events expected;
     for (const std::size_t length : {500u, 1u, 0u, 127u, 128u, 31u, 32u, 33u, 499u, 126u, 2u, 500u})
     {
-        calls.text(Event::visitBareKey, {document.data(), length});
-        expected.push_back("visitBareKey " + std::string(length, 'x'));
+        EXPECT_EQ(calls.terminated({document.data(), length}), std::string(length, 'x'));
     }
-    EXPECT_EQ(visitor.events(), expected);
 }

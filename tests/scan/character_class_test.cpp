@@ -29,6 +29,8 @@ const ClassOfBytes classes[] = {
     {"key characters", keyCharacter, digits + letters + "_-"},
     {"blanks", blank, " \t"},
     {"what is skipped", skipped, " \t#"},
+    {"starts of values", valueStart, digits + letters + "_-+\"'[{"},
+    {"starts of keywords", keywordStart, "tfin"},
 };
 
 } // namespace

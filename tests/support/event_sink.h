@@ -32,7 +32,8 @@ inline const std::vector<std::string> eventNames = []
     for (std::size_t number = 0; number < eventCount; ++number)
     {
         const auto event = static_cast<Event>(number);
-        number < firstEventWithText ? calls.event(event) : calls.text(event, noText);
+        number < firstEventWithText ? calls.call(event)
+                                    : calls.call(event, calls.terminated(noText));
     }
     std::vector<std::string> names;
     for (const std::string& event : visitor.events())
