@@ -65,7 +65,8 @@ Token scanLine(const char* at, const char* end) noexcept
     constexpr bool escapes = type == TokenType::basicString;
     for (;;)
     {
-        at = escapes ? runEnd<Plain<quote, '\n', '\\'>>(at, end) : runEnd<Plain<quote, '\n'>>(at, end);
+        at = escapes ? runEnd<Plain<quote, '\n', '\\'>>(at, end)
+                     : runEnd<Plain<quote, '\n'>>(at, end);
         if (at == end || *at == '\n')
         {
             return notRecognised;

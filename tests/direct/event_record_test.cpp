@@ -112,6 +112,7 @@ private:
         }
         sink.event(Event::endArray);
         sink.event(Event::endKeyValue);
+        at += 3; // bytes that are in no text
         sink.lineEnd(at);
         return at;
     }
