@@ -33,37 +33,44 @@ void measure(const std::string& name, const std::string& text, Convert convert,
             benchmark::DoNotOptimize(convert(written));
         }
     };
-    benchmark::RegisterBenchmark((name + ' ' + text).c_str(), run);
+    benchmark::RegisterBenchmark(name.c_str(), run);
+}
+
+// What is exported, and the stated way.
+template <typename Exported, typename Stated>
+void compare(const std::string& kind, const std::string& text, Exported exported, Stated stated,
+             const char* zone = nullptr)
+{
+    measure(kind + " `" + text + "`/exported", text, exported, zone);
+    measure(kind + " `" + text + "`/stated", text, stated, zone);
 }
 
 void measureBoolean(const std::string& text)
 {
-    measure("boolean", text, [](const char* written) { return toml::parseBoolean(written); });
-    measure("boolean, stated", text,
-            [](const char* written) { return toml::stated::parseBoolean(written); });
+    compare(
+        "boolean", text, [](const char* written) { return toml::parseBoolean(written); },
+        [](const char* written) { return toml::stated::parseBoolean(written); });
 }
 
 void measureInteger(const std::string& text)
 {
-    measure("integer", text, [](const char* written) { return toml::parseInteger(written); });
-    measure("integer, stated", text,
-            [](const char* written) { return toml::stated::parseInteger(written); });
+    compare(
+        "integer", text, [](const char* written) { return toml::parseInteger(written); },
+        [](const char* written) { return toml::stated::parseInteger(written); });
 }
 
 void measureFloat(const std::string& text)
 {
-    measure("float", text, [](const char* written) { return toml::parseFloat(written); });
-    measure("float, stated", text,
-            [](const char* written) { return toml::stated::parseFloat(written); });
+    compare(
+        "float", text, [](const char* written) { return toml::parseFloat(written); },
+        [](const char* written) { return toml::stated::parseFloat(written); });
 }
 
 void measureDateTime(const char* zone, const std::string& text)
 {
-    const std::string name = std::string(zone != nullptr ? zone : "no TZ") + ", date-time";
-    measure(
-        name, text, [](const char* written) { return toml::parseDateTime(written).tv_sec; }, zone);
-    measure(
-        name + ", stated", text,
+    compare(
+        std::string("date-time, ") + (zone != nullptr ? zone : "no TZ") + ',', text,
+        [](const char* written) { return toml::parseDateTime(written).tv_sec; },
         [](const char* written) { return toml::stated::parseDateTime(written).tv_sec; }, zone);
 }
 
@@ -72,6 +79,7 @@ void measureDateTime(const char* zone, const std::string& text)
 int main(int count, char** words)
 {
     benchmark::Initialize(&count, words);
+    benchmark::AddCustomContext("compiler", VORN_COMPILER);
     measureBoolean("true");
     measureBoolean("false");
     for (const char* const text : {"8080", "-1_000_000", "0xDEAD_beef", "0o755", "0b1101_0101"})
