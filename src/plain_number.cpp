@@ -45,7 +45,7 @@ bool isSign(char c) noexcept
 struct Radix
 {
     unsigned value;
-    unsigned digits; // so many fit: 32 bits for the radix 2, and 64 bits for the others
+    unsigned digits; // so many fit 64 bits
 };
 
 Radix radixOf(TokenType type) noexcept
@@ -58,8 +58,6 @@ Radix radixOf(TokenType type) noexcept
         return {16, 16};
     case TokenType::octInt:
         return {8, 21};
-    case TokenType::binInt:
-        return {2, 32};
     default:
         return {0, 0};
     }
@@ -116,7 +114,9 @@ bool readPlainBoolean(std::string_view text, bool& value)
 
 bool readPlainInteger(std::string_view text, long long& value)
 {
-    const Radix radix = radixOf(typeOf(text));
+    // The stated way needs no stream for binary digits.
+    const bool isBinary = text.size() > 1 && text[1] == 'b';
+    const Radix radix = radixOf(isBinary ? TokenType::none : typeOf(text));
     if (radix.digits == 0)
     {
         return false;

@@ -119,8 +119,15 @@ TEST(PlainNumber, integersAreThoseOfTheGrammar)
     expectPlainInteger("0x7fff_ffff_ffff_ffff", std::numeric_limits<long long>::max());
     expectPlainInteger("0o755", 493);
     expectPlainInteger("0o777_777_777_777_777_777_777", std::numeric_limits<long long>::max());
-    expectPlainInteger("0b1101_0101", 213);
-    expectPlainInteger("0b11111111111111111111111111111111", 4294967295);
+}
+
+// The stated way takes less time for them.
+TEST(PlainNumber, integersInBinaryAreNotPlain)
+{
+    for (const char* text : {"0b0", "0b1101_0101", "0b11111111111111111111111111111111"})
+    {
+        EXPECT_FALSE(isPlainInteger(text)) << text;
+    }
 }
 
 TEST(PlainNumber, integersNearALimitAndOtherTextsAreNotPlain)
@@ -133,8 +140,6 @@ TEST(PlainNumber, integersNearALimitAndOtherTextsAreNotPlain)
                              "0x00000000000000001",
                              "0o1000000000000000000000",
                              "0o0000000000000000000001",
-                             "0b100000000000000000000000000000000",
-                             "0b000000000000000000000000000000001",
                              "",
                              " 1",
                              "1 ",
