@@ -32,8 +32,9 @@ bool isDateTime(std::string_view text) noexcept
         return false;
     }
     const Token token = scanDate(text.data(), end);
-    return token.end == end && text[10] != 't' &&
-           (token.type == TokenType::localDateTime || token.type == TokenType::offsetDateTime);
+    const bool hasTime =
+        token.type == TokenType::localDateTime || token.type == TokenType::offsetDateTime;
+    return hasTime && token.end == end && text[10] != 't';
 }
 
 constexpr int twoDigits(const char* at) noexcept
