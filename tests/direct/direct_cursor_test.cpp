@@ -1,4 +1,4 @@
-// The same tokens as those of the token cursor, and those that are taken together.
+// The same tokens as those of the token cursor.
 #include <gtest/gtest.h>
 
 #include "direct/direct_cursor.h"
@@ -150,19 +150,6 @@ std::vector<std::string> shortTexts(std::size_t maxLength)
     return texts;
 }
 
-bool takesPlainKey(const std::string& text)
-{
-    DirectCursor tokens(text.data(), text.data() + text.size());
-    std::string_view key;
-    return takePlainKey(tokens, key);
-}
-
-bool takesComma(const std::string& text)
-{
-    DirectCursor tokens(text.data(), text.data() + text.size());
-    return takeCommaBeforeValue(tokens);
-}
-
 } // namespace
 
 TEST(DirectCursor, takesTheTokensOfTheTokenCursorForAllShortTexts)
@@ -287,38 +274,5 @@ TEST(DirectCursor, takesTheTokensOfTheTokenCursorAtEveryPlaceOfGeneratedTexts)
         expectSameEverywhere(memory, generator.mixture(pieces, maxPieces));
         expectSameEverywhere(memory, generator.characters(significant, 0, 60));
         ASSERT_FALSE(HasFatalFailure());
-    }
-}
-
-TEST(DirectCursor, takesAKeyAndTheSignTogetherWhereThatIsEasyToSee)
-{
-    const std::string rest(40, 'x');
-    for (const std::string text : {"a = ", "a=", "key-1_B = ", "abcdefghijklmnopqr = ", "x =\"",
-                                   "truth = ", "i=", "n = ", "t=-"})
-    {
-        EXPECT_EQ(takesPlainKey(text + rest), text != "x =\"") << text;
-    }
-    for (const std::string text : {"true = ", "falsehood = ", "inf=", "nano = ", "1a = ", "-a = ",
-                                   "'a' = ", "a.b = ", "a  = ", "a =  ", "a\t= ", "a = # ",
-                                   "a = \n", "a = ]", "a == ", "= ", " ", "a\xC3\xA9 = "})
-    {
-        EXPECT_FALSE(takesPlainKey(text + rest)) << text;
-    }
-    EXPECT_FALSE(takesPlainKey("a = 1\n")) << "too close to the end";
-}
-
-TEST(DirectCursor, takesACommaBeforeAValueOnTheSameLine)
-{
-    for (const char first : "a0-+_\"'[{"s)
-    {
-        EXPECT_TRUE(takesComma(","s + first)) << first;
-        EXPECT_TRUE(takesComma(", "s + first)) << first;
-        EXPECT_FALSE(takesComma(",  "s + first)) << first;
-        EXPECT_FALSE(takesComma(""s + first)) << first;
-    }
-    for (const std::string& text : {","s, ", "s, ",\n1"s, ", \n1"s, ",]"s, ", ]"s, ",}"s, ",#"s,
-                                    ",,"s, ",\t1"s, ",\0"s, ",.1"s})
-    {
-        EXPECT_FALSE(takesComma(text)) << testing::PrintToString(text);
     }
 }

@@ -3,13 +3,10 @@
 
 #include "direct/event_record.h"
 
-#include <sys/mman.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +14,7 @@
 #include "direct/event_writer.h"
 #include "support/event_recorder.h"
 #include "support/event_sink.h"
+#include "support/reserved_memory.h"
 
 using namespace vorn::parsers::toml;
 using test::Events;
@@ -126,30 +124,6 @@ private:
 };
 
 using Line = Recording::Line;
-
-// Addresses of which only those take memory that are written to.
-class ReservedMemory
-{
-public:
-    explicit ReservedMemory(std::size_t size)
-        : size_(size), memory_(mmap(nullptr, size, PROT_READ | PROT_WRITE,
-                                    MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0))
-    {
-        if (memory_ == MAP_FAILED)
-        {
-            throw std::runtime_error("no addresses");
-        }
-    }
-    ReservedMemory(const ReservedMemory&) = delete;
-    ReservedMemory& operator=(const ReservedMemory&) = delete;
-    ~ReservedMemory() { munmap(memory_, size_); }
-
-    char* begin() const { return static_cast<char*>(memory_); }
-
-private:
-    std::size_t size_;
-    void* memory_;
-};
 
 } // namespace
 
@@ -290,7 +264,7 @@ TEST(EventRecord, handsOverTextsThatAreFarFromEachOther)
         GTEST_SKIP() << "no document is as large";
     }
     const std::size_t size = std::size_t{5} << (sizeof(std::size_t) * 4 - 2);
-    const ReservedMemory memory(size);
+    const test::ReservedMemory memory(size);
     std::memcpy(memory.begin(), "a", 1);
     std::memcpy(memory.begin() + size - 100, "12", 2);
     const std::string_view first(memory.begin(), 1);
