@@ -95,8 +95,20 @@ bool findInteger(std::int64_t& value, const Type& type, const Entry& entry, cons
     return isWhole;
 }
 
+// Whether an integer is larger than any that a document can have.
+bool isBeyondDocuments(const Type& type, const void* object)
+{
+    return !type.isFloating && !type.isSigned && type.size == sizeof(std::int64_t) &&
+           integerIn(object, type) < 0;
+}
+
 bool addNumber(Text& out, const Type& type, const Entry& entry, const void* object)
 {
+    if (isBeyondDocuments(type, object))
+    {
+        out << std::to_string(load<std::uint64_t>(object));
+        return false;
+    }
     if (std::int64_t value = 0; findInteger(value, type, entry, object))
     {
         Text text;

@@ -69,6 +69,13 @@ TEST(DescribeInToml, HasNoLineForADefaultThatItCannotSay)
     EXPECT_EQ(config.names, Unreadable().names);
 }
 
+// A document cannot have this number, but a reader of the page can.
+TEST(DescribeInMarkdown, HasNumbersBeyondThoseOfDocuments)
+{
+    const std::string text = describe(unreadableSchema(), Format::markdown);
+    EXPECT_NE(text.find("| `18446744073709551615` |"), std::string::npos) << text;
+}
+
 TEST(DescribeInJsonSchema, HasNoDefaultThatTheSchemaDoesNotTake)
 {
     const std::string text = describe(unreadableSchema(), Format::jsonSchema);

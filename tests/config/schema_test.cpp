@@ -84,6 +84,26 @@ TEST(Schema, letsWarningsPass)
     EXPECT_EQ(config.inner.value, 2);
 }
 
+// A check that is not written for this may return a null pointer, where nothing is wrong.
+TEST(Schema, takesNullPointersForNothing)
+{
+    struct Limits
+    {
+        int low = 0;
+        std::optional<int> high;
+    };
+    const auto isOdd = [](int number) { return number % 2 != 0 ? "is odd" : nullptr; };
+    const auto schema = toml::Schema<Limits>()
+                            .optional("low", &Limits::low, isOdd)
+                            .optional("high", &Limits::high, isOdd)
+                            .check([](const Limits& limits) -> const char*
+                                   { return limits.high < limits.low ? "is below low" : nullptr; },
+                                   {"high"});
+    EXPECT_EQ(toldOf("low = 2\nhigh = 4\n", schema), "");
+    EXPECT_EQ(toldOf("low = 1\nhigh = 4\n", schema), "1:7: low: is odd\n");
+    EXPECT_EQ(toldOf("low = 2\nhigh = 0\n", schema), "2:1: high: is below low\n");
+}
+
 TEST(Schema, checksMembersAndStructs)
 {
     EXPECT_EQ(toldOf("port = 22\n", test::everySchema()), "1:8: port: is taken\n");

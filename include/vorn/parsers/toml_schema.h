@@ -231,6 +231,20 @@ void apply(Entry& entry, const Unit<Duration>&)
     entry.unitName = nameOfUnit(Duration::period::num, Duration::period::den);
 }
 
+// What a check has said.  A null pointer says nothing, as an empty string.
+template <typename Said>
+std::string messageOf(Said&& said)
+{
+    if constexpr (std::is_pointer_v<std::decay_t<Said>>)
+    {
+        return said != nullptr ? said : "";
+    }
+    else
+    {
+        return std::forward<Said>(said);
+    }
+}
+
 template <typename Member, typename Argument>
 void apply(Entry& entry, const Argument& argument)
 {
@@ -242,7 +256,7 @@ void apply(Entry& entry, const Argument& argument)
     else if constexpr (std::is_invocable_r_v<std::string, const Argument&, const Member&>)
     {
         entry.check = [argument](const void* member)
-        { return std::string(argument(*static_cast<const Member*>(member))); };
+        { return messageOf(argument(*static_cast<const Member*>(member))); };
     }
     else
     {
@@ -254,7 +268,7 @@ void apply(Entry& entry, const Argument& argument)
             entry.check = [argument](const void* member)
             {
                 const auto& value = *static_cast<const Member*>(member);
-                return value.has_value() ? std::string(argument(*value)) : std::string();
+                return value.has_value() ? messageOf(argument(*value)) : std::string();
             };
         }
     }
@@ -342,7 +356,7 @@ public:
         config::addCheck(
             *table_,
             [callable](const void* object)
-            { return std::string(callable(*static_cast<const Struct*>(object))); },
+            { return config::messageOf(callable(*static_cast<const Struct*>(object))); },
             std::move(paths));
         return *this;
     }
