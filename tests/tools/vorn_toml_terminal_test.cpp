@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <string>
 
 namespace
@@ -58,10 +59,18 @@ TEST_F(VornTomlTerminal, showsProgressOfLargeFilesAndTakesItAway)
         directory_.write("large.toml", std::string(std::size_t{33} * 1024 * 1024, '\n'));
     const test::TerminalRun run = test::runOnTerminal({VORN_TOML, "check", large});
     EXPECT_EQ(run.status, test::accepted);
-    EXPECT_EQ(run.terminal, "[1/1] " + large + ", 35 MB\r\x1B[K") << run.terminal;
+    // Where reading it takes long, that shows first.
+    const std::regex reading(", [0-9]+ MB read\r\x1B\\[K\\[1/1\\] " + large);
+    EXPECT_EQ(std::regex_replace(run.terminal, reading, ""), "[1/1] " + large + ", 35 MB\r\x1B[K")
+        << run.terminal;
 }
 
-TEST_F(VornTomlTerminal, showsWhichOfManyFilesTakesLong)
+// (Under an emulator, everything takes long.)
+class VornTomlTerminalWithLimits : public VornTomlTerminal
+{
+};
+
+TEST_F(VornTomlTerminalWithLimits, showsWhichOfManyFilesTakesLong)
 {
     const std::string fifo = directory_.path("fifo.toml");
     const test::TerminalRun run = test::runOnTerminal(
