@@ -14,7 +14,7 @@ namespace vorn::parsers::toml::config
 Reader::Reader(const std::string& document, Navigation& navigation, StrictFindings& strict)
     : follower_(document), navigation_(navigation), strict_(strict)
 {
-    frames_.push_back({navigation.root()});
+    frames_.push_back({Navigation::root()});
 }
 
 void Reader::beginHeader()
