@@ -34,7 +34,7 @@ void callEnds(RecordEntry entry, VisitorCalls& calls)
     {
         calls.call(Event::endDottedKey);
     }
-    if ((entry & endsPair) != 0)
+    if (mostly((entry & endsPair) != 0))
     {
         calls.call(Event::endKeyValue);
     }
@@ -65,7 +65,7 @@ void callText(RecordEntry entry, const char* text, VisitorCalls& calls)
     default:
         calls.call(eventOf(entry), text);
     }
-    if ((entry & anyEnd) != 0)
+    if (mostly((entry & anyEnd) != 0))
     {
         callEnds(entry, calls);
     }
@@ -83,7 +83,7 @@ void callText(RecordEntry entry, const char* text, VisitorCalls& calls)
         RecordEntry current = *entry++;
         std::size_t length = lengthOf(current);
         text += gapOf(current);
-        if (!hasText(current))
+        if (!mostly(hasText(current)))
         {
             if (current != 0)
             {

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "event.h"
+#include "mostly.h"
 
 namespace vorn::parsers::toml
 {
@@ -35,7 +36,7 @@ public:
     const char* terminated(std::string_view text) noexcept
     {
         const auto left = static_cast<std::size_t>(end_ - text.data());
-        if (text.size() <= block && left >= block)
+        if (mostly(text.size() <= block && left >= block))
         {
             std::memcpy(buffer_, text.data(), block);
         }
