@@ -55,7 +55,7 @@ public:
         {
             return false;
         }
-        const char* const stop = earlyRunEnd<KeyCharacters>(begin, end());
+        const char* const stop = earlyEnd<KeyCharacters>(begin, end());
         if (stop == nullptr || end() - stop < 4 ||
             (is(*begin, keywordStart) && startsLikeValue(begin)))
         {
@@ -131,6 +131,25 @@ public:
     }
 
 private:
+    static constexpr bool hasVectors = ByteBlock::size > WordBlock::size;
+
+    // The end of a run.  Where it is looked for by words, that is a function of its own: one in
+    // line would take more room, and no less time.
+    template <typename Run>
+    static const char* earlyEnd(const char* at, const char* end) noexcept
+    {
+        if constexpr (hasVectors)
+        {
+            return earlyRunEnd<Run>(at, end);
+        }
+        return earlyEndByWords<Run>(at, end);
+    }
+    template <typename Run>
+    [[gnu::noinline]] static const char* earlyEndByWords(const char* at, const char* end) noexcept
+    {
+        return earlyRunEnd<Run>(at, end);
+    }
+
     // What is rare has functions of its own, which do not take the address of this.
     struct Found
     {
@@ -159,7 +178,7 @@ private:
         {
             return nullptr;
         }
-        const char* const stop = earlyRunEnd<KeyCharacters>(begin, end);
+        const char* const stop = earlyEnd<KeyCharacters>(begin, end);
         return stop != nullptr && is(*begin, keywordStart) && startsLikeValue(begin) ? nullptr
                                                                                      : stop;
     }
@@ -186,7 +205,7 @@ private:
     TakenText takeString() noexcept
     {
         const char* const content = position() + 1;
-        const char* const stop = earlyRunEnd<Plain<'"', '\n', '\\'>>(content, end());
+        const char* const stop = earlyEnd<Plain<'"', '\n', '\\'>>(content, end());
         // An empty string could be the start of a longer delimiter.
         if (stop == nullptr || *stop != '"' || stop == content)
         {
@@ -197,6 +216,15 @@ private:
 
     // A decimal integer, or a float with a fraction, whose digits start at `whole`.
     TakenText takeNumber(const char* whole) noexcept
+    {
+        if constexpr (hasVectors)
+        {
+            return takeNumberInBlock(whole);
+        }
+        return takeNumberByWords(whole);
+    }
+
+    TakenText takeNumberInBlock(const char* whole) noexcept
     {
         if (end() - whole <= ByteBlock::size)
         {
@@ -224,6 +252,25 @@ private:
             {
                 return {Event::visitFloat, goOver(stop)};
             }
+        }
+        return takeAny<valueEvent>();
+    }
+
+    TakenText takeNumberByWords(const char* whole) noexcept
+    {
+        const char* const point = earlyEnd<Digits>(whole, end());
+        if (point == nullptr || point == whole || (*whole == '0' && point != whole + 1))
+        {
+            return takeAny<valueEvent>();
+        }
+        if (endsNumber(*point))
+        {
+            return {Event::visitInteger, goOver(point)};
+        }
+        const char* const stop = *point == '.' ? earlyEnd<Digits>(point + 1, end()) : nullptr;
+        if (stop != nullptr && stop != point + 1 && endsNumber(*stop))
+        {
+            return {Event::visitFloat, goOver(stop)};
         }
         return takeAny<valueEvent>();
     }
