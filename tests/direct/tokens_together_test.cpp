@@ -41,7 +41,7 @@ TEST(DirectCursor, takesAKeyAndTheSignTogetherWhereThatIsEasyToSee)
     {
         EXPECT_FALSE(takesPlainKey(text + rest)) << text;
     }
-    EXPECT_FALSE(takesPlainKey("a = 1\n")) << "too close to the end";
+    EXPECT_FALSE(takesPlainKey("a=1")) << "too close to the end, whatever the blocks";
 }
 
 TEST(DirectCursor, takesACommaBeforeAValueOnTheSameLine)
