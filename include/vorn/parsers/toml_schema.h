@@ -47,6 +47,7 @@ enum class Unknown
 template <typename Number>
 struct Range
 {
+    // The least and the greatest number.
     Number min;
     Number max;
 };
@@ -55,6 +56,7 @@ struct Range
 class Choice
 {
 public:
+    // A name without quotes: {"debug", Level::debug}.
     template <typename Enum, typename = std::enable_if_t<std::is_enum_v<Enum>>>
     Choice(std::string name, Enum value)
         : name_(std::move(name)), value_(static_cast<std::int64_t>(value)),
@@ -62,6 +64,7 @@ public:
     {
     }
 
+    // The name, the value as a number, and which enum has it.
     const std::string& name() const { return name_; }
     std::int64_t value() const { return value_; }
     const config::Type* type() const { return type_; }
@@ -75,6 +78,7 @@ private:
 // What oneOf() returns.
 struct Choices
 {
+    // In the order of oneOf().
     std::vector<Choice> choices;
 };
 
