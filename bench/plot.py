@@ -6,6 +6,7 @@ The tables and the captions stand in the page between two marks and are replaced
 import argparse
 import collections
 import json
+import math
 import pathlib
 
 import figures
@@ -99,11 +100,14 @@ def draw_picture(picture, rates, caption):
     drawn = [(reader, *look) for reader, look in READERS.items() if look[1]]
     # The same figures make the same file, with text that stays text.
     plot.rcParams.update({"svg.hashsalt": "vorn", "svg.fonttype": "none", "font.size": 9})
-    figure, panels = plot.subplots(2, 3, figsize=(10, 6.4), sharey=True)
+    columns = math.ceil(len(kinds) / 2)
+    figure, panels = plot.subplots(2, columns, figsize=(1 + 3 * columns, 6.4), sharey=True)
     figure.subplots_adjust(
         left=0.07, right=0.99, bottom=0.1, top=0.88, wspace=0.05, hspace=0.3
     )
-    for axes, (kind, sizes) in zip(panels.flat, kinds.items(), strict=True):
+    for axes in panels.flat[len(kinds) :]:
+        axes.remove()
+    for axes, (kind, sizes) in zip(panels.flat, kinds.items()):
         figures.bars(axes, drawn, sizes)
         axes.set_title(kind, fontsize=10)
         axes.set_xlim(-0.6, 2.6)
