@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "support/block_types.h"
 #include "support/guarded_memory.h"
 #include "support/text_generator.h"
 
@@ -26,6 +27,7 @@ const std::vector<std::string> rests = {"", " = 1\n", ", " + std::string(60, 'x'
                                             "list = [1, 2, 3]\n"};
 
 // Both cursors in the same place of a text.
+template <typename Block>
 class Cursors
 {
 public:
@@ -34,7 +36,7 @@ public:
     bool areInTheSamePlace() const { return tokens.position() == direct.position(); }
 
     TokenCursor tokens;
-    DirectCursor direct;
+    BlockCursor<Block> direct;
 };
 
 testing::AssertionResult areSame(const TakenText& text, const TakenText& direct)
@@ -49,20 +51,23 @@ testing::AssertionResult areSame(const TakenText& text, const TakenText& direct)
                         << ", not " << static_cast<int>(text.event) << ' ' << text.text;
 }
 
-void expectSameNewline(Cursors cursors)
+template <typename Block>
+void expectSameNewline(Cursors<Block> cursors)
 {
     ASSERT_EQ(cursors.direct.takeNewline(), cursors.tokens.takeNewline());
     ASSERT_TRUE(cursors.areInTheSamePlace());
 }
 
-void expectSameKeyPart(Cursors cursors)
+template <typename Block>
+void expectSameKeyPart(Cursors<Block> cursors)
 {
     const TakenText part = takeKeyPart(cursors.tokens);
     ASSERT_TRUE(areSame(part, takeKeyPart(cursors.direct)));
     ASSERT_TRUE(part.event == Event::none || cursors.areInTheSamePlace());
 }
 
-void expectSameValue(Cursors cursors)
+template <typename Block>
+void expectSameValue(Cursors<Block> cursors)
 {
     const TakenText value = takeValue(cursors.tokens);
     ASSERT_TRUE(areSame(value, takeValue(cursors.direct)));
@@ -70,7 +75,8 @@ void expectSameValue(Cursors cursors)
 }
 
 // It is a bare key, the sign, and then what may be a value; or nothing has been taken.
-void expectSamePlainKey(Cursors cursors)
+template <typename Block>
+void expectSamePlainKey(Cursors<Block> cursors)
 {
     std::string_view key = "none";
     if (!takePlainKey(cursors.direct, key))
@@ -86,7 +92,8 @@ void expectSamePlainKey(Cursors cursors)
 }
 
 // After the comma the rules must find a value, not a line break or the array's end.
-void expectSameComma(Cursors cursors)
+template <typename Block>
+void expectSameComma(Cursors<Block> cursors)
 {
     if (!takeCommaBeforeValue(cursors.direct))
     {
@@ -99,9 +106,10 @@ void expectSameComma(Cursors cursors)
     ASSERT_FALSE(cursors.tokens.takeNewline());
 }
 
+template <typename Block>
 void expectSameAt(const char* begin, const char* end)
 {
-    const Cursors cursors(begin, end);
+    const Cursors<Block> cursors(begin, end);
     ASSERT_TRUE(cursors.areInTheSamePlace());
     ASSERT_EQ(cursors.direct.atEnd(), cursors.tokens.atEnd());
     expectSameNewline(cursors);
@@ -112,20 +120,22 @@ void expectSameAt(const char* begin, const char* end)
 }
 
 // At the start of the text, which a page that cannot be read comes after.
+template <typename Block>
 void expectSame(test::GuardedMemory& memory, const std::string& text)
 {
     const char* const begin = memory.holdTerminated(text);
-    expectSameAt(begin, memory.terminator());
+    expectSameAt<Block>(begin, memory.terminator());
     ASSERT_FALSE(testing::Test::HasFatalFailure()) << testing::PrintToString(text);
 }
 
 // At every place of it.
+template <typename Block>
 void expectSameEverywhere(test::GuardedMemory& memory, const std::string& text)
 {
     const char* const begin = memory.holdTerminated(text);
     for (const char* at = begin; at <= memory.terminator(); ++at)
     {
-        expectSameAt(at, memory.terminator());
+        expectSameAt<Block>(at, memory.terminator());
         ASSERT_FALSE(testing::Test::HasFatalFailure())
             << at - begin << " of " << testing::PrintToString(text);
     }
@@ -150,9 +160,16 @@ std::vector<std::string> shortTexts(std::size_t maxLength)
     return texts;
 }
 
+template <typename Block>
+class DirectCursorWith : public testing::Test
+{
+};
+
 } // namespace
 
-TEST(DirectCursor, takesTheTokensOfTheTokenCursorForAllShortTexts)
+TYPED_TEST_SUITE(DirectCursorWith, test::Blocks, );
+
+TYPED_TEST(DirectCursorWith, takesTheTokensOfTheTokenCursorForAllShortTexts)
 {
     test::GuardedMemory memory(200);
     const std::vector<std::string> texts = shortTexts(3);
@@ -160,14 +177,14 @@ TEST(DirectCursor, takesTheTokensOfTheTokenCursorForAllShortTexts)
     {
         for (std::size_t index = 0; index < texts.size(); index += VORN_TEST_STEP)
         {
-            expectSame(memory, texts[index] + rest);
-            ASSERT_FALSE(HasFatalFailure());
+            expectSame<TypeParam>(memory, texts[index] + rest);
+            ASSERT_FALSE(this->HasFatalFailure());
         }
     }
 }
 
 // After what could be the start of a token, or all of one.
-TEST(DirectCursor, takesTheTokensOfTheTokenCursorAfterEveryStart)
+TYPED_TEST(DirectCursorWith, takesTheTokensOfTheTokenCursorAfterEveryStart)
 {
     test::GuardedMemory memory(300);
     const std::vector<std::string> texts = shortTexts(2);
@@ -209,14 +226,14 @@ TEST(DirectCursor, takesTheTokensOfTheTokenCursorAfterEveryStart)
         {
             for (std::size_t index = 0; index < texts.size(); index += VORN_TEST_STEP)
             {
-                expectSame(memory, start + texts[index] + rest);
-                ASSERT_FALSE(HasFatalFailure());
+                expectSame<TypeParam>(memory, start + texts[index] + rest);
+                ASSERT_FALSE(this->HasFatalFailure());
             }
         }
     }
 }
 
-TEST(DirectCursor, takesTheTokensOfTheTokenCursorAtEveryPlaceOfGeneratedTexts)
+TYPED_TEST(DirectCursorWith, takesTheTokensOfTheTokenCursorAtEveryPlaceOfGeneratedTexts)
 {
     const std::vector<std::string> pieces = {"key",
                                              "a",
@@ -271,8 +288,8 @@ TEST(DirectCursor, takesTheTokensOfTheTokenCursorAtEveryPlaceOfGeneratedTexts)
     test::TextGenerator generator;
     for (int round = 0; round < 10000; round += VORN_TEST_STEP)
     {
-        expectSameEverywhere(memory, generator.mixture(pieces, maxPieces));
-        expectSameEverywhere(memory, generator.characters(significant, 0, 60));
-        ASSERT_FALSE(HasFatalFailure());
+        expectSameEverywhere<TypeParam>(memory, generator.mixture(pieces, maxPieces));
+        expectSameEverywhere<TypeParam>(memory, generator.characters(significant, 0, 60));
+        ASSERT_FALSE(this->HasFatalFailure());
     }
 }

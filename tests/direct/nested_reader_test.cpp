@@ -20,6 +20,9 @@ using vorn::parsers::toml::TokenCursor;
 namespace
 {
 
+// The direct cursor of processors without vectors.
+using WordCursor = vorn::parsers::toml::BlockCursor<vorn::parsers::toml::WordBlock>;
+
 struct Outcome
 {
     bool read;
@@ -50,7 +53,8 @@ void expectReadAs(const Events& events, const std::vector<std::string>& texts)
         for (const std::string& after : {std::string("\n"), rest, std::string("]"), std::string()})
         {
             for (const Outcome& outcome :
-                 {readWith<TokenCursor>(text + after), readWith<DirectCursor>(text + after)})
+                 {readWith<TokenCursor>(text + after), readWith<DirectCursor>(text + after),
+                  readWith<WordCursor>(text + after)})
             {
                 EXPECT_TRUE(outcome.read);
                 EXPECT_EQ(outcome.events, events);
@@ -66,6 +70,7 @@ void expectRefused(const std::string& text)
     {
         EXPECT_FALSE(readWith<TokenCursor>(text + after).read) << text;
         EXPECT_FALSE(readWith<DirectCursor>(text + after).read) << text;
+        EXPECT_FALSE(readWith<WordCursor>(text + after).read) << text;
     }
 }
 

@@ -55,7 +55,7 @@ protected:
     }
 };
 
-using Cursors = testing::Types<TokenCursor, DirectCursor>;
+using Cursors = testing::Types<TokenCursor, DirectCursor, BlockCursor<WordBlock>>;
 
 // After it a block of bytes does not reach the end.
 const std::string rest = "\n# " + std::string(60, '-') + "\nb = 1\n";

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <string>
 
+#include "support/block_types.h"
 #include "support/guarded_memory.h"
 
 using namespace vorn::parsers::toml;
@@ -17,12 +18,6 @@ template <typename Block>
 class ByteBlockTest : public testing::Test
 {
 };
-
-#if defined(__x86_64__)
-using Blocks = testing::Types<WordBlock, VectorBlock>;
-#else
-using Blocks = testing::Types<WordBlock>;
-#endif
 
 bool isAsciiByte(int value)
 {
@@ -73,7 +68,7 @@ void expectMarked(Mark mark, IsMarked isMarked, char marked, char unmarked)
 
 } // namespace
 
-TYPED_TEST_SUITE(ByteBlockTest, Blocks, );
+TYPED_TEST_SUITE(ByteBlockTest, test::Blocks, );
 
 TYPED_TEST(ByteBlockTest, marksTheBytesThatEqualACharacter)
 {

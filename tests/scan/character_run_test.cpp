@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <string>
 
+#include "support/block_types.h"
 #include "support/guarded_memory.h"
 
 using namespace vorn::parsers::toml;
@@ -17,12 +18,6 @@ template <typename Block>
 class CharacterRun : public testing::Test
 {
 };
-
-#if defined(__x86_64__)
-using Blocks = testing::Types<WordBlock, VectorBlock>;
-#else
-using Blocks = testing::Types<WordBlock>;
-#endif
 
 std::size_t placeAfter(const std::string& text, bool (*isMember)(char))
 {
@@ -84,7 +79,7 @@ const std::string keyCharacters =
 
 } // namespace
 
-TYPED_TEST_SUITE(CharacterRun, Blocks, );
+TYPED_TEST_SUITE(CharacterRun, test::Blocks, );
 
 TYPED_TEST(CharacterRun, ofDigitsEndsAtTheFirstOtherByte)
 {
