@@ -15,16 +15,23 @@
 #include "pipeline/buffer_hints.h"
 #include "pipeline/deferred_cancellation.h"
 #include "pipeline/document_depth.h"
+#include "pipeline/document_lines.h"
+#include "pipeline/document_text.h"
 #include "pipeline/error_display.h"
 #include "pipeline/follow_stack.h"
 #include "pipeline/held_exception.h"
 #include "pipeline/input_stream.h"
 #include "pipeline/memory_need.h"
-#include "pipeline/node_texts.h"
 #include "pipeline/owned.h"
 #include "pipeline/refusal.h"
 #include "pipeline/runtime_text.h"
+#include "pipeline/statement_nodes.h"
+#include "pipeline/syntax_check.h"
+#include "pipeline/token_window.h"
+#include "pipeline/unreported_errors.h"
 #include "reading.h"
+#include "scan/utf8.h"
+#include "grammar/lexer/matching.h"
 
 #include "pipeline/recognisers.h"
 
@@ -36,8 +43,15 @@ namespace
 // What the displays of a call's errors share.
 struct Report
 {
-    OwnedText tokens;     // the text of the parser's tokens, the same for every error
+    DocumentText document;
     HeldException thrown; // by the logger
+};
+
+// What is needed around the runtime's display of a parser's error.
+struct ParserDisplay
+{
+    TemporaryStrings strings;
+    ShownIndex index;
 };
 
 // What is shown and logged of an error, for each kind of recogniser: what is needed around the
@@ -51,7 +65,7 @@ struct RecogniserError
 
 struct LexerError : RecogniserError
 {
-    PrintableCharacter prepare() const { return PrintableCharacter(recogniser->state->exception); }
+    PrintableCharacter prepare(Report&) const { return PrintableCharacter(recogniser->state->exception); }
     void operator()(Report&) const
     {
         const OwnedText text = matchedText(static_cast<pANTLR3_LEXER>(recogniser->super));
@@ -67,20 +81,21 @@ struct ParserError : RecogniserError
     {
         return FollowStack::of(failed).levelsWithoutRoom() == 0;
     }
-    TemporaryStrings prepare() const { return TemporaryStrings(prepareDisplay(parser())); }
+    ParserDisplay prepare(Report& report) const
+    {
+        return {TemporaryStrings(prepareDisplay(parser())),
+                ShownIndex(static_cast<pANTLR3_COMMON_TOKEN>(recogniser->state->exception->token),
+                           report.document)};
+    }
     void operator()(Report& report) const
     {
-        if (report.tokens == nullptr)
-        {
-            report.tokens = textOf(parser()->getTokenStream(parser()));
-        }
-        VORN_LOG_ERROR("Invalid TOML: parser failure at: %s", orEmpty(report.tokens));
+        VORN_LOG_ERROR("Invalid TOML: parser failure at: %s", report.document.characters());
     }
 };
 
 struct TreeError : RecogniserError
 {
-    TemporaryStrings prepare() const
+    TemporaryStrings prepare(Report&) const
     {
         return TemporaryStrings(
             prepareDisplay(static_cast<pANTLR3_TREE_PARSER>(recogniser->super)));
@@ -103,11 +118,11 @@ void installErrorDisplay(pANTLR3_BASE_RECOGNIZER recogniser, Report& report)
         }
         const Error error = {{failed}};
         const DeferredCancellation deferred;
+        Report& shared = *static_cast<Report*>(failed->state->userp);
         {
-            const auto prepared = error.prepare();
+            const auto prepared = error.prepare(shared);
             runtimeDisplay(failed, tokenNames);
         }
-        Report& shared = *static_cast<Report*>(failed->state->userp);
         shared.thrown.guard([&] { error(shared); });
         forgetEarlierErrors(failed);
     };
@@ -162,23 +177,16 @@ int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers
     return static_cast<int>(count);
 }
 
-// The pipeline over `text`, of which `input` is the stream: lexer, token stream, parser, node
+// The pipeline over a document, of which `input` is the stream: lexer, token stream, parser, node
 // stream, tree parser.  They are freed in the reverse order.
 // NOLINTNEXTLINE(readability-function-size): one stage follows the other.
-bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, ITomlTreeVisitor& visitor,
-                   Refusal& refusal)
+bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, DirectLines& direct,
+                   ITomlTreeVisitor& visitor, Refusal& refusal)
 {
     const auto lexer = owned(TomlLexerNew(input), "Failed to create toml lexer");
     if (lexer == nullptr)
     {
         return false;
-    }
-    Report report;
-    installErrorDisplay<LexerError>(lexer->pLexer->rec, report);
-    if (!isMemoryLeft(memoryForReading(text.size(), survey(lexer->pLexer))))
-    {
-        refusal.reason = Refusal::Reason::tooLarge;
-        return refuse(refusal, text.size());
     }
     const auto tokens = owned(
         antlr3CommonTokenStreamSourceNew(tokenBufferHint, lexer->pLexer->rec->state->tokSource),
@@ -192,29 +200,59 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, ITomlTreeV
     {
         return false;
     }
+    DocumentLines lines(lexer->pLexer, direct);
+    TokenWindow window(tokens.get(), lines);
+    Report report = {{lines, window}, {}};
+    installErrorDisplay<LexerError>(lexer->pLexer->rec, report);
     installErrorDisplay<ParserError>(parser->pParser->rec, report);
-    const FollowStack parserFollows(parser->pParser);
 
-    // Errors do not stop the walk: the visitor gets what the parser could make out.
-    const pANTLR3_BASE_TREE document = parser->document(parser.get()).tree;
-    report.thrown.pass();
-    if (const unsigned levels = parserFollows.levelsWithoutRoom(); levels > 0)
+    // The lexer's errors come first, and only once.
+    std::size_t brackets = 0;
+    lines.forEach([](std::string_view) {}, [&](const ANTLR3_COMMON_TOKEN& token)
+                  { brackets += opensLevel(token.type) ? 1 : 0; });
+    const UnreportedErrors unreported(lexer->pLexer->rec);
+    lines.restart();
+    if (!isMemoryLeft(memoryForErrors(text.size(), brackets)))
     {
-        refusal = {Refusal::Reason::tooDeep, std::max(levels, documentDepth(text))};
+        refusal.reason = Refusal::Reason::tooLarge;
         return refuse(refusal, text.size());
     }
-    const auto nodes = owned(antlr3CommonTreeNodeStreamNewTree(document, nodeBufferHint),
-                             "Failed to create toml node stream");
+    const Syntax syntax = checkSyntax(*parser, window);
+    report.thrown.pass();
+    if (syntax.levelsWithoutRoom > 0)
+    {
+        refusal = {Refusal::Reason::tooDeep,
+                   std::max(syntax.levelsWithoutRoom, documentDepth(text))};
+        return refuse(refusal, text.size());
+    }
+    const int errors = countSyntaxErrors({lexer->pLexer->rec, parser->pParser->rec});
+
+    // Errors do not stop the walk: the visitor gets what the parser could make out.
+    const Scratch<char, 64> buffer(VisitorCalls::bytesFor(direct.longestText()));
+    if (buffer.begin() == nullptr || !isMemoryLeft(memoryForWalk(window.longestStatement())))
+    {
+        refusal.reason = Refusal::Reason::tooLarge;
+        return refuse(refusal, text.size());
+    }
+    startOver(*parser, window);
+    const pANTLR3_BASE_TREE_ADAPTOR adaptor = parser->adaptor;
+    const auto nodes = owned(
+        antlr3CommonTreeNodeStreamNewTree(
+            static_cast<pANTLR3_BASE_TREE>(adaptor->nilNode(adaptor)), nodeBufferHint),
+        "Failed to create toml node stream");
     if (nodes == nullptr)
     {
         return false;
     }
-    const NodeTexts texts(nodes.get());
+    StatementNodes statements(
+        nodes.get(), {parser.get(), window, syntax.followOfLine, lines, visitor, buffer.begin()},
+        syntax.hasFailed);
     const auto tree = owned(TomlTreeNew(nodes.get()), "Failed to create toml tree");
     if (tree == nullptr)
     {
         return false;
     }
+    statements.setWalker(tree->pTreeParser->rec);
     installErrorDisplay<TreeError>(tree->pTreeParser->rec, report);
     const FollowStack treeFollows(tree->pTreeParser->rec);
 
@@ -225,14 +263,20 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, ITomlTreeV
         VORN_LOG_ERROR("Failed to visit toml tree");
         return false;
     }
-    const int errors =
-        countSyntaxErrors({lexer->pLexer->rec, parser->pParser->rec, tree->pTreeParser->rec});
-    if (errors != 0)
+    const int all = errors + countSyntaxErrors({tree->pTreeParser->rec});
+    if (all != 0)
     {
-        VORN_LOG_ERROR("Failed: input TOML has %d syntax errors", errors);
+        VORN_LOG_ERROR("Failed: input TOML has %d syntax errors", all);
         return false;
     }
     return true;
+}
+
+// The size of the valid lines that a text starts with.
+std::size_t validStart(std::string_view text, DirectLines& lines)
+{
+    const char* const end = lines.read(text.data() + byteOrderMarkLength(text));
+    return static_cast<std::size_t>(end - text.data());
 }
 
 // The path's characters.  Clients may come with a path type of their own making that
@@ -258,17 +302,23 @@ bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor)
 bool visitTomlTree(std::string_view text, ITomlTreeVisitor& visitor, Refusal& refusal)
 {
     const bool canBeStreamed = isStreamable(text);
+    DirectReading reading = DirectReading::refused;
     if (canBeStreamed)
     {
-        const DirectReading reading = readDirectly(text, visitor);
+        reading = readDirectly(text, visitor);
         if (reading == DirectReading::accepted)
         {
             return true;
         }
-        // Otherwise nothing has been called: the recognisers read the document from its start
-        // and say what is wrong with it, if they can.
-        refusal = reading == DirectReading::outOfMemory ? Refusal{Refusal::Reason::tooLarge}
-                                                        : refusalOf(text);
+    }
+    // Otherwise nothing has been called: the recognisers read what is not valid, and say what is
+    // wrong with it, if they can.
+    DirectLines direct(canBeStreamed ? text : std::string_view());
+    if (canBeStreamed)
+    {
+        refusal = reading == DirectReading::outOfMemory || !direct.hasMemory()
+                      ? Refusal{Refusal::Reason::tooLarge}
+                      : refusalOf(text, validStart(text, direct));
         if (refusal)
         {
             return refuse(refusal, text.size());
@@ -276,7 +326,7 @@ bool visitTomlTree(std::string_view text, ITomlTreeVisitor& visitor, Refusal& re
     }
     const auto input =
         owned(canBeStreamed ? openStream(text) : nullptr, "Failed to create toml string stream");
-    return input != nullptr && visitTomlTree(input.get(), text, visitor, refusal);
+    return input != nullptr && visitTomlTree(input.get(), text, direct, visitor, refusal);
 }
 
 bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visitor)

@@ -35,6 +35,9 @@ public:
     // Where the kept lines end.
     const char* position() const noexcept { return position_; }
 
+    // Where all lines end that have come, kept or not.
+    const char* linesEnd() const noexcept { return hasLost_ ? lostEnd_ : position_; }
+
     // At least the length of the longest text that has come.
     std::size_t longestText() const noexcept { return longestText_; }
 
@@ -69,11 +72,20 @@ private:
     {
         if (calls_ == nullptr)
         {
-            hasLost_ = true;
+            loseFromHere();
             return spare_;
         }
         hand(last);
         return begin_;
+    }
+
+    void loseFromHere() noexcept
+    {
+        if (!hasLost_)
+        {
+            hasLost_ = true;
+            lostEnd_ = position_;
+        }
     }
 
     // Writes what comes before the entry of a text that is long, or far from the one before.
@@ -91,11 +103,13 @@ private:
     // All events of the lines before `position` have come.
     void keepLines(RecordEntry* last, const char* position) noexcept
     {
-        if (!hasLost_)
+        if (hasLost_)
         {
-            last_ = last;
-            position_ = position;
+            lostEnd_ = position;
+            return;
         }
+        last_ = last;
+        position_ = position;
     }
 
     RecordEntry* const begin_;
@@ -104,6 +118,7 @@ private:
     RecordEntry* const spare_; // for what is lost
     const char* text_;         // the end of the last text that the visitor got
     const char* position_;
+    const char* lostEnd_ = nullptr; // of the last line that was not kept, or of those that were
     std::size_t longestText_ = maxShortText;
     bool hasLost_ = false;
     VisitorCalls* calls_ = nullptr;

@@ -5,6 +5,7 @@
 
 #include "scan/scanner.h"
 #include "scan/string_scanner.h"
+#include "scan/utf8.h"
 
 namespace vorn::parsers::toml
 {
@@ -70,7 +71,8 @@ public:
         return true;
     }
 
-    // Goes over line breaks, if they come next.
+    // Goes over line breaks, if they come next.  Bytes after them that are not ASCII may be a
+    // malformed line break, which to the lexer goes on with them; no token starts with such bytes.
     bool takeNewline() noexcept
     {
         // No other token starts with a character as low.
@@ -87,7 +89,7 @@ public:
         {
             at = newlineEnd(at_, end_);
         }
-        if (at == nullptr)
+        if (at == nullptr || !isAscii(*at))
         {
             return false;
         }

@@ -2,36 +2,10 @@
 
 #include "grammar/lexer/input_position.h"
 #include "grammar/lexer/matching.h"
+#include "unreported_errors.h"
 
 namespace vorn::parsers::toml
 {
-namespace
-{
-
-// A recogniser's errors are not reported while this lives.
-class UnreportedErrors
-{
-public:
-    explicit UnreportedErrors(pANTLR3_BASE_RECOGNIZER recogniser)
-        : recogniser_(recogniser), reportError_(recogniser->reportError)
-    {
-        recogniser_->reportError = [](pANTLR3_BASE_RECOGNIZER failed)
-        {
-            failed->state->exception->freeEx(failed->state->exception);
-            failed->state->exception = nullptr;
-        };
-    }
-    UnreportedErrors(const UnreportedErrors&) = delete;
-    UnreportedErrors& operator=(const UnreportedErrors&) = delete;
-    ~UnreportedErrors() { recogniser_->reportError = reportError_; }
-
-private:
-    pANTLR3_BASE_RECOGNIZER recogniser_;
-    decltype(ANTLR3_BASE_RECOGNIZER::reportError) reportError_;
-};
-
-} // namespace
-
 DocumentSurvey survey(pANTLR3_LEXER lexer)
 {
     const ANTLR3_RECOGNIZER_SHARED_STATE& state = *lexer->rec->state;

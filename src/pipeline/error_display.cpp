@@ -11,28 +11,18 @@ namespace
 
 pANTLR3_STRING toStringTree(pANTLR3_BASE_TREE tree)
 {
-    const pANTLR3_STRING_FACTORY factory = tree->getToken(tree)->strFactory;
-    const pANTLR3_STRING string = factory->newRaw(factory);
-    OwnedText text = textOf(tree);
-    if (text == nullptr)
-    {
-        return string;
-    }
-    string->len = static_cast<ANTLR3_UINT32>(std::strlen(text.get()));
-    string->size = string->len + 1;
-    string->chars = reinterpret_cast<pANTLR3_UINT8>(text.release());
-    return string;
+    return newString(tree->getToken(tree)->strFactory, textOf(tree));
 }
 
 } // namespace
 
-TemporaryStrings::~TemporaryStrings()
+void forgetStrings(pANTLR3_STRING_FACTORY factory, ANTLR3_UINT32 kept)
 {
-    while (factory_->index > kept_)
+    while (factory->index > kept)
     {
-        const pANTLR3_VECTOR strings = factory_->strings;
-        factory_->destroy(factory_,
-                          static_cast<pANTLR3_STRING>(strings->get(strings, factory_->index - 1)));
+        const pANTLR3_VECTOR strings = factory->strings;
+        factory->destroy(factory,
+                         static_cast<pANTLR3_STRING>(strings->get(strings, factory->index - 1)));
     }
 }
 
@@ -44,6 +34,26 @@ void forgetEarlierErrors(pANTLR3_BASE_RECOGNIZER recogniser) noexcept
         last->nextException->freeEx(last->nextException);
         last->nextException = nullptr;
     }
+}
+
+void forgetConjured(pANTLR3_BASE_RECOGNIZER parser) noexcept
+{
+    const pANTLR3_TOKEN_FACTORY factory = parser->state->tokFactory;
+    if (factory == nullptr)
+    {
+        return;
+    }
+    // Otherwise the next token in the same place gets its text into the string of this one.
+    for (ANTLR3_INT32 pool = 0; pool <= factory->thisPool; ++pool)
+    {
+        const auto used =
+            pool == factory->thisPool ? factory->nextToken : ANTLR3_FACTORY_POOL_SIZE;
+        for (auto* token = factory->pools[pool]; token != factory->pools[pool] + used; ++token)
+        {
+            token->textState = ANTLR3_TEXT_NONE;
+        }
+    }
+    factory->reset(factory);
 }
 
 pANTLR3_STRING_FACTORY prepareDisplay(pANTLR3_PARSER parser) noexcept
@@ -59,7 +69,11 @@ pANTLR3_STRING_FACTORY prepareDisplay(pANTLR3_PARSER parser) noexcept
 pANTLR3_STRING_FACTORY prepareDisplay(pANTLR3_TREE_PARSER parser) noexcept
 {
     auto* const tree = static_cast<pANTLR3_BASE_TREE>(parser->rec->state->exception->token);
-    tree->toStringTree = toStringTree;
+    // (A node that is none of a tree has no token.)
+    if (tree->getToken(tree) != nullptr)
+    {
+        tree->toStringTree = toStringTree;
+    }
     return parser->ctnstream->stringFactory;
 }
 

@@ -44,6 +44,9 @@ private:
     Character character_;
 };
 
+// Frees the strings that a factory has made, but for the first few.
+void forgetStrings(pANTLR3_STRING_FACTORY factory, ANTLR3_UINT32 kept);
+
 // Frees the strings that a factory makes while this lives.
 class TemporaryStrings
 {
@@ -54,7 +57,7 @@ public:
     }
     TemporaryStrings(const TemporaryStrings&) = delete;
     TemporaryStrings& operator=(const TemporaryStrings&) = delete;
-    ~TemporaryStrings();
+    ~TemporaryStrings() { forgetStrings(factory_, kept_); }
 
 private:
     pANTLR3_STRING_FACTORY factory_;
@@ -63,6 +66,9 @@ private:
 
 // Frees the exceptions before the last one.  The runtime keeps them all, unused.
 void forgetEarlierErrors(pANTLR3_BASE_RECOGNIZER recogniser) noexcept;
+
+// Forgets the tokens that a parser has put in where one was missing.
+void forgetConjured(pANTLR3_BASE_RECOGNIZER parser) noexcept;
 
 // The factory of the strings that a parser's display makes, none of which is kept: a token
 // that keeps its string has it already.

@@ -23,20 +23,21 @@ constexpr std::size_t neededRoom = std::size_t{20} * 1024;
 } // namespace
 
 FollowStack::FollowStack(pANTLR3_BASE_RECOGNIZER recogniser) noexcept
-    : FollowStack(recogniser, nullptr)
+    : FollowStack(recogniser, nullptr, nullptr)
 {
 }
 
-FollowStack::FollowStack(pANTLR3_PARSER parser) noexcept
-    : FollowStack(parser->rec, parser->tstream->istream)
+FollowStack::FollowStack(pANTLR3_PARSER parser, LineStarts* lines) noexcept
+    : FollowStack(parser->rec, parser->tstream->istream, lines)
 {
 }
 
-FollowStack::FollowStack(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_INT_STREAM tokens) noexcept
+FollowStack::FollowStack(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_INT_STREAM tokens,
+                         LineStarts* lines) noexcept
     : ANTLR3_STACK(*recogniser->state->following), recogniser_(recogniser),
       runtime_(recogniser->state->following),
       runtimeRecoverySet_(recogniser->computeErrorRecoverySet),
-      runtimeRuleFollow_(recogniser->computeCSRuleFollow), tokens_(tokens)
+      runtimeRuleFollow_(recogniser->computeCSRuleFollow), tokens_(tokens), lines_(lines)
 {
     push = pushSet;
     pop = popSet;
@@ -65,7 +66,13 @@ unsigned FollowStack::levelsWithoutRoom() const noexcept
 ANTLR3_BOOLEAN FollowStack::pushSet(pANTLR3_STACK stack, void* set, void (*release)(void*))
 {
     auto& follows = static_cast<FollowStack&>(*stack);
-    follows.add(*static_cast<pANTLR3_BITSET_LIST>(set));
+    auto* const follow = static_cast<pANTLR3_BITSET_LIST>(set);
+    // The first rule that the document's rule calls is that of a line.
+    if (follows.vector->count == 0 && follows.lines_ != nullptr)
+    {
+        follows.lines_->startLine(follow);
+    }
+    follows.add(*follow);
     follows.checkDepth();
     return follows.runtime_->push(stack, set, release);
 }

@@ -11,6 +11,16 @@
 namespace vorn::parsers::toml
 {
 
+// Is told where a parser starts to read a line, and which tokens may follow that.
+class LineStarts
+{
+public:
+    virtual void startLine(pANTLR3_BITSET_LIST follow) = 0;
+
+protected:
+    ~LineStarts() = default;
+};
+
 // Makes a recogniser's recovery from errors cheap, however deeply its rules are nested.
 //
 // The runtime keeps a stack with the set of the tokens that may follow each rule that is
@@ -19,12 +29,14 @@ namespace vorn::parsers::toml
 //
 // A parser's stack also ends the parsing before the thread's own stack is used up: then
 // the parser finds its tokens to be at their end, and comes back.
+//
+// And it tells where the parser is between two lines.
 class FollowStack : private ANTLR3_STACK
 {
 public:
     // Replaces the stack of a recogniser that has not been used, while this lives.
     explicit FollowStack(pANTLR3_BASE_RECOGNIZER recogniser) noexcept;
-    explicit FollowStack(pANTLR3_PARSER parser) noexcept;
+    explicit FollowStack(pANTLR3_PARSER parser, LineStarts* lines = nullptr) noexcept;
     FollowStack(const FollowStack&) = delete;
     FollowStack& operator=(const FollowStack&) = delete;
     ~FollowStack();
@@ -39,7 +51,8 @@ private:
     // The types of Toml.g fit two words.
     using Types = std::array<ANTLR3_BITWORD, 2>;
 
-    FollowStack(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_INT_STREAM tokens) noexcept;
+    FollowStack(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_INT_STREAM tokens,
+                LineStarts* lines) noexcept;
 
     static ANTLR3_BOOLEAN pushSet(pANTLR3_STACK stack, void* set, void (*release)(void*));
     static void* popSet(pANTLR3_STACK stack);
@@ -61,6 +74,7 @@ private:
     std::size_t last_ = 0;
 
     pANTLR3_INT_STREAM tokens_;          // null: the depth has no limit
+    LineStarts* lines_;                  // null: nobody is told
     std::uintptr_t lowest_ = 0;          // the address that the stack may reach; 0: not known yet
     ANTLR3_UINT32 rulesWithoutRoom_ = 0; // the rules that were running when it was reached
 };

@@ -85,10 +85,19 @@ std::size_t memoryForSurvey(std::size_t documentSize) noexcept
     return sum(fixedNeed, documentSize);
 }
 
+std::size_t memoryForErrors(std::size_t documentSize, std::size_t brackets) noexcept
+{
+    return sum(sum(fixedNeed, product(documentSize, copies)), product(brackets, maxStackOfLevel));
+}
+
+std::size_t memoryForWalk(std::size_t tokens) noexcept
+{
+    return product(tokens, needOfToken);
+}
+
 std::size_t memoryForReading(std::size_t documentSize, const DocumentSurvey& seen) noexcept
 {
-    return sum(sum(fixedNeed, product(documentSize, copies)),
-               sum(product(seen.tokens, needOfToken), product(seen.brackets, maxStackOfLevel)));
+    return sum(memoryForErrors(documentSize, seen.brackets), memoryForWalk(seen.tokens));
 }
 
 // NOLINTNEXTLINE(misc-no-recursion): a piece is a large part of the address space.

@@ -7,13 +7,13 @@
 namespace vorn::parsers::toml
 {
 
-Refusal refusalOf(std::string_view text)
+Refusal refusalOf(std::string_view text, std::size_t from)
 {
     if (!isMemoryLeft(memoryForSurvey(text.size())))
     {
         return {Refusal::Reason::tooLarge};
     }
-    const unsigned levels = documentDepth(text);
+    const unsigned levels = documentDepth(text.substr(from));
     return mayHaveRoomForLevels(levels) ? Refusal{} : Refusal{Refusal::Reason::tooDeep, levels};
 }
 

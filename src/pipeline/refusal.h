@@ -1,6 +1,7 @@
 // Why the recognisers do not read a document, or not to its end.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace vorn::parsers::toml
@@ -21,7 +22,8 @@ struct Refusal
     explicit operator bool() const noexcept { return reason != Reason::none; }
 };
 
-// What can be said before the recognisers exist, of a text that ends with a NUL.
-Refusal refusalOf(std::string_view text);
+// What can be said before the recognisers exist, of a text that ends with a NUL.  They read from
+// `from` on, after lines that are valid.
+Refusal refusalOf(std::string_view text, std::size_t from = 0);
 
 } // namespace vorn::parsers::toml

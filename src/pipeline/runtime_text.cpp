@@ -102,6 +102,18 @@ OwnedText joined(Whole whole) noexcept
 
 } // namespace
 
+pANTLR3_STRING newString(pANTLR3_STRING_FACTORY factory, OwnedText text) noexcept
+{
+    const pANTLR3_STRING string = factory->newRaw(factory);
+    if (text != nullptr)
+    {
+        string->len = static_cast<ANTLR3_UINT32>(std::strlen(text.get()));
+        string->size = string->len + 1;
+        string->chars = reinterpret_cast<pANTLR3_UINT8>(text.release());
+    }
+    return string;
+}
+
 std::string_view lexeme(const ANTLR3_COMMON_TOKEN& token) noexcept
 {
     return inputText(token.start, token.stop);

@@ -26,6 +26,9 @@ inline const char* orEmpty(const OwnedText& text) noexcept
     return text != nullptr ? text.get() : "";
 }
 
+// A string of the runtime that has the text; one without text if that is null.
+pANTLR3_STRING newString(pANTLR3_STRING_FACTORY factory, OwnedText text) noexcept;
+
 // The text of a token that the lexer made, up to its first NUL byte.
 std::string_view lexeme(const ANTLR3_COMMON_TOKEN& token) noexcept;
 

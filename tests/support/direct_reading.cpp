@@ -8,6 +8,7 @@
 namespace test
 {
 
+using vorn::parsers::toml::DirectLines;
 using vorn::parsers::toml::DirectReading;
 using vorn::parsers::toml::ITomlTreeVisitor;
 
@@ -16,6 +17,8 @@ DirectReading realReadDirectly(std::string_view text, ITomlTreeVisitor& visitor)
     asm("__real_" READ_DIRECTLY);
 DirectReading wrappedReadDirectly(std::string_view text, ITomlTreeVisitor& visitor) //
     asm("__wrap_" READ_DIRECTLY);
+const char* realReadLines(DirectLines* lines, const char* begin) asm("__real_" READ_LINES);
+const char* wrappedReadLines(DirectLines* lines, const char* begin) asm("__wrap_" READ_LINES);
 
 namespace
 {
@@ -28,6 +31,11 @@ DirectReading wrappedReadDirectly(std::string_view text, ITomlTreeVisitor& visit
 {
     return on.load(std::memory_order_relaxed) ? realReadDirectly(text, visitor)
                                               : DirectReading::refused;
+}
+
+const char* wrappedReadLines(DirectLines* lines, const char* begin)
+{
+    return on.load(std::memory_order_relaxed) ? realReadLines(lines, begin) : begin;
 }
 
 DirectReadingOn::DirectReadingOn()

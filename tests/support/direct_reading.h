@@ -1,5 +1,5 @@
 // The direct reader, switched off.  The program that links this wraps readDirectly()
-// (--wrap of the linker), which then refuses all documents.
+// and DirectLines::read() (--wrap of the linker); then no document and no line is read.
 #pragma once
 
 namespace test

@@ -11,6 +11,7 @@ namespace vorn::parsers::toml
 class InputPosition
 {
 public:
+    InputPosition() noexcept = default; // nowhere
     explicit InputPosition(pANTLR3_INPUT_STREAM input) noexcept
         : input_(input), next_(input->nextChar), line_(input->line),
           currentLine_(input->currentLine), column_(input->charPositionInLine)
@@ -32,5 +33,9 @@ private:
     decltype(ANTLR3_INPUT_STREAM::currentLine) currentLine_;
     decltype(ANTLR3_INPUT_STREAM::charPositionInLine) column_;
 };
+
+// Moves an input whose characters are bytes of UTF-8 in memory to `end`, which is after its
+// position; does the same as to consume each character.
+void advance(ANTLR3_INPUT_STREAM& input, const char* end) noexcept;
 
 } // namespace vorn::parsers::toml

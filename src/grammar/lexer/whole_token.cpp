@@ -1,7 +1,6 @@
 #include "whole_token.h"
 
-#include <algorithm>
-
+#include "input_position.h"
 #include "matching.h"
 #include "scan/scanner.h"
 #include "scan/utf8.h"
@@ -48,31 +47,6 @@ bool mayGoOn(const char* at, const char* end)
     return at != end && !isAscii(*at);
 }
 
-ANTLR3_INT32 countCharacters(const char* begin, const char* end)
-{
-    return static_cast<ANTLR3_INT32>(
-        std::count_if(begin, end, [](char c) { return !isContinuation(c); }));
-}
-
-// Does the same as to consume each character.
-void advance(ANTLR3_INPUT_STREAM& input, const char* begin, const char* end)
-{
-    const auto lines = std::count(begin, end, '\n');
-    if (lines != 0)
-    {
-        begin = end;
-        while (begin[-1] != '\n')
-        {
-            --begin;
-        }
-        input.line += static_cast<ANTLR3_UINT32>(lines);
-        input.charPositionInLine = 0;
-        input.currentLine = const_cast<char*>(begin);
-    }
-    input.charPositionInLine += countCharacters(begin, end);
-    input.nextChar = const_cast<char*>(end);
-}
-
 } // namespace
 
 bool takeWholeToken(pANTLR3_LEXER lexer)
@@ -89,7 +63,7 @@ bool takeWholeToken(pANTLR3_LEXER lexer)
     {
         return false;
     }
-    advance(input, begin, token.end);
+    advance(input, token.end);
     if (token.type == TokenType::blanks || token.type == TokenType::comment)
     {
         return storeSkipped(lexer, token.type);

@@ -1,0 +1,45 @@
+#include "document_lines.h"
+
+#include "scan/token_type.h"
+
+namespace vorn::parsers::toml
+{
+
+std::string_view DocumentLines::passValid()
+{
+    ANTLR3_INPUT_STREAM& input = *lexer_->input;
+    const auto* const begin = static_cast<const char*>(input.nextChar);
+    const char* const end = direct_.read(begin);
+    if (end == begin)
+    {
+        return {};
+    }
+    // The lexer goes on at a line's start, as if it had read what comes before.
+    const char* lineStart = end;
+    while (lineStart[-1] != '\n')
+    {
+        --lineStart;
+    }
+    advance(input, lineStart);
+    return {begin, static_cast<std::size_t>(end - begin)};
+}
+
+bool DocumentLines::isNewline(const ANTLR3_COMMON_TOKEN& token) noexcept
+{
+    return token.type == static_cast<ANTLR3_UINT32>(TokenType::newline);
+}
+
+pANTLR3_COMMON_TOKEN DocumentLines::nextToken()
+{
+    // The token takes the place of the one before it.
+    const pANTLR3_TOKEN_FACTORY factory = lexer_->rec->state->tokFactory;
+    const auto pool = factory->thisPool;
+    const auto next = factory->nextToken;
+    const pANTLR3_TOKEN_SOURCE source = lexer_->rec->state->tokSource;
+    const pANTLR3_COMMON_TOKEN token = source->nextToken(source);
+    factory->thisPool = pool;
+    factory->nextToken = next;
+    return token;
+}
+
+} // namespace vorn::parsers::toml

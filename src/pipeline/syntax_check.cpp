@@ -1,0 +1,60 @@
+#include "syntax_check.h"
+
+#include "error_display.h"
+#include "follow_stack.h"
+#include "no_tree.h"
+
+#include "recognisers.h"
+
+namespace vorn::parsers::toml
+{
+
+namespace
+{
+
+// Passes over valid lines, and forgets what the parser has got for the one before.
+class PassedLines : public LineStarts
+{
+public:
+    PassedLines(pANTLR3_BASE_RECOGNIZER parser, TokenWindow& tokens) noexcept
+        : parser_(parser), tokens_(tokens)
+    {
+    }
+
+    void startLine(pANTLR3_BITSET_LIST follow) override
+    {
+        follow_ = follow;
+        tokens_.enterLine();
+        forgetConjured(parser_);
+    }
+
+    pANTLR3_BITSET_LIST follow() const noexcept { return follow_; }
+
+private:
+    pANTLR3_BASE_RECOGNIZER parser_;
+    TokenWindow& tokens_;
+    pANTLR3_BITSET_LIST follow_ = nullptr;
+};
+
+} // namespace
+
+Syntax checkSyntax(TomlParser& parser, TokenWindow& tokens)
+{
+    const NoTree noTree(parser.adaptor);
+    PassedLines lines(parser.pParser->rec, tokens);
+    const FollowStack follows(parser.pParser, &lines);
+    tokens.recycleFor(parser.pParser->rec);
+    const pANTLR3_BASE_TREE document = parser.document(&parser).tree;
+    return {NoTree::isOfFailure(document), follows.levelsWithoutRoom(), lines.follow()};
+}
+
+void startOver(TomlParser& parser, TokenWindow& tokens)
+{
+    const pANTLR3_BASE_RECOGNIZER recogniser = parser.pParser->rec;
+    recogniser->reset(recogniser);
+    recogniser->displayRecognitionError = [](pANTLR3_BASE_RECOGNIZER failed, pANTLR3_UINT8*)
+    { forgetEarlierErrors(failed); };
+    tokens.restart();
+}
+
+} // namespace vorn::parsers::toml
