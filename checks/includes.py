@@ -37,8 +37,13 @@ ROOMS = {
               "src/pipeline", "src/diagnosis", "src/config", "platform/include"),
     "examples": (),
 }
-# Single files that may include more: this one reads directly, to count levels of nesting.
-MORE = {"src/pipeline/document_depth.cpp": ("src/direct", "src/scan")}
+# Single files that may include more: these read valid lines directly, count levels of nesting, and
+# find tokens.
+MORE = {
+    "src/pipeline/document_depth.cpp": ("src/direct", "src/scan"),
+    "src/pipeline/document_lines.h": ("src/direct",),
+    "src/pipeline/valid_tokens.cpp": ("src/direct",),
+}
 # Headers that are not of this project, and where they may be included.
 RUNTIME = "antlr3.h"
 WITHOUT_RUNTIME = ("src/scan", "src/direct", "src/config", "include", "platform", "examples")

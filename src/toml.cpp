@@ -212,7 +212,7 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, DirectLine
                   { brackets += opensLevel(token.type) ? 1 : 0; });
     const UnreportedErrors unreported(lexer->pLexer->rec);
     lines.restart();
-    if (!isMemoryLeft(memoryForErrors(text.size(), brackets)))
+    if (!isMemoryLeft(memoryForReading(text.size(), 0, brackets)))
     {
         refusal.reason = Refusal::Reason::tooLarge;
         return refuse(refusal, text.size());
@@ -225,11 +225,11 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, DirectLine
                    std::max(syntax.levelsWithoutRoom, documentDepth(text))};
         return refuse(refusal, text.size());
     }
-    const int errors = countSyntaxErrors({lexer->pLexer->rec, parser->pParser->rec});
 
     // Errors do not stop the walk: the visitor gets what the parser could make out.
     const Scratch<char, 64> buffer(VisitorCalls::bytesFor(direct.longestText()));
-    if (buffer.begin() == nullptr || !isMemoryLeft(memoryForWalk(window.longestStatement())))
+    if (buffer.begin() == nullptr || 
+        !isMemoryLeft(memoryForReading(0, window.longestStatement(), 0)))
     {
         refusal.reason = Refusal::Reason::tooLarge;
         return refuse(refusal, text.size());
@@ -263,10 +263,11 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, DirectLine
         VORN_LOG_ERROR("Failed to visit toml tree");
         return false;
     }
-    const int all = errors + countSyntaxErrors({tree->pTreeParser->rec});
-    if (all != 0)
+    const int errors =
+        countSyntaxErrors({lexer->pLexer->rec, parser->pParser->rec, tree->pTreeParser->rec});
+    if (errors != 0)
     {
-        VORN_LOG_ERROR("Failed: input TOML has %d syntax errors", all);
+        VORN_LOG_ERROR("Failed: input TOML has %d syntax errors", errors);
         return false;
     }
     return true;

@@ -139,7 +139,7 @@ private:
 
     void addRefusal()
     {
-        if (auto mistake = refusedDocument(document_))
+        if (auto mistake = refusedDocument(document_, lines_))
         {
             mistakes_.push_back(std::move(*mistake));
         }

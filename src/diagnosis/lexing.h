@@ -38,7 +38,7 @@ struct Lexing
 {
     Lexing(std::string_view text, std::size_t begin, std::vector<LexicalError>& errors,
            bool onlyIndependent)
-        : input((requireMemory(memoryForSurvey(0)), owned(openStream(text)))),
+        : input((requireMemory(memoryForLexing(0)), owned(openStream(text)))),
           lexer(owned(TomlLexerNew(input.get()))), collection{errors, *input, onlyIndependent, {}}
     {
         // (Only at its very beginning does a document have a byte order mark.)

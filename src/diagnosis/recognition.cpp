@@ -2,10 +2,10 @@
 
 #include <new>
 
+#include "document_survey.h"
 #include "error_collection.h"
 #include "lexing.h"
 #include "pipeline/buffer_hints.h"
-#include "pipeline/document_survey.h"
 #include "pipeline/follow_stack.h"
 #include "pipeline/memory_need.h"
 #include "scan/utf8.h"
@@ -24,7 +24,8 @@ constexpr std::size_t needOfToken = 3 * (sizeof(DocumentToken) + 2 * sizeof(std:
 void requireMemoryFor(const Part& part, pANTLR3_LEXER lexer)
 {
     const DocumentSurvey seen = survey(lexer);
-    requireMemory(memoryForReading(part.end - part.begin, seen) + seen.tokens * needOfToken);
+    requireMemory(memoryForReading(part.end - part.begin, seen.tokens, seen.brackets) +
+                  seen.tokens * needOfToken);
 }
 
 // The tokens that the parser's stream has read.

@@ -1,11 +1,13 @@
 #include "refused_document.h"
 
-#include <new>
+#include <string_view>
 
 #include "codes.h"
+#include "damaged_part.h"
 #include "pipeline/refusal.h"
 #include "pipeline/stack_room.h"
 #include "recognition.h"
+#include "scan/utf8.h"
 #include "statements.h"
 #include "token_reader.h"
 
@@ -16,16 +18,16 @@ namespace
 
 constexpr const char* hint = "It has bytes that are not valid UTF-8: without these it is read.";
 
-// Where the levels of arrays and inline tables are deepest.
+// Where the levels of arrays and inline tables are deepest in a part.
 struct Deepest
 {
     std::size_t levels = 0;
     DocumentToken bracket = {};
 };
 
-Deepest deepestIn(const std::string& text)
+Deepest deepestIn(std::string_view text, const Part& part)
 {
-    TokenReader reader(text, 0, TokenReader::Errors::independent);
+    TokenReader reader(text.substr(0, part.end), part.begin, TokenReader::Errors::independent);
     std::vector<DocumentToken> tokens(1);
     OpenBrackets brackets;
     Deepest deepest;
@@ -51,29 +53,32 @@ Mistake tooDeep(const DocumentToken& bracket)
             hint};
 }
 
-bool hasRoom(const std::string& text)
+// The parser alone knows how much of the stack it takes.
+bool isTooDeep(std::string_view text, const Part& part, std::size_t levels)
 {
-    return !recognise(text, wholeOf(text)).isTooDeep;
+    return levels > safeLevels && recognise(text, part).isTooDeep;
 }
 
 } // namespace
 
-std::optional<Mistake> refusedDocument(const std::string& text)
+std::optional<Mistake> refusedDocument(const std::string& text, const ValidLines& lines)
 {
-    const Refusal refusal = refusalOf(text);
+    LastLine sink;
+    std::size_t at = lines.pass(byteOrderMarkLength(text), sink);
+    const Refusal refusal = refusalOf(text, at);
     if (refusal.reason == Refusal::Reason::tooLarge)
     {
         return tooLarge();
     }
-    const Deepest deepest = deepestIn(text);
-    if (refusal)
+    while (at < text.size())
     {
-        return tooDeep(deepest.bracket);
-    }
-    // The parser alone knows how much of the stack it takes.
-    if (deepest.levels > safeLevels && !hasRoom(text))
-    {
-        return tooDeep(deepest.bracket);
+        const DamagedPart damaged = damagedPart(text, at, lines);
+        const Deepest deepest = deepestIn(text, damaged.part);
+        if (refusal || isTooDeep(text, damaged.part, deepest.levels))
+        {
+            return tooDeep(deepest.bracket);
+        }
+        at = damaged.isLast ? text.size() : lines.pass(damaged.part.end, sink);
     }
     return std::nullopt;
 }

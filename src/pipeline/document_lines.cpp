@@ -1,7 +1,5 @@
 #include "document_lines.h"
 
-#include "scan/token_type.h"
-
 namespace vorn::parsers::toml
 {
 
@@ -22,11 +20,6 @@ std::string_view DocumentLines::passValid()
     }
     advance(input, lineStart);
     return {begin, static_cast<std::size_t>(end - begin)};
-}
-
-bool DocumentLines::isNewline(const ANTLR3_COMMON_TOKEN& token) noexcept
-{
-    return token.type == static_cast<ANTLR3_UINT32>(TokenType::newline);
 }
 
 pANTLR3_COMMON_TOKEN DocumentLines::nextToken()

@@ -6,6 +6,7 @@
 
 #include "direct/direct_reader.h"
 #include "grammar/lexer/input_position.h"
+#include "grammar/lexer/matching.h"
 
 namespace vorn::parsers::toml
 {
@@ -59,11 +60,9 @@ public:
                 return;
             }
             onToken(*token);
-            atLineStart = isNewline(*token);
+            atLineStart = isNewline(token->type);
         }
     }
-
-    static bool isNewline(const ANTLR3_COMMON_TOKEN& token) noexcept;
 
 private:
     pANTLR3_COMMON_TOKEN nextToken();

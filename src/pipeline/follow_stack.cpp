@@ -42,7 +42,7 @@ FollowStack::FollowStack(pANTLR3_BASE_RECOGNIZER recogniser, pANTLR3_INT_STREAM 
     push = pushSet;
     pop = popSet;
     recogniser->state->following = this;
-    recogniser->computeErrorRecoverySet = combined;
+    recogniser->computeErrorRecoverySet = recoverySet;
     recogniser->computeCSRuleFollow = combined;
 }
 
@@ -82,6 +82,17 @@ void* FollowStack::popSet(pANTLR3_STACK stack)
     auto& follows = static_cast<FollowStack&>(*stack);
     follows.remove();
     return follows.runtime_->pop(stack);
+}
+
+pANTLR3_BITSET FollowStack::recoverySet(pANTLR3_BASE_RECOGNIZER recogniser)
+{
+    // Where nothing follows, the parser goes over all tokens that are left.
+    const FollowStack& follows = of(recogniser);
+    if (follows.vector->count == 0 && follows.tokens_ != nullptr)
+    {
+        follows.endTokens();
+    }
+    return combined(recogniser);
 }
 
 pANTLR3_BITSET FollowStack::combined(pANTLR3_BASE_RECOGNIZER recogniser)
@@ -129,8 +140,13 @@ void FollowStack::checkDepth() noexcept
     if (here < lowest_)
     {
         rulesWithoutRoom_ = vector->count;
-        tokens_->seek(tokens_, static_cast<ANTLR3_MARKER>(tokens_->size(tokens_)));
+        endTokens();
     }
+}
+
+void FollowStack::endTokens() const noexcept
+{
+    tokens_->seek(tokens_, static_cast<ANTLR3_MARKER>(tokens_->size(tokens_)));
 }
 
 } // namespace vorn::parsers::toml

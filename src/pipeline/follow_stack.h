@@ -56,11 +56,13 @@ private:
 
     static ANTLR3_BOOLEAN pushSet(pANTLR3_STACK stack, void* set, void (*release)(void*));
     static void* popSet(pANTLR3_STACK stack);
+    static pANTLR3_BITSET recoverySet(pANTLR3_BASE_RECOGNIZER recogniser);
     static pANTLR3_BITSET combined(pANTLR3_BASE_RECOGNIZER recogniser);
 
     void add(const ANTLR3_BITSET_LIST& set) noexcept;
     void remove() noexcept;
     void checkDepth() noexcept;
+    void endTokens() const noexcept;
 
     pANTLR3_BASE_RECOGNIZER recogniser_;
     pANTLR3_STACK runtime_;

@@ -80,24 +80,16 @@ std::size_t product(std::size_t first, std::size_t second) noexcept
 
 } // namespace
 
-std::size_t memoryForSurvey(std::size_t documentSize) noexcept
+std::size_t memoryForLexing(std::size_t documentSize) noexcept
 {
     return sum(fixedNeed, documentSize);
 }
 
-std::size_t memoryForErrors(std::size_t documentSize, std::size_t brackets) noexcept
+std::size_t memoryForReading(std::size_t documentSize, std::size_t tokens,
+                             std::size_t brackets) noexcept
 {
-    return sum(sum(fixedNeed, product(documentSize, copies)), product(brackets, maxStackOfLevel));
-}
-
-std::size_t memoryForWalk(std::size_t tokens) noexcept
-{
-    return product(tokens, needOfToken);
-}
-
-std::size_t memoryForReading(std::size_t documentSize, const DocumentSurvey& seen) noexcept
-{
-    return sum(memoryForErrors(documentSize, seen.brackets), memoryForWalk(seen.tokens));
+    return sum(sum(fixedNeed, product(documentSize, copies)),
+               sum(product(tokens, needOfToken), product(brackets, maxStackOfLevel)));
 }
 
 // NOLINTNEXTLINE(misc-no-recursion): a piece is a large part of the address space.

@@ -4,22 +4,16 @@
 
 #include <cstddef>
 
-#include "document_survey.h"
-
 namespace vorn::parsers::toml
 {
 
-// What is needed before the document is known, and for its survey.
-std::size_t memoryForSurvey(std::size_t documentSize) noexcept;
+// What is needed before the document is known, and to lex it.
+std::size_t memoryForLexing(std::size_t documentSize) noexcept;
 
-// What is needed to find the errors, where there are as many brackets in lines that are not valid.
-std::size_t memoryForErrors(std::size_t documentSize, std::size_t brackets) noexcept;
-
-// What is needed to walk over a statement of so many tokens, beyond that.
-std::size_t memoryForWalk(std::size_t tokens) noexcept;
-
-// What is needed to read the document at once.
-std::size_t memoryForReading(std::size_t documentSize, const DocumentSurvey& seen) noexcept;
+// What is needed to parse the document and to walk over it, at most, with trees of so many tokens,
+// among so many brackets.
+std::size_t memoryForReading(std::size_t documentSize, std::size_t tokens,
+                             std::size_t brackets) noexcept;
 
 // Whether this much memory can be had, now.
 bool isMemoryLeft(std::size_t size) noexcept;

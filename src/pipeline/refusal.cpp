@@ -9,7 +9,7 @@ namespace vorn::parsers::toml
 
 Refusal refusalOf(std::string_view text, std::size_t from)
 {
-    if (!isMemoryLeft(memoryForSurvey(text.size())))
+    if (!isMemoryLeft(memoryForLexing(text.size())))
     {
         return {Refusal::Reason::tooLarge};
     }

@@ -70,36 +70,6 @@ void forEachPart(pANTLR3_BASE_TREE tree, Take& take)
     }
 }
 
-template <typename Take>
-void forEachPart(pANTLR3_TOKEN_STREAM tokens, Take& take)
-{
-    const ANTLR3_UINT32 count = tokens->istream->size(tokens->istream);
-    for (ANTLR3_UINT32 index = 0; index < count; ++index)
-    {
-        take(lexeme(*tokens->get(tokens, index)));
-    }
-}
-
-// The parts of `whole`, joined.
-template <typename Whole>
-OwnedText joined(Whole whole) noexcept
-{
-    std::size_t length = 0;
-    const auto measure = [&length](std::string_view part) { length += part.size(); };
-    forEachPart(whole, measure);
-    OwnedText text(static_cast<char*>(std::malloc(length + 1)));
-    if (text == nullptr)
-    {
-        return text;
-    }
-    char* end = text.get();
-    const auto append = [&end](std::string_view part)
-    { end = std::copy(part.begin(), part.end(), end); };
-    forEachPart(whole, append);
-    *end = '\0';
-    return text;
-}
-
 } // namespace
 
 pANTLR3_STRING newString(pANTLR3_STRING_FACTORY factory, OwnedText text) noexcept
@@ -137,14 +107,22 @@ OwnedText matchedText(pANTLR3_LEXER lexer) noexcept
     return text;
 }
 
-OwnedText textOf(pANTLR3_TOKEN_STREAM tokens) noexcept
-{
-    return joined(tokens);
-}
-
 OwnedText textOf(pANTLR3_BASE_TREE tree) noexcept
 {
-    return joined(tree);
+    std::size_t length = 0;
+    const auto measure = [&length](std::string_view part) { length += part.size(); };
+    forEachPart(tree, measure);
+    OwnedText text(static_cast<char*>(std::malloc(length + 1)));
+    if (text == nullptr)
+    {
+        return text;
+    }
+    char* end = text.get();
+    const auto append = [&end](std::string_view part)
+    { end = std::copy(part.begin(), part.end(), end); };
+    forEachPart(tree, append);
+    *end = '\0';
+    return text;
 }
 
 } // namespace vorn::parsers::toml

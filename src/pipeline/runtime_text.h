@@ -38,9 +38,6 @@ bool isLexed(const ANTLR3_COMMON_TOKEN& token) noexcept;
 // What the lexer has read of the token that it is at, as its getText().
 OwnedText matchedText(pANTLR3_LEXER lexer) noexcept;
 
-// The text of all tokens of a stream, joined, as the stream's toString().
-OwnedText textOf(pANTLR3_TOKEN_STREAM tokens) noexcept;
-
 // The text of a tree, as the tree's toStringTree().
 OwnedText textOf(pANTLR3_BASE_TREE tree) noexcept;
 

@@ -51,9 +51,14 @@ Syntax checkSyntax(TomlParser& parser, TokenWindow& tokens)
 void startOver(TomlParser& parser, TokenWindow& tokens)
 {
     const pANTLR3_BASE_RECOGNIZER recogniser = parser.pParser->rec;
+    const ANTLR3_UINT32 errors = recogniser->state->errorCount;
     recogniser->reset(recogniser);
-    recogniser->displayRecognitionError = [](pANTLR3_BASE_RECOGNIZER failed, pANTLR3_UINT8*)
-    { forgetEarlierErrors(failed); };
+    recogniser->state->errorCount = errors;
+    recogniser->reportError = [](pANTLR3_BASE_RECOGNIZER failed)
+    {
+        failed->state->errorRecovery = ANTLR3_TRUE;
+        forgetEarlierErrors(failed);
+    };
     tokens.restart();
 }
 

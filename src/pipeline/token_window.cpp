@@ -34,7 +34,7 @@ std::string_view TokenWindow::enterLine()
     const Index index = tokens_->p;
     longestStatement_ = longestStatement();
     statement_ = index;
-    if (index == 0 || !DocumentLines::isNewline(*at(index - 1).token))
+    if (index != 0 && !isNewline(at(index - 1).token->type))
     {
         return {};
     }
@@ -50,14 +50,17 @@ std::string_view TokenWindow::enterLine()
 
 void TokenWindow::forget() noexcept
 {
-    const Index index = tokens_->p;
-    if (index != 0)
+    end_ = tokens_->p;
+    if (end_ == 0)
     {
-        Lexed& last = at(index - 1);
+        lines_.restart();
+    }
+    else
+    {
+        Lexed& last = at(end_ - 1);
         last.after.goBack();
         last_ = *last.token;
         last.token = &last_;
-        end_ = index;
     }
     recycle();
     forgetStrings(tokens_->tstream->tokenSource->strFactory, keptStrings_);

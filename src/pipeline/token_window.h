@@ -35,8 +35,8 @@ public:
     // may report again, has a token.
     void recycleFor(pANTLR3_BASE_RECOGNIZER parser) noexcept { parser_ = parser; }
 
-    // Where the parser is between two lines: forgets its tokens and their strings, and passes over
-    // valid lines if line breaks have been taken.  Returns their text.
+    // Where the parser starts to read a line: forgets its tokens and their strings, and passes over
+    // valid lines.  Returns their text.
     std::string_view enterLine();
     // The first of these alone.
     void forget() noexcept;
@@ -44,7 +44,7 @@ public:
     // How many tokens were taken between two lines, at most.
     std::size_t longestStatement() const noexcept
     {
-        return std::max(longestStatement_, static_cast<std::size_t>(tokens_->p - statement_));
+        return std::max(longestStatement_, static_cast<std::size_t>(std::min(tokens_->p, end_) - statement_));
     }
 
     // The index in the document of a token that the parser knows.  One that was missing has none.

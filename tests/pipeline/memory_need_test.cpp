@@ -10,10 +10,9 @@
 #include <limits>
 #include <vector>
 
-using vorn::parsers::toml::DocumentSurvey;
 using vorn::parsers::toml::isMemoryLeft;
 using vorn::parsers::toml::memoryForReading;
-using vorn::parsers::toml::memoryForSurvey;
+using vorn::parsers::toml::memoryForLexing;
 
 namespace
 {
@@ -24,14 +23,6 @@ constexpr std::size_t megabyte = 1024 * 1024;
 // From nothing to what no document has.
 const std::vector<std::size_t> amounts = {0,        1,        10,           1000,     1'000'000,
                                           most / 9, most / 2, most - 1'000, most - 1, most};
-
-DocumentSurvey seen(std::size_t tokens, std::size_t brackets)
-{
-    DocumentSurvey survey;
-    survey.tokens = tokens;
-    survey.brackets = brackets;
-    return survey;
-}
 
 struct AddressSpace
 {
@@ -72,55 +63,55 @@ TEST(MemoryNeed, ofADocumentGrowsWithAllThatItHas)
 {
     for (const std::size_t size : {0u, 100u, 1'000'000u})
     {
-        EXPECT_GT(memoryForSurvey(size + 1), memoryForSurvey(size));
+        EXPECT_GT(memoryForLexing(size + 1), memoryForLexing(size));
         for (const std::size_t count : {0u, 100u, 1'000'000u})
         {
-            const std::size_t need = memoryForReading(size, seen(count, count));
-            EXPECT_GT(memoryForReading(size + 1, seen(count, count)), need);
-            EXPECT_GT(memoryForReading(size, seen(count + 1, count)), need);
-            EXPECT_GT(memoryForReading(size, seen(count, count + 1)), need);
-            EXPECT_GE(need, memoryForSurvey(size));
+            const std::size_t need = memoryForReading(size, count, count);
+            EXPECT_GT(memoryForReading(size + 1, count, count), need);
+            EXPECT_GT(memoryForReading(size, count + 1, count), need);
+            EXPECT_GT(memoryForReading(size, count, count + 1), need);
+            EXPECT_GE(need, memoryForLexing(size));
         }
     }
 }
 
 TEST(MemoryNeed, growsByAnAmountForEachByteTokenAndBracket)
 {
-    const std::size_t none = memoryForReading(0, {});
+    const std::size_t none = memoryForReading(0, 0, 0);
     for (const std::size_t count : {7u, 1'000u})
     {
-        EXPECT_EQ(memoryForSurvey(count) - memoryForSurvey(0), count);
-        EXPECT_EQ(memoryForReading(count, {}) - none, count * (memoryForReading(1, {}) - none));
-        EXPECT_EQ(memoryForReading(0, seen(count, 0)) - none,
-                  count * (memoryForReading(0, seen(1, 0)) - none));
-        EXPECT_EQ(memoryForReading(0, seen(0, count)) - none,
-                  count * (memoryForReading(0, seen(0, 1)) - none));
+        EXPECT_EQ(memoryForLexing(count) - memoryForLexing(0), count);
+        EXPECT_EQ(memoryForReading(count, 0, 0) - none, count * (memoryForReading(1, 0, 0) - none));
+        EXPECT_EQ(memoryForReading(0, count, 0) - none,
+                  count * (memoryForReading(0, 1, 0) - none));
+        EXPECT_EQ(memoryForReading(0, 0, count) - none,
+                  count * (memoryForReading(0, 0, 1) - none));
     }
 }
 
 TEST(MemoryNeed, isTheLargestNumberWhereItIsLarger)
 {
-    EXPECT_EQ(memoryForSurvey(most), most);
-    EXPECT_EQ(memoryForSurvey(most - 1000), most);
+    EXPECT_EQ(memoryForLexing(most), most);
+    EXPECT_EQ(memoryForLexing(most - 1000), most);
     for (const std::size_t large : {most / 8, most / 2, most - 1, most})
     {
-        EXPECT_EQ(memoryForReading(large, {}), most);
-        EXPECT_EQ(memoryForReading(0, seen(large, 0)), most);
-        EXPECT_EQ(memoryForReading(0, seen(0, large)), most);
-        EXPECT_EQ(memoryForReading(large, seen(large, large)), most);
+        EXPECT_EQ(memoryForReading(large, 0, 0), most);
+        EXPECT_EQ(memoryForReading(0, large, 0), most);
+        EXPECT_EQ(memoryForReading(0, 0, large), most);
+        EXPECT_EQ(memoryForReading(large, large, large), most);
     }
-    const std::size_t none = memoryForReading(0, {});
-    const std::size_t byte = memoryForReading(1, {}) - none;
-    const std::size_t token = memoryForReading(0, seen(1, 0)) - none;
-    const std::size_t bracket = memoryForReading(0, seen(0, 1)) - none;
+    const std::size_t none = memoryForReading(0, 0, 0);
+    const std::size_t byte = memoryForReading(1, 0, 0) - none;
+    const std::size_t token = memoryForReading(0, 1, 0) - none;
+    const std::size_t bracket = memoryForReading(0, 0, 1) - none;
     // The first that do not fit: what is left of the products is little.
-    EXPECT_EQ(memoryForReading(most / byte + 1, {}), most);
-    EXPECT_EQ(memoryForReading(0, seen(most / token + 1, 0)), most);
-    EXPECT_EQ(memoryForReading(0, seen(0, most / bracket + 1)), most);
+    EXPECT_EQ(memoryForReading(most / byte + 1, 0, 0), most);
+    EXPECT_EQ(memoryForReading(0, most / token + 1, 0), most);
+    EXPECT_EQ(memoryForReading(0, 0, most / bracket + 1), most);
     // Each of them fits, but not all together.
     const std::size_t third = most / 3;
-    EXPECT_LT(memoryForReading(third / byte, seen(third / token, 0)), most);
-    EXPECT_EQ(memoryForReading(third / byte, seen(third / token, third / bracket)), most);
+    EXPECT_LT(memoryForReading(third / byte, third / token, 0), most);
+    EXPECT_EQ(memoryForReading(third / byte, third / token, third / bracket), most);
 }
 
 TEST(MemoryNeed, neverBecomesLessWhereItNoLongerFits)
@@ -129,15 +120,15 @@ TEST(MemoryNeed, neverBecomesLessWhereItNoLongerFits)
     {
         const std::size_t less = amounts[index - 1];
         const std::size_t more = amounts[index];
-        EXPECT_LE(memoryForSurvey(less), memoryForSurvey(more)) << more;
+        EXPECT_LE(memoryForLexing(less), memoryForLexing(more)) << more;
         for (const std::size_t other : amounts)
         {
-            EXPECT_LE(memoryForReading(less, seen(other, other)),
-                      memoryForReading(more, seen(other, other)));
-            EXPECT_LE(memoryForReading(other, seen(less, other)),
-                      memoryForReading(other, seen(more, other)));
-            EXPECT_LE(memoryForReading(other, seen(other, less)),
-                      memoryForReading(other, seen(other, more)));
+            EXPECT_LE(memoryForReading(less, other, other),
+                      memoryForReading(more, other, other));
+            EXPECT_LE(memoryForReading(other, less, other),
+                      memoryForReading(other, more, other));
+            EXPECT_LE(memoryForReading(other, other, less),
+                      memoryForReading(other, other, more));
         }
     }
 }

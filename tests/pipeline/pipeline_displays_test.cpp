@@ -67,7 +67,7 @@ TEST(PipelineDisplays, ofTheFirstRecognisersAreCalledBeforeEachLogLine)
         EXPECT_EQ(linesBefore, std::vector<std::size_t>({0, 1, 2}));
         EXPECT_EQ(spy.steps,
                   Steps({"new input",    "new lexer",     "new tokens",     "new parser",
-                         "parse",        "display lexer", "display parser", "new nodes",
+                         "display lexer", "parse",        "display parser", "new nodes",
                          "new tree",     "walk",          "display tree",   "count lexer",
                          "count parser", "count tree",    "free tree",      "free nodes",
                          "free parser",  "free tokens",   "free lexer",     "close input"}));

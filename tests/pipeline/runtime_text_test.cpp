@@ -31,20 +31,7 @@ std::string textOrNull(const OwnedText& text)
     return text != nullptr ? text.get() : "(null)";
 }
 
-// The text of all tokens of `text`, as the runtime makes it and as textOf() does.
-BothTexts textOfTokens(const std::string& text)
-{
-    const test::StderrCapture quiet;
-    const test::ParserPipeline pipeline(text);
-    const pANTLR3_TOKEN_STREAM stream = pipeline.tokens()->tstream;
-    stream->_LT(stream, 1); // fills the stream
-    const OwnedText own = textOf(stream);
-    // Without a token the runtime would read before the first one.
-    const bool isEmpty = stream->istream->size(stream->istream) == 0;
-    return {textOrNull(own), isEmpty ? "" : characters(stream->toString(stream))};
-}
-
-// The same of the tree of `text`.
+// The text of the tree of `text`, as the runtime makes it and as textOf() does.
 BothTexts textOfTree(const std::string& text)
 {
     const test::StderrCapture quiet;
@@ -74,45 +61,6 @@ MatchedTexts textsMatched(const std::string& text)
 }
 
 } // namespace
-
-TEST(RuntimeText, ofTokensIsTheirTextsJoined)
-{
-    for (const auto& [text, expected] : std::vector<std::pair<std::string, std::string>>{
-             {"", ""},
-             {" \t # c", ""},
-             {"\xef\xbb\xbf", ""},
-             {"a", "a"},
-             {" a = 1 # c\n", "a=1\n"},
-             {"[ a . \"b c\" ]\r\n\r\n# c\n", "[a.\"b c\"]\r\n\r\n\n"},
-             {"@a@ = @\n", "a=\n"},
-             {"'\xc3\xa9\xe2\x82\xac'\n", "'\xc3\xa9\xe2\x82\xac'\n"},
-             {"\"x\0y\" 'z'\n"s, "\"x'z'\n"},
-             {"'\0' '\0\0' b\n"s, "''b\n"},
-             {"'''\n\0'''\n"s, "'''\n\n"},
-             {"1979-05-27T07:32:00Z,inf", "1979-05-27T07:32:00Z,inf"},
-         })
-    {
-        SCOPED_TRACE(testing::PrintToString(text));
-        const BothTexts joined = textOfTokens(text);
-        EXPECT_EQ(joined.own, expected);
-        EXPECT_EQ(joined.runtimes, expected);
-    }
-}
-
-TEST(RuntimeText, ofManyTokensIsWhole)
-{
-    std::string text;
-    std::string expected;
-    for (int index = 0; index < 5000; ++index)
-    {
-        const std::string number = std::to_string(index);
-        text += "key-" + number + " = '\xc3\xa9" + number + "' # " + number + "\n";
-        expected += "key-" + number + "='\xc3\xa9" + number + "'\n";
-    }
-    const BothTexts joined = textOfTokens(text);
-    EXPECT_TRUE(joined.own == expected);
-    EXPECT_TRUE(joined.runtimes == expected);
-}
 
 TEST(RuntimeText, ofNothingIsEmpty)
 {

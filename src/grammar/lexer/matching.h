@@ -37,6 +37,12 @@ constexpr bool opensLevel(ANTLR3_UINT32 type)
            type == static_cast<ANTLR3_UINT32>(TokenType::openBrace);
 }
 
+// Whether tokens of this type are line breaks.
+constexpr bool isNewline(ANTLR3_UINT32 type)
+{
+    return type == static_cast<ANTLR3_UINT32>(TokenType::newline);
+}
+
 // The character in the given place; place 1 is the input's position.
 ANTLR3_UCHAR peek(pANTLR3_LEXER lexer, ANTLR3_INT32 place = 1);
 

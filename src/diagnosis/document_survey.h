@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-namespace vorn::parsers::toml
+namespace vorn::parsers::toml::diagnosis
 {
 
 // What the lexer makes of a document: the tokens that it hands to the parser, and those of
@@ -19,4 +19,4 @@ struct DocumentSurvey
 // and sets it back to where it was.
 DocumentSurvey survey(pANTLR3_LEXER lexer);
 
-} // namespace vorn::parsers::toml
+} // namespace vorn::parsers::toml::diagnosis

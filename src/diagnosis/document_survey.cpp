@@ -2,10 +2,11 @@
 
 #include "grammar/lexer/input_position.h"
 #include "grammar/lexer/matching.h"
-#include "unreported_errors.h"
+#include "pipeline/unreported_errors.h"
 
-namespace vorn::parsers::toml
+namespace vorn::parsers::toml::diagnosis
 {
+
 DocumentSurvey survey(pANTLR3_LEXER lexer)
 {
     const ANTLR3_RECOGNIZER_SHARED_STATE& state = *lexer->rec->state;
@@ -29,4 +30,4 @@ DocumentSurvey survey(pANTLR3_LEXER lexer)
     return seen;
 }
 
-} // namespace vorn::parsers::toml
+} // namespace vorn::parsers::toml::diagnosis

@@ -1,7 +1,7 @@
 // What is counted of a document before it is read.
 #include <gtest/gtest.h>
 
-#include "pipeline/document_survey.h"
+#include "diagnosis/document_survey.h"
 
 #include <malloc.h>
 
@@ -17,8 +17,8 @@
 #include "support/parser_pipeline.h"
 
 using namespace std::string_literals;
-using vorn::parsers::toml::DocumentSurvey;
-using vorn::parsers::toml::survey;
+using vorn::parsers::toml::diagnosis::DocumentSurvey;
+using vorn::parsers::toml::diagnosis::survey;
 
 namespace
 {
