@@ -37,10 +37,8 @@ ROOMS = {
               "src/pipeline", "src/diagnosis", "src/config", "platform/include"),
     "examples": (),
 }
-# Single files that may include more: these read valid lines directly, count levels of nesting, and
-# find tokens.
+# Single files that may include more: these read valid lines directly, and find their tokens.
 MORE = {
-    "src/pipeline/document_depth.cpp": ("src/direct", "src/scan"),
     "src/pipeline/document_lines.h": ("src/direct",),
     "src/pipeline/valid_tokens.cpp": ("src/direct",),
 }

@@ -9,12 +9,12 @@
 #include <vorn/parsers/toml.h>
 #include <vorn/utils/file.h>
 
+#include "direct/direct_lines.h"
 #include "direct/direct_reader.h"
 #include "file_content.h"
 #include "log.h"
 #include "pipeline/buffer_hints.h"
 #include "pipeline/deferred_cancellation.h"
-#include "pipeline/document_depth.h"
 #include "pipeline/document_lines.h"
 #include "pipeline/document_text.h"
 #include "pipeline/error_display.h"
@@ -177,6 +177,13 @@ int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers
     return static_cast<int>(count);
 }
 
+// The levels of nesting in what is not valid first.
+std::size_t levelsOf(std::string_view text, DirectLines& lines)
+{
+    lines.read(lines.read(text.data() + byteOrderMarkLength(text)));
+    return lines.levels();
+}
+
 // The pipeline over a document, of which `input` is the stream: lexer, token stream, parser, node
 // stream, tree parser.  They are freed in the reverse order.
 // NOLINTNEXTLINE(readability-function-size): one stage follows the other.
@@ -222,7 +229,8 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, DirectLine
     if (syntax.levelsWithoutRoom > 0)
     {
         refusal = {Refusal::Reason::tooDeep,
-                   std::max(syntax.levelsWithoutRoom, documentDepth(text))};
+                   std::max(syntax.levelsWithoutRoom,
+                            static_cast<unsigned>(levelsOf(text, direct)))};
         return refuse(refusal, text.size());
     }
 
@@ -273,13 +281,6 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, DirectLine
     return true;
 }
 
-// The size of the valid lines that a text starts with.
-std::size_t validStart(std::string_view text, DirectLines& lines)
-{
-    const char* const end = lines.read(text.data() + byteOrderMarkLength(text));
-    return static_cast<std::size_t>(end - text.data());
-}
-
 // The path's characters.  Clients may come with a path type of their own making that
 // starts, like ours, with a pointer to NUL-terminated characters.
 const char* charactersOf(const FilePath& path)
@@ -319,7 +320,7 @@ bool visitTomlTree(std::string_view text, ITomlTreeVisitor& visitor, Refusal& re
     {
         refusal = reading == DirectReading::outOfMemory || !direct.hasMemory()
                       ? Refusal{Refusal::Reason::tooLarge}
-                      : refusalOf(text, validStart(text, direct));
+                      : refusalOf(text.size(), levelsOf(text, direct));
         if (refusal)
         {
             return refuse(refusal, text.size());

@@ -4,6 +4,7 @@
 
 #include "codes.h"
 #include "damaged_part.h"
+#include "document_depth.h"
 #include "pipeline/refusal.h"
 #include "pipeline/stack_room.h"
 #include "recognition.h"
@@ -65,7 +66,8 @@ std::optional<Mistake> refusedDocument(const std::string& text, const ValidLines
 {
     LastLine sink;
     std::size_t at = lines.pass(byteOrderMarkLength(text), sink);
-    const Refusal refusal = refusalOf(text, at);
+    const std::string_view rest = std::string_view(text).substr(at);
+    const Refusal refusal = refusalOf(text.size(), documentDepth(rest));
     if (refusal.reason == Refusal::Reason::tooLarge)
     {
         return tooLarge();

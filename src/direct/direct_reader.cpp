@@ -1,28 +1,23 @@
 #include "direct_reader.h"
 
-#include <algorithm>
-
 #include "direct_cursor.h"
 #include "event_writer.h"
+#include "read_lines.h"
 #include "reader.h"
 #include "scan/utf8.h"
+#include "scratch.h"
 #include "visitor_calls.h"
 
 namespace vorn::parsers::toml
 {
-namespace
-{
 
 // What changes with every token is in registers, since nobody has its address: everything common is
 // inlined, and functions of their own take it by value.
-[[gnu::flatten, gnu::noinline]] bool readLines(const char* end, NestingStack nesting,
-                                               EventRecord& record)
+[[gnu::flatten]] bool readLines(const char* end, NestingStack nesting, EventRecord& record)
 {
     EventWriter writer(record);
     return Reader(DirectCursor(record.position(), end), nesting, writer).lines();
 }
-
-} // namespace
 
 DirectReading readDirectly(std::string_view text, ITomlTreeVisitor& visitor)
 {
@@ -59,38 +54,6 @@ DirectReading readDirectly(std::string_view text, ITomlTreeVisitor& visitor)
     }
     visitor.endDocument();
     return DirectReading::accepted;
-}
-
-DirectLines::DirectLines(std::string_view text) noexcept
-    : text_(text), words_(NestingStack::wordsFor(text.size())),
-      entries_(EventRecord::entriesFor(text.size()))
-{
-}
-
-bool DirectLines::hasMemory() const noexcept
-{
-    return words_.begin() != nullptr && entries_.begin() != nullptr;
-}
-
-const char* DirectLines::read(const char* begin)
-{
-    record_.emplace(entries_.begin(), EventRecord::entriesFor(text_.size()), begin);
-    const NestingStack nesting(words_.begin(), text_.size());
-    readLines(text_.data() + text_.size(), nesting, *record_);
-    longestText_ = std::max(longestText_, record_->longestText());
-    return record_->linesEnd();
-}
-
-void DirectLines::handTo(ITomlTreeVisitor& visitor, char* buffer)
-{
-    const char* const end = record_->linesEnd();
-    VisitorCalls calls(visitor, buffer, text_.data() + text_.size());
-    record_->handTo(calls);
-    if (record_->position() != end)
-    {
-        readLines(end, NestingStack(words_.begin(), text_.size()), *record_);
-        record_->finish();
-    }
 }
 
 } // namespace vorn::parsers::toml

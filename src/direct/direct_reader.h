@@ -1,15 +1,9 @@
-// Reads a valid document, or valid lines of another one, without the recognisers.
+// Reads a valid document without the recognisers.
 #pragma once
 
 #include <vorn/parsers/toml.h>
 
-#include <cstddef>
-#include <optional>
 #include <string_view>
-
-#include "event_record.h"
-#include "nesting_stack.h"
-#include "scratch.h"
 
 namespace vorn::parsers::toml
 {
@@ -23,37 +17,5 @@ enum class DirectReading
 
 // The text ends with a NUL, as that of a string does.
 DirectReading readDirectly(std::string_view text, ITomlTreeVisitor& visitor);
-
-// Reads valid lines of a document, wherever they start.  It is for documents that the recognisers
-// read as well, and leaves them most of the stack.
-class DirectLines
-{
-public:
-    // For lines of this text, which ends with a NUL and lives as long as this.
-    explicit DirectLines(std::string_view text) noexcept;
-
-    // Whether there was memory for it; nothing else may be called if not.
-    bool hasMemory() const noexcept;
-
-    // Reads the valid pairs and headers that come next.  Returns where the first token after
-    // their lines starts: that of what is not valid, or of line breaks after a comment, or the
-    // text's end.  That is `begin` if none is valid.  `begin` is the text's start, or the end of
-    // line breaks.
-    const char* read(const char* begin);
-
-    // At least the length of the longest text so far.
-    std::size_t longestText() const noexcept { return longestText_; }
-
-    // Hands the lines that were read last to the visitor.  It copies texts into the buffer, which
-    // has VisitorCalls::bytesFor(longestText()).
-    void handTo(ITomlTreeVisitor& visitor, char* buffer);
-
-private:
-    const std::string_view text_;
-    const Scratch<NestingStack::Word, 16> words_;
-    const Scratch<RecordEntry, 64> entries_;
-    std::optional<EventRecord> record_;
-    std::size_t longestText_ = 0;
-};
 
 } // namespace vorn::parsers::toml

@@ -25,8 +25,12 @@ public:
     // The words for all levels that a document of this many bytes can open and close.
     static constexpr std::size_t wordsFor(std::size_t size) { return size / 2 / levelsPerWord + 1; }
 
-    // For a document of this many bytes, in words for as many.
-    NestingStack(Word* words, std::size_t size) noexcept : words_(words), room_(size / 2) {}
+    // For a document of this many bytes, in words for as many.  It can count the levels that have
+    // been entered at once, at most.
+    NestingStack(Word* words, std::size_t size, std::size_t* max = nullptr) noexcept
+        : words_(words), room_(size / 2), max_(max)
+    {
+    }
 
     Inside inside() const noexcept { return inside_; }
     // The innermost level is now this.
@@ -45,6 +49,10 @@ public:
         word = below | (Word{static_cast<std::uint8_t>(inside_)} << shift);
         ++depth_;
         inside_ = inside;
+        if (max_ != nullptr && depth_ > *max_)
+        {
+            *max_ = depth_;
+        }
         return true;
     }
 
@@ -64,6 +72,7 @@ private:
 
     Word* const words_;
     const std::size_t room_; // in levels
+    std::size_t* const max_;
     std::size_t depth_ = 0;
     Inside inside_ = Inside::pair;
 };

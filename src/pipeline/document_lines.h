@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-#include "direct/direct_reader.h"
+#include "direct/direct_lines.h"
 #include "grammar/lexer/input_position.h"
 #include "grammar/lexer/matching.h"
 

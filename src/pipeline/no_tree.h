@@ -18,11 +18,18 @@ public:
     ~NoTree() { *adaptor_ = operations_; }
 
     // Whether a rule that has returned this has failed.
-    static bool isOfFailure(pANTLR3_BASE_TREE tree) noexcept;
+    bool isOfFailure(pANTLR3_BASE_TREE tree) const noexcept { return tree == error_; }
 
 private:
-    pANTLR3_BASE_TREE_ADAPTOR adaptor_;
-    const std::remove_pointer_t<pANTLR3_BASE_TREE_ADAPTOR> operations_;
+    using Adaptor = pANTLR3_BASE_TREE_ADAPTOR;
+
+    static const NoTree& of(Adaptor adaptor) noexcept;
+    static void* anyNode(Adaptor adaptor) noexcept { return of(adaptor).any_; }
+
+    Adaptor adaptor_;
+    const std::remove_pointer_t<Adaptor> operations_;
+    void* any_;
+    void* error_;
 };
 
 } // namespace vorn::parsers::toml

@@ -1,20 +1,19 @@
 #include "refusal.h"
 
-#include "document_depth.h"
 #include "memory_need.h"
 #include "stack_room.h"
 
 namespace vorn::parsers::toml
 {
 
-Refusal refusalOf(std::string_view text, std::size_t from)
+Refusal refusalOf(std::size_t size, std::size_t levels)
 {
-    if (!isMemoryLeft(memoryForLexing(text.size())))
+    if (!isMemoryLeft(memoryForLexing(size)))
     {
         return {Refusal::Reason::tooLarge};
     }
-    const unsigned levels = documentDepth(text.substr(from));
-    return mayHaveRoomForLevels(levels) ? Refusal{} : Refusal{Refusal::Reason::tooDeep, levels};
+    const auto number = static_cast<unsigned>(levels);
+    return mayHaveRoomForLevels(number) ? Refusal{} : Refusal{Refusal::Reason::tooDeep, number};
 }
 
 } // namespace vorn::parsers::toml

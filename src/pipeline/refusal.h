@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <string_view>
 
 namespace vorn::parsers::toml
 {
@@ -22,8 +21,8 @@ struct Refusal
     explicit operator bool() const noexcept { return reason != Reason::none; }
 };
 
-// What can be said before the recognisers exist, of a text that ends with a NUL.  They read from
-// `from` on, after lines that are valid.
-Refusal refusalOf(std::string_view text, std::size_t from = 0);
+// What can be said before the recognisers exist, of a document of this size: in what they read first
+// arrays and inline tables are nested as deeply as this.
+Refusal refusalOf(std::size_t size, std::size_t levels);
 
 } // namespace vorn::parsers::toml

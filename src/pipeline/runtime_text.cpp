@@ -38,37 +38,58 @@ std::string_view nodeText(pANTLR3_BASE_TREE node) noexcept
     }
 }
 
-// Hands the parts of a tree's text to `take`, one after the other.
-template <typename Take>
-// NOLINTNEXTLINE(misc-no-recursion): not as deep as the parser's rules, which made the tree.
-void forEachPart(pANTLR3_BASE_TREE tree, Take& take)
+// Appends a tree's text at `end`, or measures it if there is no room yet.
+class TreeText
 {
-    const ANTLR3_UINT32 count = tree->getChildCount(tree);
-    if (count == 0)
+public:
+    explicit TreeText(char* end) noexcept : end_(end) {}
+
+    // NOLINTNEXTLINE(misc-no-recursion): not as deep as the parser's rules, which made the tree.
+    void add(pANTLR3_BASE_TREE tree) noexcept
     {
-        take(nodeText(tree));
-        return;
-    }
-    const bool isList = tree->isNilNode(tree) == ANTLR3_TRUE;
-    if (!isList)
-    {
-        take("(");
-        take(nodeText(tree));
-        take(" ");
-    }
-    for (ANTLR3_UINT32 index = 0; index < count; ++index)
-    {
-        if (index > 0)
+        const ANTLR3_UINT32 count = tree->getChildCount(tree);
+        const bool isList = count > 0 && tree->isNilNode(tree) == ANTLR3_TRUE;
+        const bool isTree = count > 0 && !isList;
+        if (isTree)
         {
-            take(" ");
+            add('(');
         }
-        forEachPart(static_cast<pANTLR3_BASE_TREE>(tree->getChild(tree, index)), take);
+        if (!isList)
+        {
+            for (const char c : nodeText(tree))
+            {
+                add(c);
+            }
+        }
+        for (ANTLR3_UINT32 index = 0; index < count; ++index)
+        {
+            if (isTree || index > 0)
+            {
+                add(' ');
+            }
+            add(static_cast<pANTLR3_BASE_TREE>(tree->getChild(tree, index)));
+        }
+        if (isTree)
+        {
+            add(')');
+        }
     }
-    if (!isList)
+
+    void add(char c) noexcept
     {
-        take(")");
+        ++length_;
+        if (end_ != nullptr)
+        {
+            *end_++ = c;
+        }
     }
-}
+
+    std::size_t length() const noexcept { return length_; }
+
+private:
+    char* end_;
+    std::size_t length_ = 0;
+};
 
 } // namespace
 
@@ -109,19 +130,14 @@ OwnedText matchedText(pANTLR3_LEXER lexer) noexcept
 
 OwnedText textOf(pANTLR3_BASE_TREE tree) noexcept
 {
-    std::size_t length = 0;
-    const auto measure = [&length](std::string_view part) { length += part.size(); };
-    forEachPart(tree, measure);
-    OwnedText text(static_cast<char*>(std::malloc(length + 1)));
-    if (text == nullptr)
+    TreeText measured(nullptr);
+    measured.add(tree);
+    OwnedText text(static_cast<char*>(std::malloc(measured.length() + 1)));
+    if (text != nullptr)
     {
-        return text;
+        TreeText(text.get()).add(tree);
+        text.get()[measured.length()] = '\0';
     }
-    char* end = text.get();
-    const auto append = [&end](std::string_view part)
-    { end = std::copy(part.begin(), part.end(), end); };
-    forEachPart(tree, append);
-    *end = '\0';
     return text;
 }
 

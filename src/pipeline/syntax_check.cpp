@@ -45,7 +45,7 @@ Syntax checkSyntax(TomlParser& parser, TokenWindow& tokens)
     const FollowStack follows(parser.pParser, &lines);
     tokens.recycleFor(parser.pParser->rec);
     const pANTLR3_BASE_TREE document = parser.document(&parser).tree;
-    return {NoTree::isOfFailure(document), follows.levelsWithoutRoom(), lines.follow()};
+    return {noTree.isOfFailure(document), follows.levelsWithoutRoom(), lines.follow()};
 }
 
 void startOver(TomlParser& parser, TokenWindow& tokens)

@@ -10,17 +10,6 @@ namespace vorn::parsers::toml
 namespace
 {
 
-template <typename Take>
-void forEachToken(std::string_view lines, Take take)
-{
-    const char* const end = lines.data() + lines.size();
-    TokenCursor cursor(lines.data(), end);
-    while (!cursor.atEnd())
-    {
-        take(cursor.take().text);
-    }
-}
-
 // Most tokens are shorter than a block, which is copied fastest.
 char* append(std::string_view text, const char* limit, char* end) noexcept
 {
@@ -35,28 +24,33 @@ char* append(std::string_view text, const char* limit, char* end) noexcept
 
 } // namespace
 
-std::size_t countTokens(std::string_view lines) noexcept
-{
-    std::size_t count = 0;
-    forEachToken(lines, [&](std::string_view) { ++count; });
-    return count;
-}
-
 char* appendTokens(std::string_view lines, char* end, std::size_t& count) noexcept
 {
     const bool hasNul = std::memchr(lines.data(), '\0', lines.size()) != nullptr;
     const char* const limit = lines.data() + lines.size();
-    forEachToken(lines,
-                 [&](std::string_view text)
-                 {
-                     ++count;
-                     if (hasNul)
-                     {
-                         text = text.substr(0, std::min(text.find('\0'), text.size()));
-                     }
-                     end = append(text, limit, end);
-                 });
+    TokenCursor cursor(lines.data(), limit);
+    while (!cursor.atEnd())
+    {
+        std::string_view text = cursor.take().text;
+        ++count;
+        if (end == nullptr)
+        {
+            continue;
+        }
+        if (hasNul)
+        {
+            text = text.substr(0, std::min(text.find('\0'), text.size()));
+        }
+        end = append(text, limit, end);
+    }
     return end;
+}
+
+std::size_t countTokens(std::string_view lines) noexcept
+{
+    std::size_t count = 0;
+    appendTokens(lines, nullptr, count);
+    return count;
 }
 
 } // namespace vorn::parsers::toml

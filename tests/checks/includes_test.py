@@ -17,7 +17,7 @@ RIGHT = {
     "src/grammar/TomlTree.g": '@header {\n#include "grammar/tree_actions.h"\n}\n',
     "src/grammar/lexer/matching.h":
         '#include <antlr3.h>\n#include "scan/token.h"\n#include "grammar/tree_actions.h"\n',
-    "src/pipeline/document_depth.cpp": '#include "direct/reader.h"\n',
+    "src/pipeline/valid_tokens.cpp": '#include "direct/reader.h"\n',
     "src/pipeline/recognisers.h":
         '#include "grammar/lexer/matching.h"\n#include "TomlParser.h"\n#include "TomlTree.h"\n',
     "src/diagnosis/words.h": '#include "pipeline/recognisers.h"\n#include "direct/reader.h"\n',

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <string_view>
 
+#include "direct/direct_lines.h"
 #include "direct/direct_reader.h"
 
 namespace test

@@ -1,7 +1,7 @@
 // How deeply documents are nested.
 #include <gtest/gtest.h>
 
-#include "pipeline/document_depth.h"
+#include "diagnosis/document_depth.h"
 
 #include <vorn/parsers/toml.h>
 
@@ -20,7 +20,7 @@ namespace
 unsigned depthOf(const std::string& text)
 {
     test::GuardedMemory memory(text.size() + 1);
-    return vorn::parsers::toml::documentDepth({memory.holdTerminated(text), text.size()});
+    return vorn::parsers::toml::diagnosis::documentDepth({memory.holdTerminated(text), text.size()});
 }
 
 void expectDepth(unsigned depth, const std::vector<std::string>& texts)

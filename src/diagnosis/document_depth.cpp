@@ -7,7 +7,7 @@
 #include "direct/scratch.h"
 #include "scan/utf8.h"
 
-namespace vorn::parsers::toml
+namespace vorn::parsers::toml::diagnosis
 {
 namespace
 {
@@ -57,4 +57,4 @@ unsigned documentDepth(std::string_view text)
     return levels.max();
 }
 
-} // namespace vorn::parsers::toml
+} // namespace vorn::parsers::toml::diagnosis

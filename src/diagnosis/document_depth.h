@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace vorn::parsers::toml
+namespace vorn::parsers::toml::diagnosis
 {
 
 // How many arrays and inline tables enclose one another in a document, up to its first
@@ -10,4 +10,4 @@ namespace vorn::parsers::toml
 // The text ends with a NUL, as that of a string does.
 unsigned documentDepth(std::string_view text);
 
-} // namespace vorn::parsers::toml
+} // namespace vorn::parsers::toml::diagnosis
