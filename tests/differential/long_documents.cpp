@@ -11,10 +11,18 @@ std::string LongDocumentGenerator::next()
 {
     std::string document = valid();
     std::size_t place = 0;
+    const bool areWalked = random_.oneIn(4);
     for (std::size_t times = mutations(); times > 0; --times)
     {
         place = placeIn(document, place, random_);
-        mutate(document, place, random_, tokens_);
+        if (areWalked)
+        {
+            insertLine(document, place, walkedLine(random_));
+        }
+        else
+        {
+            mutate(document, place, random_, tokens_);
+        }
     }
     return document;
 }

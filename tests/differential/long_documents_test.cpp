@@ -26,6 +26,7 @@ struct Made
     std::ptrdiff_t lexerErrors = 0;
     std::ptrdiff_t parserErrors = 0;
     std::ptrdiff_t treeErrors = 0;
+    std::size_t calls = 0;
     // Where the first error that is displayed was, from 0 to 1; none: 2.
     double firstError = 2;
 
@@ -58,13 +59,10 @@ Made readByAll(std::string document)
                              { return line.format.rfind(start, 0) == 0; });
     };
     const double firstError = firstErrorIn(document, reading.standardError);
-    return {std::move(document),
-            reading.accepted,
-            lines("Failed to visit") == 0,
-            lines("Invalid TOML: lexer"),
-            lines("Invalid TOML: parser"),
-            lines("Invalid TOML: tree parser"),
-            firstError};
+    return {std::move(document),           reading.accepted,
+            lines("Failed to visit") == 0, lines("Invalid TOML: lexer"),
+            lines("Invalid TOML: parser"), lines("Invalid TOML: tree parser"),
+            reading.events.size(),         firstError};
 }
 
 template <typename Generator>
@@ -128,6 +126,13 @@ const std::vector<Kind> errorKinds = {
     {"a walk with an error", [](const Made& one) { return one.treeErrors > 0; }},
     {"a walk without an error after errors of the parser",
      [](const Made& one) { return one.isWalked && one.parserErrors > 0 && one.treeErrors == 0; }},
+    {"a walk with several errors", [](const Made& one) { return one.treeErrors > 1; }},
+    {"a walk to the end over several lines, with errors before it",
+     [](const Made& one) { return one.isWalked && one.calls > 30 && one.parserErrors > 1; }},
+    {"a walk that fails after several lines",
+     [](const Made& one) { return !one.isWalked && one.calls > 30; }},
+    {"a walk over none of the lines",
+     [](const Made& one) { return one.parserErrors > 0 && one.calls == 2; }},
     {"several errors of the parser", [](const Made& one) { return one.parserErrors > 3; }},
     {"many errors", [](const Made& one) { return one.errors() > 9; }},
     {"the first error at the start", [](const Made& one) { return one.firstError < 0.1; }},

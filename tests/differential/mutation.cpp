@@ -76,9 +76,13 @@ Part lineAt(const std::string& document, std::size_t place)
     return {start, end - start};
 }
 
-// Exchanges a part with one that follows it.
+// Exchanges a part with one that follows it; parts of very long tokens may not.
 void exchange(std::string& document, const Part& part, const Part& next)
 {
+    if (next.start < part.end())
+    {
+        return;
+    }
     const std::string between = document.substr(part.end(), next.start - part.end());
     document.replace(part.start, next.end() - part.start,
                      next.of(document) + between + part.of(document));
@@ -123,7 +127,7 @@ void mutateLine(std::string& document, std::size_t place, Random& random, TokenG
         exchange(document, line, lineAt(document, line.end()));
         break;
     default:
-        document.insert(line.start, mistakenLines(random, tokens));
+        insertLine(document, place, mistakenLines(random, tokens));
     }
 }
 
@@ -173,6 +177,11 @@ void mutateBytes(std::string& document, std::size_t place, Random& random)
 }
 
 } // namespace
+
+void insertLine(std::string& document, std::size_t place, const std::string& line)
+{
+    document.insert(lineAt(document, place).start, line);
+}
 
 void mutate(std::string& document, std::size_t place, Random& random, TokenGenerator& tokens)
 {
@@ -233,18 +242,22 @@ std::string mistakenLines(Random& random, TokenGenerator& tokens)
     }
     if (random.oneIn(4))
     {
-        return repairedLine(random);
+        return walkedLine(random);
     }
     const std::vector<std::string>& texts =
         refusedDocuments[random.below(refusedDocuments.size())].texts;
     return texts[random.below(texts.size())] + (random.oneIn(3) ? "" : "\n");
 }
 
-std::string repairedLine(Random& random)
+std::string walkedLine(Random& random)
 {
     static constexpr std::string_view lines[] = {
-        "a = [1 2]", "a = [1, 2 3, 4]", "a.b 1",        "a.b 'x' # c",    "a.b [1,\n2]",
-        "[[t]",      "[[t.u]",          "a = [{b = 1]", "a = [[1 2], 3]", "a = [[1,\n2 3],\n4]"};
+        "a = [1 2]", "a = [1, 2 3, 4]", "a.b 1", "a.b 'x' # c", "a.b [1,\n2]", "[[t]", "[[t.u]",
+        "a = [{b = 1]", "a = [[1 2], 3]", "a = [[1,\n2 3],\n4]", "a = [1, b]", "a = {b = 1\n}", "@",
+        "a = [1, @]",
+        // The walk has errors of its own here.
+        "a = {}", "a = []", "a = [,]", "a. = 1", "a.b. = 1", "[a.]", "a.@ = 1", "a = {b 1}",
+        "a = {b = 1,}", "a = {b. = 1}", "a = {b = [1 2], c = {d 1}}"};
     return std::string(random.oneOf(lines)) + (random.oneIn(4) ? "\r\n" : "\n");
 }
 

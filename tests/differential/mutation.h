@@ -19,7 +19,10 @@ std::size_t placeIn(const std::string& document, std::size_t other, Random& rand
 // One or more lines with a mistake, or with a text that is mistaken only where it stands.
 std::string mistakenLines(Random& random, TokenGenerator& tokens);
 
-// A line with a mistake that the parser repairs, so that all of the line is walked.
-std::string repairedLine(Random& random);
+// One with a mistake after which the walk goes on, if nothing else ends it.
+std::string walkedLine(Random& random);
+
+// Inserts a line before the one at a place.
+void insertLine(std::string& document, std::size_t place, const std::string& line);
 
 } // namespace test

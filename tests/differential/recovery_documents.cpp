@@ -47,7 +47,7 @@ std::string RecoveryDocumentGenerator::next()
     static constexpr std::size_t chances[] = {1, 2, 4, 10, 40};
     const std::size_t chance = chances[random_.below(5)];
     const std::size_t lines = random_.between(1, random_.oneIn(2) ? 6 : 40);
-    const bool areRepaired = random_.oneIn(8);
+    const bool areWalked = random_.oneIn(8);
     const bool firstIsMistaken = random_.oneIn(4);
     const bool lastIsMistaken = random_.oneIn(4);
     std::string document = random_.oneIn(20) ? "\xEF\xBB\xBF" : "";
@@ -55,9 +55,7 @@ std::string RecoveryDocumentGenerator::next()
     {
         const bool isMistaken = (line == 0 && firstIsMistaken) ||
                                 (line + 1 == lines && lastIsMistaken) || random_.oneIn(chance);
-        document += !isMistaken   ? validLine()
-                    : areRepaired ? repairedLine(random_)
-                                  : mistakenLine();
+        document += !isMistaken ? validLine() : areWalked ? walkedLine(random_) : mistakenLine();
     }
     if (random_.oneIn(4))
     {
