@@ -16,7 +16,8 @@ constexpr std::string_view valid[] = {
     "\tl = true # note", "'m' = \"caf\xC3\xA9\"",
     // As the runtime decodes them: bytes that the scanner leaves to the lexer.
     "# \xED\xA0\x80", "n = '\xED\xBF\xBF'", "\xC1\xA1 = 1", "n = '\xC1\xA1'", "n = 1 \xC0\xA3 note",
-    "\xC1\x9B\x74]", "n \xC0\xBD 1"};
+    "\xC1\x9B\x74]", "n \xC0\xBD 1", "c = 3\xC0\x8A[t]", "# note\xC0\x8A\x63 = 3",
+    "n = \xC0\xA2x\xC0\xA2"};
 
 constexpr std::string_view mistaken[] = {
     // Not closed, or closed without being open.
@@ -32,13 +33,14 @@ constexpr std::string_view mistaken[] = {
     // Texts that are no tokens.
     "a = 'x", "a = \"x", "a = \"\"\"x", "a = '''x", "\"\"\"", "'''", "\"", "'", "a = \"\\q\"", "@",
     "@@", "a = @", "@ = 1", "a = 1979-05-27 # note", "a = 1.", "a = 07:32", "\xEF\xBB\xBF",
-    "a = '\xFF'", "\xC3", "\0"sv, "a = 1\0"sv, "# \xF0\x9F\x98\x80", "\xC1\x3F", "a = 1 \xC3\xA9"};
+    "a = '\xFF'", "\xC3", "\0"sv, "a = 1\0"sv, "# \xF0\x9F\x98\x80", "\xC1\x3F", "a = 1 \xC3\xA9",
+    "a = \xC0\xA2x", "a = 'x\xC0\x8Ay'", "# \xC0\x8A\x61"};
 
 constexpr std::string_view lineEnds[] = {
-    "\n",      "\n",           "\n",     "\n",       "\n",     "\n",     "\n",
-    "\n",      "\r\n",         "\r\n",   "\n\r\n",   "\n\r",   "\r",     "\r\r\n",
-    "\n\n",    "\n \n",        "\n\t\n", "\n\r\n\r", "\r\n\r", " # c\n", " # c\r\n",
-    "\n# c\n", "\n# c\n# d\n", "",       " ",        "#\n"};
+    "\n",      "\n",           "\n",     "\n",       "\n",     "\n",       "\n",
+    "\n",      "\r\n",         "\r\n",   "\n\r\n",   "\n\r",   "\r",       "\r\r\n",
+    "\n\n",    "\n \n",        "\n\t\n", "\n\r\n\r", "\r\n\r", " # c\n",   " # c\r\n",
+    "\n# c\n", "\n# c\n# d\n", "",       " ",        "#\n",    "\xC0\x8A", "\xC0\x8D\n"};
 
 } // namespace
 
