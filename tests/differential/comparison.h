@@ -2,20 +2,35 @@
 
 #include "support/reading.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace test
 {
 
+// What comes before a line of the log.
+struct Moment
+{
+    std::size_t calls;
+    std::size_t displayed; // bytes on standard error
+};
+
+// A reading with the order of all that it shows: a moment for each line of the log.
+struct OrderedReading : Reading
+{
+    std::vector<Moment> moments;
+};
+
 // What the ways to read a document show.
 struct Comparison
 {
-    Reading library;
-    bool direct = false; // whether its direct reader accepts the document
-    bool plain = false;  // whether the document is plain text
-    Reading pipeline;    // the library with its direct reader switched off
-    Reading reference;   // recognisers made by the tool, all of them
+    OrderedReading library;
+    bool direct = false;                    // whether its direct reader accepts the document
+    bool plain = false;                     // whether the document is plain text
+    std::optional<OrderedReading> pipeline; // the library with its direct reader switched off
+    OrderedReading reference;               // recognisers made by the tool, all of them
 
     // Whether they show the same.
     bool same() const;
@@ -27,6 +42,10 @@ struct Comparison
 };
 
 Comparison compare(const std::string& document);
+
+// The same without the pipeline alone where the document is rejected: it is what the library has
+// come to then.  For documents that take long.
+Comparison compareQuickly(const std::string& document);
 
 // The differences, and all that the ways that differ show.
 std::string describe(const Comparison& comparison);

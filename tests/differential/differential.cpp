@@ -1,78 +1,101 @@
 // Compares what the library and the reference pipeline show for documents made at random:
-// differential COUNT SEED.  Ends with 1 at the first difference.
+// differential [--long | --recovery] COUNT SEED.  Ends with 1 at the first difference.
 #include "comparison.h"
 #include "crash_report.h"
 #include "document_generator.h"
 #include "escaped.h"
+#include "figures.h"
+#include "kept_memory.h"
+#include "long_documents.h"
+#include "recovery_documents.h"
 #include "shrinking.h"
 
-#include <chrono>
-#include <cinttypes>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 
 namespace
 {
 
-constexpr std::uint64_t progress = 100000;
+using Compare = test::Comparison (*)(const std::string&);
 
-struct Figures
+// Longer ones are not printed as a whole before a smaller one has been found.
+constexpr std::size_t printable = 10'000;
+
+// When progress is printed.
+struct Progress
 {
-    std::uint64_t documents = 0;
-    std::uint64_t accepted = 0;
-    std::uint64_t direct = 0;
-    std::uint64_t bytes = 0;
-    std::chrono::steady_clock::time_point start = std::chrono::steady_clock::now();
+    std::uint64_t documents;
+    double seconds;
+    double last = 0;
+
+    bool isDue(const test::Figures& figures)
+    {
+        const bool due = figures.documents() % documents == 0 || figures.seconds() > last + seconds;
+        last = due ? figures.seconds() : last;
+        return due;
+    }
 };
 
-void print(const Figures& figures)
-{
-    const std::chrono::duration<double> elapsed = std::chrono::steady_clock::now() - figures.start;
-    std::printf("%" PRIu64 " documents of %.1f MB: %" PRIu64 " accepted, %" PRIu64
-                " of them directly; %.0f s\n",
-                figures.documents, static_cast<double>(figures.bytes) / 1e6, figures.accepted,
-                figures.direct, elapsed.count());
-    std::fflush(stdout);
-}
+constexpr Progress usualProgress = {100'000, 1e9};
+constexpr Progress slowProgress = {100'000, 20};
 
-void printDifference(const std::string& document)
+void printDifference(const std::string& document, Compare compare)
 {
-    std::printf("A document differs: %s\n", test::escaped(document).c_str());
+    std::printf("A document of %zu bytes differs: %s%s\n", document.size(),
+                test::escaped(document.substr(0, printable)).c_str(),
+                document.size() > printable ? "..." : "");
     std::fflush(stdout);
-    const auto differs = [](const std::string& text) { return !test::compare(text).isWell(); };
+    const auto differs = [compare](const std::string& text) { return !compare(text).isWell(); };
     const std::string smallest = test::shrunk(document, differs);
     std::printf("The smallest found: %s\n%s", test::escaped(smallest).c_str(),
-                test::describe(test::compare(smallest)).c_str());
+                test::describe(compare(smallest)).c_str());
 }
 
-bool compareDocuments(std::uint64_t count, std::uint64_t seed)
+template <typename Generator>
+bool compareDocuments(std::uint64_t count, std::uint64_t seed, Compare compare, Progress progress,
+                      test::Figures& figures)
 {
-    test::DocumentGenerator generator(seed);
+    Generator generator(seed);
     std::string document;
     test::reportCrashesOn(document);
-    Figures figures;
-    while (figures.documents < count)
+    while (figures.documents() < count)
     {
         document = generator.next();
-        const test::Comparison comparison = test::compare(document);
+        const test::Comparison comparison = compare(document);
         if (!comparison.isWell())
         {
-            print(figures);
-            printDifference(document);
+            figures.print();
+            printDifference(document, compare);
             return false;
         }
-        ++figures.documents;
-        figures.bytes += document.size();
-        figures.accepted += comparison.reference.accepted ? 1 : 0;
-        figures.direct += comparison.direct ? 1 : 0;
-        if (figures.documents % progress == 0 || figures.documents == count)
+        figures.add(document, comparison);
+        if (progress.isDue(figures) || figures.documents() == count)
         {
-            print(figures);
+            figures.print();
         }
     }
     return true;
+}
+
+bool compareMixture(const char* mixture, std::uint64_t count, std::uint64_t seed)
+{
+    test::Figures figures;
+    if (mixture == nullptr)
+    {
+        return compareDocuments<test::DocumentGenerator>(count, seed, test::compare, usualProgress,
+                                                         figures);
+    }
+    test::keepMemory();
+    const bool isLong = std::strcmp(mixture, "--long") == 0;
+    const bool same = isLong ? compareDocuments<test::LongDocumentGenerator>(
+                                   count, seed, test::compareQuickly, slowProgress, figures)
+                             : compareDocuments<test::RecoveryDocumentGenerator>(
+                                   count, seed, test::compare, slowProgress, figures);
+    figures.printMistakes();
+    return same;
 }
 
 // A number of decimal digits; `number` stays if it is something else.
@@ -85,16 +108,24 @@ bool parse(const char* word, std::uint64_t& number)
     return isNumber;
 }
 
+bool isMixture(const char* word)
+{
+    return std::strcmp(word, "--long") == 0 || std::strcmp(word, "--recovery") == 0;
+}
+
 } // namespace
 
 int main(int words, char** word)
 {
     std::uint64_t count = 0;
     std::uint64_t seed = 0;
-    if (words != 3 || !parse(word[1], count) || !parse(word[2], seed) || count == 0)
+    const char* const mixture = words == 4 && isMixture(word[1]) ? word[1] : nullptr;
+    const int first = mixture == nullptr ? 1 : 2;
+    if (words != first + 2 || !parse(word[first], count) || !parse(word[first + 1], seed) ||
+        count == 0)
     {
-        std::fputs("Usage: differential COUNT SEED\n", stderr);
+        std::fputs("Usage: differential [--long | --recovery] COUNT SEED\n", stderr);
         return 2;
     }
-    return compareDocuments(count, seed) ? 0 : 1;
+    return compareMixture(mixture, count, seed) ? 0 : 1;
 }

@@ -10,7 +10,27 @@ namespace
 
 constexpr std::size_t usualDepth = 3;
 
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
 }
+
+// Whether there is something like a date before a blank that no time follows: the lexer
+// expects one there.
+bool hasDateBeforeBlank(const std::string& text)
+{
+    for (std::size_t at = text.find(' ', 3); at != std::string::npos; at = text.find(' ', at + 1))
+    {
+        const bool date = text[at - 3] == '-' && isDigit(text[at - 2]) && isDigit(text[at - 1]);
+        if (date && (at + 1 == text.size() || !isDigit(text[at + 1])))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 std::string DocumentGenerator::next()
 {
@@ -34,6 +54,19 @@ std::string DocumentGenerator::next()
             damage(text, random_);
         }
     }
+    return text;
+}
+
+std::string DocumentGenerator::validLine()
+{
+    hasStrays_ = false;
+    std::string text;
+    do
+    {
+        text = line();
+        text += lineEnd();
+    } while (hasDateBeforeBlank(text));
+    hasStrays_ = true;
     return text;
 }
 
@@ -119,7 +152,7 @@ std::string DocumentGenerator::value(std::size_t depth)
 // one too many.
 std::string DocumentGenerator::breaks(std::size_t most)
 {
-    const std::size_t count = random_.oneIn(80) ? most + 1 : random_.below(most + 1);
+    const std::size_t count = hasStrays_ && random_.oneIn(80) ? most + 1 : random_.below(most + 1);
     std::string text;
     for (std::size_t index = 0; index < count; ++index)
     {

@@ -19,6 +19,9 @@ public:
 
     std::string next();
 
+    // A pair or a header with a line break, or blank lines; all of it is valid.
+    std::string validLine();
+
 private:
     std::string document();
     std::string line();
@@ -32,6 +35,7 @@ private:
     std::string breaks(std::size_t most);
     std::string nested(std::size_t levels);
 
+    bool hasStrays_ = true; // whether arrays have a line break too many now and then
     Random random_;
     TokenGenerator tokens_;
 };

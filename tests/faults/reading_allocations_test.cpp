@@ -16,6 +16,7 @@
 #include "failing_memory.h"
 #include "quiet_log.h"
 #include "support/counting_visitor.h"
+#include "support/damaged_documents.h"
 #include "support/large_documents.h"
 #include "support/refused_documents.h"
 #include "support/stderr_capture.h"
@@ -40,6 +41,7 @@ struct Outcome
     bool hasThrown = false; // std::bad_alloc
     bool accepted = false;
     std::size_t calls = 0;
+    std::size_t textBytes = 0;        // that the calls got
     std::vector<std::string> formats; // of the log lines
     int streams = 0;
     long blocks = 0; // that were not given back
@@ -67,6 +69,7 @@ Outcome read(const Source& source, long number, Failing failing)
         outcome.blocks = memory.blocks();
     }
     outcome.calls = visitor.calls;
+    outcome.textBytes = visitor.textBytes;
     outcome.formats = test::loggedFormats();
     outcome.streams = streams;
     outcome.file = test::lowestFreeDescriptor();
@@ -77,6 +80,7 @@ void expectSame(const Outcome& outcome, const Outcome& whole)
 {
     EXPECT_EQ(outcome.accepted, whole.accepted);
     EXPECT_EQ(outcome.calls, whole.calls);
+    EXPECT_EQ(outcome.textBytes, whole.textBytes);
     EXPECT_EQ(outcome.formats, whole.formats);
     EXPECT_FALSE(outcome.hasThrown);
 }
@@ -188,6 +192,7 @@ std::vector<std::string> documentsWithMistakes()
     {
         documents.insert(documents.end(), texts.begin(), texts.end());
     }
+    documents.insert(documents.end(), test::damagedDocuments.begin(), test::damagedDocuments.end());
     return documents;
 }
 

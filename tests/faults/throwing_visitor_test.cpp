@@ -7,6 +7,8 @@
 #include "descriptors.h"
 #include "failing_memory.h"
 #include "quiet_log.h"
+#include "reference/reference_pipeline.h"
+#include "support/damaged_documents.h"
 #include "support/event_recorder.h"
 #include "support/large_documents.h"
 #include "support/stderr_capture.h"
@@ -14,6 +16,7 @@
 
 using test::Events;
 using vorn::parsers::toml::FilePath;
+using vorn::parsers::toml::ITomlTreeVisitor;
 using vorn::parsers::toml::visitTomlTree;
 
 namespace
@@ -29,20 +32,25 @@ struct Outcome
     bool accepted = false;
     std::size_t thrownAt = 0; // 0: nowhere
     Events events;
-    std::vector<std::string> formats; // of the log lines
-    int file = -1;                    // the lowest descriptor that is free after it
+    std::vector<std::string> formats;     // of the log lines
+    std::vector<std::size_t> linesBefore; // each event
+    int file = -1;                        // the lowest descriptor that is free after it
 };
+
+template <typename Source>
+using Visit = bool (*)(const Source&, ITomlTreeVisitor&);
 
 // Reads with a visitor that throws at a call; with 0, at none.
 template <typename Source>
-Outcome read(const Source& source, std::size_t throwingCall)
+Outcome read(const Source& source, std::size_t throwingCall, Visit<Source> visit = visitTomlTree)
 {
     test::clearLog();
     Outcome outcome;
     test::EventRecorder visitor;
     visitor.onEvent(
-        [&visitor, throwingCall](const std::string&)
+        [&](const std::string&)
         {
+            outcome.linesBefore.push_back(test::loggedLines());
             if (visitor.events().size() == throwingCall)
             {
                 throw Stop{throwingCall};
@@ -50,7 +58,7 @@ Outcome read(const Source& source, std::size_t throwingCall)
         });
     try
     {
-        outcome.accepted = visitTomlTree(source, visitor);
+        outcome.accepted = visit(source, visitor);
     }
     catch (const Stop& stop)
     {
@@ -62,20 +70,30 @@ Outcome read(const Source& source, std::size_t throwingCall)
     return outcome;
 }
 
-// The log lines of a reading that breaks off are the first of those of the whole reading.
-bool isBeginning(const std::vector<std::string>& lines, const std::vector<std::string>& whole)
+template <typename List>
+List firstOf(const List& list, std::size_t count)
 {
-    return lines.size() <= whole.size() && std::equal(lines.begin(), lines.end(), whole.begin());
+    return {list.begin(), list.begin() + static_cast<std::ptrdiff_t>(count)};
 }
 
+void expectSame(const Outcome& outcome, const Outcome& whole)
+{
+    EXPECT_EQ(outcome.accepted, whole.accepted);
+    EXPECT_EQ(outcome.thrownAt, 0u);
+    EXPECT_EQ(outcome.events, whole.events);
+    EXPECT_EQ(outcome.formats, whole.formats);
+    EXPECT_EQ(outcome.linesBefore, whole.linesBefore);
+}
+
+// Throws at each call that the reference makes for the text, which the source has.
 template <typename Source>
-void expectPassed(const Source& source, bool accepted)
+void expectPassed(const Source& source, const std::string& text, bool accepted)
 {
     const test::StderrCapture quiet;
-    const Outcome whole = read(source, 0);
+    const Outcome whole = read(text, 0, reference::visitTomlTree);
     EXPECT_EQ(whole.accepted, accepted);
-    EXPECT_EQ(whole.thrownAt, 0u);
     ASSERT_FALSE(whole.events.empty());
+    expectSame(read(source, 0), whole);
     // The first exception of a thread sets up what all of them share.
     read(source, 1);
     for (std::size_t call = 1; call <= whole.events.size(); ++call)
@@ -85,17 +103,13 @@ void expectPassed(const Source& source, bool accepted)
         {
             const Outcome outcome = read(source, call);
             EXPECT_EQ(outcome.thrownAt, call);
-            const auto end = whole.events.begin() + static_cast<std::ptrdiff_t>(call);
-            EXPECT_EQ(outcome.events, Events(whole.events.begin(), end));
-            EXPECT_TRUE(isBeginning(outcome.formats, whole.formats));
+            EXPECT_EQ(outcome.events, firstOf(whole.events, call));
+            EXPECT_EQ(outcome.formats, firstOf(whole.formats, whole.linesBefore[call - 1]));
             EXPECT_EQ(outcome.file, whole.file);
         }
         EXPECT_EQ(memory.blocks(), 0);
     }
-    const Outcome next = read(source, 0);
-    EXPECT_EQ(next.accepted, whole.accepted);
-    EXPECT_EQ(next.events, whole.events);
-    EXPECT_EQ(next.formats, whole.formats);
+    expectSame(read(source, 0), whole);
 }
 
 const std::vector<std::string> acceptedDocuments = {
@@ -124,7 +138,7 @@ TEST(ThrowingVisitor, endsTheReadingOfAnAcceptedText)
     for (const std::string& text : acceptedDocuments)
     {
         SCOPED_TRACE(testing::PrintToString(text.substr(0, 40)));
-        expectPassed(text, true);
+        expectPassed(text, text, true);
     }
 }
 
@@ -133,7 +147,18 @@ TEST(ThrowingVisitor, endsTheReadingOfARefusedText)
     for (const std::string& text : refusedDocuments)
     {
         SCOPED_TRACE(testing::PrintToString(text.substr(0, 40)));
-        expectPassed(text, false);
+        expectPassed(text, text, false);
+    }
+}
+
+TEST(ThrowingVisitor, endsTheReadingAmongLinesWithMistakes)
+{
+    const test::TemporaryDirectory directory;
+    for (const std::string& text : test::damagedDocuments)
+    {
+        SCOPED_TRACE(text);
+        expectPassed(text, text, false);
+        expectPassed(FilePath(directory.write("damaged", text)), text, false);
     }
 }
 
@@ -143,12 +168,12 @@ TEST(ThrowingVisitor, endsTheReadingOfAFile)
     for (const std::string& text : acceptedDocuments)
     {
         SCOPED_TRACE(testing::PrintToString(text.substr(0, 40)));
-        expectPassed(FilePath(directory.write("accepted", text)), true);
+        expectPassed(FilePath(directory.write("accepted", text)), text, true);
     }
     for (const std::string& text : refusedDocuments)
     {
         SCOPED_TRACE(testing::PrintToString(text.substr(0, 40)));
-        expectPassed(FilePath(directory.write("refused", text)), false);
+        expectPassed(FilePath(directory.write("refused", text)), text, false);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <mutex>
+#include <utility>
 
 namespace
 {
@@ -12,6 +13,7 @@ namespace
 std::mutex mutex;
 int recorders = 0;
 std::vector<test::LogLine> recorded;
+std::function<void()> observer;
 
 std::string formatted(const char* format, va_list arguments)
 {
@@ -39,6 +41,10 @@ void logInternal(const char* module, const char* sourceFile, const char* functio
     recorded.push_back({module, sourceFile, function, line, level, first, second, format,
                         formatted(format, arguments)});
     va_end(arguments);
+    if (observer)
+    {
+        observer();
+    }
 }
 
 namespace test
@@ -55,6 +61,7 @@ LogRecorder::~LogRecorder()
 {
     const std::lock_guard<std::mutex> lock(mutex);
     --recorders;
+    observer = nullptr;
 }
 
 std::vector<LogLine> LogRecorder::lines() const
@@ -71,6 +78,12 @@ std::vector<std::string> LogRecorder::messages() const
         messages.push_back(line.message);
     }
     return messages;
+}
+
+void LogRecorder::onLine(std::function<void()> called)
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    observer = std::move(called);
 }
 
 } // namespace test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -32,6 +33,9 @@ public:
 
     std::vector<LogLine> lines() const;
     std::vector<std::string> messages() const;
+
+    // Called after each line has been recorded, while this lives; it must not log.
+    void onLine(std::function<void()> observer);
 };
 
 } // namespace test

@@ -28,11 +28,15 @@ StderrCapture::~StderrCapture()
     close(file_);
 }
 
-std::string StderrCapture::text() const
+std::size_t StderrCapture::size() const
 {
     std::fflush(stderr);
-    const off_t length = lseek(file_, 0, SEEK_END);
-    std::string content(static_cast<std::size_t>(length), '\0');
+    return static_cast<std::size_t>(lseek(file_, 0, SEEK_END));
+}
+
+std::string StderrCapture::text() const
+{
+    std::string content(size(), '\0');
     const ssize_t count = pread(file_, content.data(), content.size(), 0);
     content.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
     return content;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace test
@@ -18,6 +19,7 @@ public:
     // What has been written so far, or since it was taken.
     std::string text() const;
     std::string take();
+    std::size_t size() const;
 
 private:
     int saved_ = -1;

@@ -2,54 +2,94 @@
 #include <gtest/gtest.h>
 
 #include <vorn/parsers/toml.h>
-#include <vorn/utils/log.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "reference/reference_pipeline.h"
 #include "support/counting_visitor.h"
+#include "support/damaged_documents.h"
+#include "support/event_recorder.h"
 #include "support/stderr_capture.h"
+#include "support/throwing_logger.h"
 
+using test::LogFailure;
 using vorn::parsers::toml::FilePath;
 using vorn::parsers::toml::visitTomlTree;
 
 namespace
 {
 
-struct LogFailure
+// Where the visitor's calls and the lines of the log stand in one list, these start so.
+const std::string lineMark = "log: ";
+
+bool isLine(const std::string& shown)
 {
-    int line;
-};
+    return shown.rfind(lineMark, 0) == 0;
+}
 
-int lines = 0;
-int throwingLine = 0; // 0: none
-
-// How many lines a reading logs, with the logger throwing at one of them.
+// What a reading shows, in its order, with the logger throwing at one of the lines.
 struct Outcome
 {
-    int lines;
-    int thrownAt;
-    std::size_t calls;
+    int lines = 0;
+    int thrownAt = 0;
+    std::vector<std::string> shown;
+
+    std::ptrdiff_t calls() const
+    {
+        return std::count_if(shown.begin(), shown.end(),
+                             [](const std::string& one) { return !isLine(one); });
+    }
 };
+
+template <typename Source>
+Outcome read(bool (*visit)(const Source&, vorn::parsers::toml::ITomlTreeVisitor&),
+             const Source& source, int line)
+{
+    const test::StderrCapture capture;
+    Outcome outcome;
+    test::EventRecorder visitor;
+    visitor.onEvent([&outcome](const std::string& event) { outcome.shown.push_back(event); });
+    test::onLine([&outcome](const std::string& text) { outcome.shown.push_back(lineMark + text); });
+    test::throwAtLine(line);
+    try
+    {
+        EXPECT_FALSE(visit(source, visitor));
+    }
+    catch (const LogFailure& failure)
+    {
+        outcome.thrownAt = failure.line;
+    }
+    outcome.lines = test::loggedLines();
+    test::throwAtLine(0);
+    test::onLine(nullptr);
+    return outcome;
+}
 
 template <typename Source>
 Outcome read(const Source& source, int line)
 {
-    const test::StderrCapture capture;
-    test::CountingVisitor visitor;
-    lines = 0;
-    throwingLine = line;
-    int thrownAt = 0;
-    try
+    return read<Source>(visitTomlTree, source, line);
+}
+
+// Of what a whole reading shows, what one shows whose logger throws at a line: there are no lines
+// after it, and no calls unless the walk has begun, which goes on to where it ends anyway.
+std::vector<std::string> untilThrown(const std::vector<std::string>& whole, int line)
+{
+    std::vector<std::string> shown;
+    int lines = 0;
+    bool isWalked = false;
+    for (const std::string& one : whole)
     {
-        EXPECT_FALSE(visitTomlTree(source, visitor));
+        if (lines < line || (isWalked && !isLine(one)))
+        {
+            shown.push_back(one);
+        }
+        lines += isLine(one) ? 1 : 0;
+        isWalked = isWalked || (lines < line && !isLine(one));
     }
-    catch (const LogFailure& failure)
-    {
-        thrownAt = failure.line;
-    }
-    throwingLine = 0;
-    return {lines, thrownAt, visitor.calls};
+    return shown;
 }
 
 template <typename Source>
@@ -64,40 +104,48 @@ void expectPassed(const Source& source, int expectedLines)
         const Outcome outcome = read(source, line);
         EXPECT_EQ(outcome.thrownAt, line);
         EXPECT_EQ(outcome.lines, line); // nothing is logged after it
-        EXPECT_LE(outcome.calls, quiet.calls);
+        EXPECT_EQ(outcome.shown, untilThrown(quiet.shown, line));
     }
 }
 
 } // namespace
 
-void logInternal(const char*, const char*, const char*, int, int, int, int, const char*, ...)
-{
-    if (++lines == throwingLine)
-    {
-        throw LogFailure{lines};
-    }
-}
-
 TEST(TomlThrowingLogger, passesItsExceptionWhereverItThrows)
 {
-    expectPassed("a = 1", 1);              // the walk fails
-    expectPassed("a = 1979-05-27 \n", 3);  // the lexer, the parser, the count
-    expectPassed("a = 1 2\n", 3);          // the parser, the tree parser, the count
-    expectPassed("@\na = {}\n@ b c\n", 6); // all three, and the count
-    expectPassed("a = [1,\n\n[2 2\n", 3);  // the parser within arrays
+    const auto expectPassedFor = [](const std::string& text, int lines)
+    { expectPassed(text, lines); };
+    expectPassedFor("a = 1", 1);              // the walk fails
+    expectPassedFor("a = 1979-05-27 \n", 3);  // the lexer, the parser, the count
+    expectPassedFor("a = 1 2\n", 3);          // the parser, the tree parser, the count
+    expectPassedFor("@\na = {}\n@ b c\n", 6); // all three, and the count
+    expectPassedFor("a = [1,\n\n[2 2\n", 3);  // the parser within arrays
     expectPassed(FilePath("/nowhere"), 1);
+}
+
+TEST(TomlThrowingLogger, passesItsExceptionFromAmongValidLines)
+{
+    for (const std::string& document : test::damagedDocuments)
+    {
+        SCOPED_TRACE(document);
+        const Outcome reference = read(reference::visitTomlTree, document, 0);
+        EXPECT_GT(reference.lines, 3);
+        EXPECT_GT(reference.calls(), 0);
+        EXPECT_EQ(read(document, 0).shown, reference.shown);
+        expectPassed(document, reference.lines);
+    }
 }
 
 // The lexer's errors come while the parser runs, and the walk has not begun then.
 TEST(TomlThrowingLogger, endsTheReadingBeforeTheWalk)
 {
-    EXPECT_GT(read("a = 1\n@\n", 0).calls, 0u);
-    EXPECT_EQ(read("a = 1\n@\n", 1).calls, 0u);
+    const std::string document = "a = 1\n@\n";
+    EXPECT_GT(read(document, 0).calls(), 0);
+    EXPECT_EQ(read(document, 1).calls(), 0);
 }
 
 TEST(TomlThrowingLogger, leavesTheNextReadingAlone)
 {
-    read("@\n", 1);
+    read(std::string("@\n"), 1);
     test::CountingVisitor visitor;
     EXPECT_TRUE(visitTomlTree(std::string("a = 1\n"), visitor));
 }
