@@ -204,6 +204,7 @@ TEST(DiagnosisMemory, isAskedForBeforeItIsNeeded)
     toml::diagnosis::DamagedPart part;
     part.part = toml::diagnosis::wholeOf(text);
     const std::string little = "a = 1\n";
+    const toml::diagnosis::ValidLines lines(little);
     std::optional<toml::diagnosis::Mistake> refusal;
     {
         const test::MemoryLimit limit(64 * kilobyte);
@@ -211,7 +212,7 @@ TEST(DiagnosisMemory, isAskedForBeforeItIsNeeded)
         EXPECT_THROW(toml::diagnosis::firstMistake(text, part), std::bad_alloc);
         EXPECT_THROW(toml::diagnosis::recognise(little, toml::diagnosis::wholeOf(little)),
                      std::bad_alloc);
-        refusal = toml::diagnosis::refusedDocument(little);
+        refusal = toml::diagnosis::refusedDocument(little, lines);
     }
     ASSERT_TRUE(refusal);
     EXPECT_STREQ(refusal->code, toml::diagnosis::codes::tooLarge);

@@ -74,7 +74,9 @@ TEST(PipelineObjects, areMadeWithTheirArguments)
     EXPECT_EQ(arguments.lexerInput, spy.created.input);
     EXPECT_EQ(arguments.tokenSource, spy.created.tokenSource);
     EXPECT_EQ(arguments.parserTokens, spy.created.tokens);
-    EXPECT_EQ(arguments.nodesTree, spy.created.document);
+    // An empty list: the trees come later, statement by statement.
+    EXPECT_NE(arguments.nodesTree, nullptr);
+    EXPECT_EQ(arguments.nodesChildren, 0u);
     EXPECT_EQ(arguments.treeNodes, spy.created.nodes);
 }
 
@@ -153,8 +155,8 @@ TEST(PipelineObjects, areFreedBeforeAnExceptionOfTheVisitorArrives)
         {
             EXPECT_EQ(stop.event, last);
             EXPECT_EQ(spy.steps,
-                      joined({{"new input", "new lexer", "new tokens", "new parser", "parse",
-                               "display lexer", "new nodes", "new tree", "walk"},
+                      joined({{"new input", "new lexer", "new tokens", "new parser",
+                               "display lexer", "parse", "new nodes", "new tree", "walk"},
                               release()}));
         }
         EXPECT_EQ(visitor.events(),

@@ -226,6 +226,7 @@ extern "C"
                                                                              ANTLR3_UINT32 hint)
     {
         test::spy->arguments.nodesTree = tree;
+        test::spy->arguments.nodesChildren = tree->getChildCount(tree);
         test::spy->arguments.nodesHint = hint;
         auto* const nodes = test::create<&ANTLR3_COMMON_TREE_NODE_STREAM::free>(
             "nodes", "free nodes", __real_antlr3CommonTreeNodeStreamNewTree, tree, hint);

@@ -32,6 +32,7 @@ struct CreationArguments
     const void* tokenSource = nullptr;
     const void* parserTokens = nullptr;
     const void* nodesTree = nullptr;
+    unsigned nodesChildren = 1;
     ANTLR3_UINT32 nodesHint = 0;
     const void* treeNodes = nullptr;
     const void* visitor = nullptr;
