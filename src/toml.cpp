@@ -30,8 +30,6 @@
 #include "pipeline/token_window.h"
 #include "pipeline/unreported_errors.h"
 #include "reading.h"
-#include "scan/utf8.h"
-#include "grammar/lexer/matching.h"
 
 #include "pipeline/recognisers.h"
 
@@ -47,13 +45,6 @@ struct Report
     HeldException thrown; // by the logger
 };
 
-// What is needed around the runtime's display of a parser's error.
-struct ParserDisplay
-{
-    TemporaryStrings strings;
-    ShownIndex index;
-};
-
 // What is shown and logged of an error, for each kind of recogniser: what is needed around the
 // runtime's own display of it, and the library's line.
 struct RecogniserError
@@ -65,7 +56,10 @@ struct RecogniserError
 
 struct LexerError : RecogniserError
 {
-    PrintableCharacter prepare(Report&) const { return PrintableCharacter(recogniser->state->exception); }
+    PrintableCharacter prepare(Report&) const
+    {
+        return PrintableCharacter(recogniser->state->exception);
+    }
     void operator()(Report&) const
     {
         const OwnedText text = matchedText(static_cast<pANTLR3_LEXER>(recogniser->super));
@@ -177,18 +171,49 @@ int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers
     return static_cast<int>(count);
 }
 
-// The levels of nesting in what is not valid first.
-std::size_t levelsOf(std::string_view text, DirectLines& lines)
+// The walk over a document whose errors have been reported: node stream, tree parser.
+bool visitTomlTree(const StatementNodes::Source& source, bool hasFailed, Report& report)
 {
-    lines.read(lines.read(text.data() + byteOrderMarkLength(text)));
-    return lines.levels();
+    const pANTLR3_BASE_TREE_ADAPTOR adaptor = source.parser->adaptor;
+    auto* const list = static_cast<pANTLR3_BASE_TREE>(adaptor->nilNode(adaptor));
+    const auto nodes = owned(antlr3CommonTreeNodeStreamNewTree(list, nodeBufferHint),
+                             "Failed to create toml node stream");
+    if (nodes == nullptr)
+    {
+        return false;
+    }
+    StatementNodes statements(nodes.get(), source, hasFailed);
+    const auto tree = owned(TomlTreeNew(nodes.get()), "Failed to create toml tree");
+    if (tree == nullptr)
+    {
+        return false;
+    }
+    const pANTLR3_BASE_RECOGNIZER walker = tree->pTreeParser->rec;
+    statements.setWalker(walker);
+    installErrorDisplay<TreeError>(walker, report);
+    const FollowStack follows(walker);
+
+    const bool isVisited = tree->document(tree.get(), source.visitor);
+    report.thrown.pass();
+    if (!isVisited)
+    {
+        VORN_LOG_ERROR("Failed to visit toml tree");
+        return false;
+    }
+    const int errors =
+        countSyntaxErrors({source.lines.lexer()->rec, source.parser->pParser->rec, walker});
+    if (errors != 0)
+    {
+        VORN_LOG_ERROR("Failed: input TOML has %d syntax errors", errors);
+        return false;
+    }
+    return true;
 }
 
-// The pipeline over a document, of which `input` is the stream: lexer, token stream, parser, node
-// stream, tree parser.  They are freed in the reverse order.
-// NOLINTNEXTLINE(readability-function-size): one stage follows the other.
-bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, DirectLines& direct,
-                   ITomlTreeVisitor& visitor, Refusal& refusal)
+// The pipeline over a document, of which `input` is the stream: lexer, token stream, parser, and
+// the walk.  They are freed in the reverse order.
+bool visitTomlTree(ANTLR3_INPUT_STREAM* input, DirectLines& direct, ITomlTreeVisitor& visitor,
+                   Refusal& refusal)
 {
     const auto lexer = owned(TomlLexerNew(input), "Failed to create toml lexer");
     if (lexer == nullptr)
@@ -213,72 +238,32 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, std::string_view text, DirectLine
     installErrorDisplay<LexerError>(lexer->pLexer->rec, report);
     installErrorDisplay<ParserError>(parser->pParser->rec, report);
 
-    // The lexer's errors come first, and only once.
-    std::size_t brackets = 0;
-    lines.forEach([](std::string_view) {}, [&](const ANTLR3_COMMON_TOKEN& token)
-                  { brackets += opensLevel(token.type) ? 1 : 0; });
+    // All errors of the lexer come before those of the parser, and all calls of the visitor after
+    // these.  Nothing is kept from one to the next: the document is lexed and parsed again.
+    const std::size_t brackets = lines.reportErrors();
     const UnreportedErrors unreported(lexer->pLexer->rec);
-    lines.restart();
-    if (!isMemoryLeft(memoryForReading(text.size(), 0, brackets)))
+    if (!isMemoryLeft(memoryForReading(direct.size(), 0, brackets)))
     {
-        refusal.reason = Refusal::Reason::tooLarge;
-        return refuse(refusal, text.size());
+        return refuse(refusal = {Refusal::Reason::tooLarge}, direct.size());
     }
     const Syntax syntax = checkSyntax(*parser, window);
     report.thrown.pass();
     if (syntax.levelsWithoutRoom > 0)
     {
-        refusal = {Refusal::Reason::tooDeep,
-                   std::max(syntax.levelsWithoutRoom,
-                            static_cast<unsigned>(levelsOf(text, direct)))};
-        return refuse(refusal, text.size());
+        const std::size_t levels = std::max(syntax.levelsWithoutRoom, direct.levelsOfInvalid());
+        return refuse(refusal = tooDeep(levels), direct.size());
     }
-
-    // Errors do not stop the walk: the visitor gets what the parser could make out.
     const Scratch<char, 64> buffer(VisitorCalls::bytesFor(direct.longestText()));
-    if (buffer.begin() == nullptr || 
+    if (buffer.begin() == nullptr ||
         !isMemoryLeft(memoryForReading(0, window.longestStatement(), 0)))
     {
-        refusal.reason = Refusal::Reason::tooLarge;
-        return refuse(refusal, text.size());
+        return refuse(refusal = {Refusal::Reason::tooLarge}, direct.size());
     }
+    // Errors do not stop the walk: the visitor gets what the parser could make out.
     startOver(*parser, window);
-    const pANTLR3_BASE_TREE_ADAPTOR adaptor = parser->adaptor;
-    const auto nodes = owned(
-        antlr3CommonTreeNodeStreamNewTree(
-            static_cast<pANTLR3_BASE_TREE>(adaptor->nilNode(adaptor)), nodeBufferHint),
-        "Failed to create toml node stream");
-    if (nodes == nullptr)
-    {
-        return false;
-    }
-    StatementNodes statements(
-        nodes.get(), {parser.get(), window, syntax.followOfLine, lines, visitor, buffer.begin()},
-        syntax.hasFailed);
-    const auto tree = owned(TomlTreeNew(nodes.get()), "Failed to create toml tree");
-    if (tree == nullptr)
-    {
-        return false;
-    }
-    statements.setWalker(tree->pTreeParser->rec);
-    installErrorDisplay<TreeError>(tree->pTreeParser->rec, report);
-    const FollowStack treeFollows(tree->pTreeParser->rec);
-
-    const bool isVisited = tree->document(tree.get(), visitor);
-    report.thrown.pass();
-    if (!isVisited)
-    {
-        VORN_LOG_ERROR("Failed to visit toml tree");
-        return false;
-    }
-    const int errors =
-        countSyntaxErrors({lexer->pLexer->rec, parser->pParser->rec, tree->pTreeParser->rec});
-    if (errors != 0)
-    {
-        VORN_LOG_ERROR("Failed: input TOML has %d syntax errors", errors);
-        return false;
-    }
-    return true;
+    return visitTomlTree(
+        {parser.get(), window, syntax.followOfLine, lines, visitor, buffer.begin()},
+        syntax.hasFailed, report);
 }
 
 // The path's characters.  Clients may come with a path type of their own making that
@@ -320,7 +305,7 @@ bool visitTomlTree(std::string_view text, ITomlTreeVisitor& visitor, Refusal& re
     {
         refusal = reading == DirectReading::outOfMemory || !direct.hasMemory()
                       ? Refusal{Refusal::Reason::tooLarge}
-                      : refusalOf(text.size(), levelsOf(text, direct));
+                      : refusalOf(text.size(), direct.levelsOfInvalid());
         if (refusal)
         {
             return refuse(refusal, text.size());
@@ -328,7 +313,7 @@ bool visitTomlTree(std::string_view text, ITomlTreeVisitor& visitor, Refusal& re
     }
     const auto input =
         owned(canBeStreamed ? openStream(text) : nullptr, "Failed to create toml string stream");
-    return input != nullptr && visitTomlTree(input.get(), text, direct, visitor, refusal);
+    return input != nullptr && visitTomlTree(input.get(), direct, visitor, refusal);
 }
 
 bool visitTomlTree(const FilePath& path, ITomlTreeVisitor& visitor)

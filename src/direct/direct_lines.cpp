@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "read_lines.h"
+#include "scan/utf8.h"
 #include "visitor_calls.h"
 
 namespace vorn::parsers::toml
@@ -27,6 +28,12 @@ const char* DirectLines::read(const char* begin)
               *record_);
     longestText_ = std::max(longestText_, record_->longestText());
     return record_->linesEnd();
+}
+
+std::size_t DirectLines::levelsOfInvalid()
+{
+    read(read(text_.data() + byteOrderMarkLength(text_)));
+    return levels_;
 }
 
 void DirectLines::handTo(ITomlTreeVisitor& visitor, char* buffer)

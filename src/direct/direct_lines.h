@@ -21,6 +21,9 @@ public:
     // For lines of this text, which ends with a NUL and lives as long as this.
     explicit DirectLines(std::string_view text) noexcept;
 
+    // The text's.
+    std::size_t size() const noexcept { return text_.size(); }
+
     // Whether there was memory for it; nothing else may be called if not.
     bool hasMemory() const noexcept;
 
@@ -30,9 +33,9 @@ public:
     // line breaks.
     const char* read(const char* begin);
 
-    // How many arrays and inline tables enclose one another in what was read last, up to where it
-    // is not valid.
-    std::size_t levels() const noexcept { return levels_; }
+    // How many arrays and inline tables enclose one another in the first statement that is not
+    // valid, up to where it is not.
+    std::size_t levelsOfInvalid();
 
     // At least the length of the longest text so far.
     std::size_t longestText() const noexcept { return longestText_; }

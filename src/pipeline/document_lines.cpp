@@ -22,6 +22,15 @@ std::string_view DocumentLines::passValid()
     return {begin, static_cast<std::size_t>(end - begin)};
 }
 
+std::size_t DocumentLines::reportErrors()
+{
+    std::size_t brackets = 0;
+    forEach([](std::string_view) {},
+            [&](const ANTLR3_COMMON_TOKEN& token) { brackets += opensLevel(token.type) ? 1 : 0; });
+    restart();
+    return brackets;
+}
+
 pANTLR3_COMMON_TOKEN DocumentLines::nextToken()
 {
     // The token takes the place of the one before it.

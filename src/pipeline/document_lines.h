@@ -39,6 +39,10 @@ public:
     std::size_t longestText() const noexcept { return direct_.longestText(); }
     void handTo(ITomlTreeVisitor& visitor, char* buffer) { direct_.handTo(visitor, buffer); }
 
+    // Has the lexer report its errors, and goes back to the start.  Returns how many brackets there
+    // are that open an array or an inline table, in lines that are not valid.
+    std::size_t reportErrors();
+
     // Goes over the rest of the document: calls `onValid` with the text of valid lines, and
     // `onToken` with each token of the other ones, which the next one replaces.
     template <typename OnValid, typename OnToken>

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "document_lines.h"
+#include "error_display.h"
 #include "runtime_text.h"
 #include "token_window.h"
 
@@ -52,6 +53,13 @@ public:
 private:
     pANTLR3_COMMON_TOKEN token_;
     decltype(ANTLR3_COMMON_TOKEN::index) index_;
+};
+
+// What is needed around the runtime's display of a parser's error.
+struct ParserDisplay
+{
+    TemporaryStrings strings;
+    ShownIndex index;
 };
 
 } // namespace vorn::parsers::toml

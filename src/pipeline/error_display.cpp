@@ -46,8 +46,7 @@ void forgetConjured(pANTLR3_BASE_RECOGNIZER parser) noexcept
     // Otherwise the next token in the same place gets its text into the string of this one.
     for (ANTLR3_INT32 pool = 0; pool <= factory->thisPool; ++pool)
     {
-        const auto used =
-            pool == factory->thisPool ? factory->nextToken : ANTLR3_FACTORY_POOL_SIZE;
+        const auto used = pool == factory->thisPool ? factory->nextToken : ANTLR3_FACTORY_POOL_SIZE;
         for (auto* token = factory->pools[pool]; token != factory->pools[pool] + used; ++token)
         {
             token->textState = ANTLR3_TEXT_NONE;

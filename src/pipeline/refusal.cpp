@@ -12,8 +12,8 @@ Refusal refusalOf(std::size_t size, std::size_t levels)
     {
         return {Refusal::Reason::tooLarge};
     }
-    const auto number = static_cast<unsigned>(levels);
-    return mayHaveRoomForLevels(number) ? Refusal{} : Refusal{Refusal::Reason::tooDeep, number};
+    const Refusal refusal = tooDeep(levels);
+    return mayHaveRoomForLevels(refusal.levels) ? Refusal{} : refusal;
 }
 
 } // namespace vorn::parsers::toml

@@ -21,8 +21,14 @@ struct Refusal
     explicit operator bool() const noexcept { return reason != Reason::none; }
 };
 
-// What can be said before the recognisers exist, of a document of this size: in what they read first
-// arrays and inline tables are nested as deeply as this.
+// The reason of the stack, for so many levels.
+inline Refusal tooDeep(std::size_t levels) noexcept
+{
+    return {Refusal::Reason::tooDeep, static_cast<unsigned>(levels)};
+}
+
+// What can be said before the recognisers exist, of a document of this size: in what they read
+// first arrays and inline tables are nested as deeply as this.
 Refusal refusalOf(std::size_t size, std::size_t levels);
 
 } // namespace vorn::parsers::toml

@@ -13,7 +13,7 @@ namespace vorn::parsers::toml
 struct Syntax
 {
     bool hasFailed;                   // the document's rule, so that nothing of it can be walked
-    unsigned levelsWithoutRoom;       // as FollowStack has them
+    std::size_t levelsWithoutRoom;    // as FollowStack has them
     pANTLR3_BITSET_LIST followOfLine; // what may follow a line, for StatementNodes
 };
 

@@ -9,8 +9,7 @@ namespace vorn::parsers::toml
 {
 
 TokenWindow::TokenWindow(pANTLR3_COMMON_TOKEN_STREAM tokens, DocumentLines& lines) noexcept
-    : tokens_(tokens), lines_(lines),
-      keptStrings_(tokens->tstream->tokenSource->strFactory->index)
+    : tokens_(tokens), lines_(lines), keptStrings_(tokens->tstream->tokenSource->strFactory->index)
 {
     tokens->super = this;
     tokens->p = 0;
@@ -132,7 +131,8 @@ void TokenWindow::setIndexOf(const ANTLR3_COMMON_TOKEN& token, std::size_t index
 
 TokenWindow& TokenWindow::of(pANTLR3_TOKEN_STREAM stream) noexcept
 {
-    return *static_cast<TokenWindow*>(static_cast<pANTLR3_COMMON_TOKEN_STREAM>(stream->super)->super);
+    return *static_cast<TokenWindow*>(
+        static_cast<pANTLR3_COMMON_TOKEN_STREAM>(stream->super)->super);
 }
 
 pANTLR3_COMMON_TOKEN TokenWindow::lookAhead(pANTLR3_TOKEN_STREAM stream, ANTLR3_INT32 place)

@@ -44,7 +44,8 @@ public:
     // How many tokens were taken between two lines, at most.
     std::size_t longestStatement() const noexcept
     {
-        return std::max(longestStatement_, static_cast<std::size_t>(std::min(tokens_->p, end_) - statement_));
+        return std::max(longestStatement_,
+                        static_cast<std::size_t>(std::min(tokens_->p, end_) - statement_));
     }
 
     // The index in the document of a token that the parser knows.  One that was missing has none.
@@ -76,8 +77,14 @@ private:
     Lexed& at(Index index) noexcept { return window_[static_cast<std::size_t>(index) % places]; }
     // Whether there is a token of this index.
     bool reach(Index index);
-    pANTLR3_COMMON_TOKEN endOfInput() const noexcept { return &tokens_->tstream->tokenSource->eofToken; }
-    pANTLR3_TOKEN_FACTORY factory() const noexcept { return lines_.lexer()->rec->state->tokFactory; }
+    pANTLR3_COMMON_TOKEN endOfInput() const noexcept
+    {
+        return &tokens_->tstream->tokenSource->eofToken;
+    }
+    pANTLR3_TOKEN_FACTORY factory() const noexcept
+    {
+        return lines_.lexer()->rec->state->tokFactory;
+    }
 
     static constexpr std::size_t places = 8;
     // After all tokens that a document can have.
@@ -92,7 +99,7 @@ private:
     pANTLR3_BASE_RECOGNIZER parser_ = nullptr; // whose tokens are recycled, if they are
     ANTLR3_COMMON_TOKEN ofError_;
     std::array<char, 32> textOfError_; // where it is one that was missing
-    Index statement_ = 0; // where it started
+    Index statement_ = 0;              // where it started
     std::size_t longestStatement_ = 0;
     std::string_view uncounted_; // lines that were passed last
     std::size_t passedTokens_ = 0;

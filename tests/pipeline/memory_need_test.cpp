@@ -11,8 +11,8 @@
 #include <vector>
 
 using vorn::parsers::toml::isMemoryLeft;
-using vorn::parsers::toml::memoryForReading;
 using vorn::parsers::toml::memoryForLexing;
+using vorn::parsers::toml::memoryForReading;
 
 namespace
 {
@@ -82,10 +82,8 @@ TEST(MemoryNeed, growsByAnAmountForEachByteTokenAndBracket)
     {
         EXPECT_EQ(memoryForLexing(count) - memoryForLexing(0), count);
         EXPECT_EQ(memoryForReading(count, 0, 0) - none, count * (memoryForReading(1, 0, 0) - none));
-        EXPECT_EQ(memoryForReading(0, count, 0) - none,
-                  count * (memoryForReading(0, 1, 0) - none));
-        EXPECT_EQ(memoryForReading(0, 0, count) - none,
-                  count * (memoryForReading(0, 0, 1) - none));
+        EXPECT_EQ(memoryForReading(0, count, 0) - none, count * (memoryForReading(0, 1, 0) - none));
+        EXPECT_EQ(memoryForReading(0, 0, count) - none, count * (memoryForReading(0, 0, 1) - none));
     }
 }
 
@@ -123,12 +121,9 @@ TEST(MemoryNeed, neverBecomesLessWhereItNoLongerFits)
         EXPECT_LE(memoryForLexing(less), memoryForLexing(more)) << more;
         for (const std::size_t other : amounts)
         {
-            EXPECT_LE(memoryForReading(less, other, other),
-                      memoryForReading(more, other, other));
-            EXPECT_LE(memoryForReading(other, less, other),
-                      memoryForReading(other, more, other));
-            EXPECT_LE(memoryForReading(other, other, less),
-                      memoryForReading(other, other, more));
+            EXPECT_LE(memoryForReading(less, other, other), memoryForReading(more, other, other));
+            EXPECT_LE(memoryForReading(other, less, other), memoryForReading(other, more, other));
+            EXPECT_LE(memoryForReading(other, other, less), memoryForReading(other, other, more));
         }
     }
 }

@@ -65,12 +65,12 @@ TEST(PipelineDisplays, ofTheFirstRecognisersAreCalledBeforeEachLogLine)
         expectDriverLog(log.lines(), {lexerFailure("@"), parserFailure("\na={}\n"), treeFailure(),
                                       syntaxErrors(3)});
         EXPECT_EQ(linesBefore, std::vector<std::size_t>({0, 1, 2}));
-        EXPECT_EQ(spy.steps,
-                  Steps({"new input",    "new lexer",     "new tokens",     "new parser",
-                         "display lexer", "parse",        "display parser", "new nodes",
-                         "new tree",     "walk",          "display tree",   "count lexer",
-                         "count parser", "count tree",    "free tree",      "free nodes",
-                         "free parser",  "free tokens",   "free lexer",     "close input"}));
+        EXPECT_EQ(
+            spy.steps,
+            Steps({"new input",    "new lexer",      "new tokens",   "new parser", "display lexer",
+                   "parse",        "display parser", "new nodes",    "new tree",   "walk",
+                   "display tree", "count lexer",    "count parser", "count tree", "free tree",
+                   "free nodes",   "free parser",    "free tokens",  "free lexer", "close input"}));
     }
 }
 
