@@ -11,10 +11,10 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <ctime>
 #include <stdexcept>
 #include <string>
 
+#include "processor_time.h"
 #include "tests/support/large_documents.h"
 
 namespace
@@ -44,13 +44,6 @@ struct Report
     double milliseconds;
     std::size_t lines;
 };
-
-double processorMilliseconds()
-{
-    timespec time = {};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
 
 // The number of lines logged, or of findings; and whether the document was accepted.
 std::size_t used(const std::string& text, Use use, bool& accepted)
@@ -109,7 +102,7 @@ Cost costOfChild(const Document& document, std::size_t size, Use use)
     rusage usage = {};
     if (wait4(child, &status, 0, &usage) != child || !told || !report.asExpected)
     {
-        throw std::runtime_error(std::string(document.name) + ": not read as expected");
+        throw std::runtime_error(document.name + ": not read as expected");
     }
     return {report.milliseconds, usage.ru_maxrss, report.lines};
 }

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "service_text.h"
+
 namespace bench
 {
 namespace
@@ -14,31 +16,6 @@ using Part = std::string (*)(unsigned number);
 std::string numbered(const char* text, unsigned number)
 {
     return text + std::to_string(number);
-}
-
-// A service's configuration: a little of everything.
-std::string service(unsigned number)
-{
-    return "[[service]]\n"
-           "name = \"" +
-           numbered("collector-", number) +
-           "\"  # as systemd knows it\n"
-           "command = '/usr/bin/collectd --config \"/etc/collectd.conf\"'\n"
-           "enabled = true\n"
-           "priority = " +
-           std::to_string(number % 40) +
-           "\n"
-           "ports = [8080, 8443, 9_000]\n"
-           "timeout = 2.5\n"
-           "limits = { memory = \"128M\", files = 1_024, cpu = 0.5 }\n"
-           "started = 2024-03-14T09:26:53Z\n"
-           "env.LANG = \"en_US.UTF-8\"\n"
-           "env.HOME = \"/var/lib/collectd\"\n"
-           "\n"
-           "[service.restart]\n"
-           "policy = \"on-failure\"\n"
-           "delays = [ 0.5, 1.0, 5.0, 30.0 ]\n"
-           "\n";
 }
 
 // A string of about 1 KB.
@@ -163,7 +140,7 @@ std::string randomTable(unsigned number)
 // One part of each kind.  Where keys stand in no table of their own they get one.
 std::string mixed(unsigned number)
 {
-    return service(number) + smallTable(number) + datedEntry(number) +
+    return serviceText(number) + smallTable(number) + datedEntry(number) +
            numbered("\n[part-", number) + "]\n" + numberArray(number) + longString(number);
 }
 
@@ -187,7 +164,7 @@ std::string repeat(Part part, std::size_t size)
 std::vector<Document> documents()
 {
     const std::pair<const char*, Part> kinds[] = {
-        {"services", service},        {"long-strings", longString}, {"number-arrays", numberArray},
+        {"services", serviceText},    {"long-strings", longString}, {"number-arrays", numberArray},
         {"small-tables", smallTable}, {"dates", datedEntry},        {"random-tables", randomTable}};
     const std::pair<const char*, std::size_t> sizes[] = {
         {"1KB", 1'000}, {"100KB", 100'000}, {"1MB", 1'000'000}};

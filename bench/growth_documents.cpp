@@ -1,5 +1,6 @@
 #include "growth_documents.h"
 
+#include "service_text.h"
 #include "tests/support/large_documents.h"
 
 namespace bench
@@ -12,6 +13,39 @@ std::string mixedThen(std::size_t size, const std::string& after)
 {
     const std::string lines = test::mixedDocument(0);
     return test::enclosed("", lines, size / lines.size() + 1, after);
+}
+
+// Services around a line.
+std::string servicesAround(std::size_t sizeBefore, const std::string& line, std::size_t sizeAfter)
+{
+    std::string text;
+    unsigned number = 0;
+    const auto appendServices = [&](std::size_t end)
+    {
+        while (text.size() < end)
+        {
+            text += serviceText(number++);
+        }
+    };
+    appendServices(sizeBefore);
+    text += line;
+    appendServices(text.size() + sizeAfter);
+    return text;
+}
+
+void appendMistake(std::vector<Document>& documents, const std::string& kind,
+                   const std::string& line)
+{
+    const std::string name = kind + ", `" + line + "`, ";
+    const std::string text = line + '\n';
+    const std::size_t size = 100 * kilobyte;
+    documents.push_back({name + "first line", false, size,
+                         [text](std::size_t all) { return servicesAround(0, text, all); }});
+    documents.push_back({name + "middle", false, size, [text](std::size_t all) {
+                             return servicesAround(all / 2, text, all / 2);
+                         }});
+    documents.push_back({name + "last line", false, size,
+                         [text](std::size_t all) { return servicesAround(all, text, 0); }});
 }
 
 } // namespace
@@ -81,6 +115,34 @@ std::vector<Document> largestDocuments()
         {"`@`", false, megabyte, [](std::size_t size) { return test::repeated("@", size); }},
         {"`=`", false, megabyte, [](std::size_t size) { return test::repeated("=", size); }},
     };
+}
+
+std::vector<Document> documentsWithMistakes()
+{
+    std::vector<Document> documents;
+    appendMistake(documents, "after a value", "b = 1 2");
+    appendMistake(documents, "in a key", "a b = 1");
+    appendMistake(documents, "in an array", "a = [1 2]");
+    appendMistake(documents, "in a string", R"(a = "x\q")");
+    appendMistake(documents, "a bad character", "a = @");
+    documents.push_back({"in an array, `a = [1 2]`, last line", false, 10 * megabyte,
+                         [](std::size_t size) { return servicesAround(size, "a = [1 2]\n", 0); }});
+    for (const std::string line : {"a 1", "a = {}", "'"})
+    {
+        documents.push_back({"all lines `" + line + "`", false, 100 * kilobyte,
+                             [line](std::size_t size)
+                             { return test::repeated(line + '\n', size / (line.size() + 1)); }});
+    }
+    documents.push_back(
+        {"`a=` and two line breaks", false, 4, [](std::size_t) { return std::string("a=\n\n"); }});
+    return documents;
+}
+
+Document validDocument(std::size_t size)
+{
+    return size > 4 ? Document{"services", true, size,
+                               [](std::size_t all) { return servicesAround(all, "", 0); }}
+                    : Document{"`a=1`", true, size, [](std::size_t) { return "a=1\n"; }};
 }
 
 std::vector<Document> mistakenDocuments()

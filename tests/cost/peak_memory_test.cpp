@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <vorn/parsers/toml.h>
+#include <vorn/utils/log.h>
 
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -12,6 +13,13 @@
 
 #include "support/counting_visitor.h"
 #include "support/large_documents.h"
+#include "support/memory_peak.h"
+
+// In the place of the utility library's: a line may hold the whole document, and what a logger
+// takes for it is not the library's.
+void logInternal(const char*, const char*, const char*, int, int, int, int, const char*, ...)
+{
+}
 
 namespace
 {
@@ -54,6 +62,35 @@ void expectLittle(const std::string& what, const MakeText& makeText, std::size_t
     EXPECT_LE(taken, static_cast<long>(longestText / 1024) + megabyte) << what;
 }
 
+// In bytes, of a document that is rejected, but not for its size: the visitor gets what there is.
+std::size_t peakOfRejected(const MakeText& makeText, test::Heap heap = test::Heap::fresh)
+{
+    const auto isRejected = [](const std::string& text)
+    {
+        test::CountingVisitor visitor;
+        return !vorn::parsers::toml::visitTomlTree(text, visitor) && visitor.calls > 0;
+    };
+    return static_cast<std::size_t>(test::peakBesideText(makeText, isRejected, heap)) * 1024;
+}
+
+// A mistake of each stage and of each part of a line.
+constexpr const char* mistakes[] = {"b = 1 2\n", "a b = 1\n", "a = [1 2]\n", "a = \"x\\q\"\n",
+                                    "a = @\n"};
+
+constexpr const char* fourBytes[] = {"a=\n\n", "a=@\n", "= 1\n", "a 1\n"};
+
+class PeakMemoryOfRejected : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (!test::canMeasurePeaks())
+        {
+            GTEST_SKIP() << "the kernel does not tell a process's peak from some moment on";
+        }
+    }
+};
+
 } // namespace
 
 TEST(PeakMemory, isAtMostAMegabyteAboveTheText)
@@ -79,4 +116,59 @@ TEST(PeakMemory, takesTheLongestScalarOnceMore)
         "a long string", [] { return test::enclosed("a = '", "x", size, "'\n"); }, size);
     expectLittle(
         "a long key", [] { return test::enclosed("", "x", size, " = 1\n"); }, size);
+}
+
+TEST_F(PeakMemoryOfRejected, isAtMostTwentyTimesTheTextForOneMistake)
+{
+    constexpr std::size_t textSize = 100'000;
+    for (const std::string line : mistakes)
+    {
+        EXPECT_LE(peakOfRejected([&] { return test::mixedDocument(textSize) + line; }),
+                  20 * textSize)
+            << line << "in the last line";
+        const auto half = [] { return test::mixedDocument(textSize / 2); };
+        EXPECT_LE(peakOfRejected([&] { return half() + line + half(); }), 20 * textSize)
+            << line << "in the middle";
+    }
+}
+
+TEST_F(PeakMemoryOfRejected, isBelow64MegabytesForOneMistakeAfterTen)
+{
+    EXPECT_LT(peakOfRejected([] { return test::mixedDocument(size) + "a = [1 2]\n"; }),
+              64'000'000u);
+}
+
+// What the recognisers make of a line is there until the document has been read.  Programs that
+// read documents of others are told to stop at some 100 KB: with these bounds 64 MB are enough for
+// the worst of them.
+TEST_F(PeakMemoryOfRejected, isBoundedForEachLineThatIsBad)
+{
+    struct BadLine
+    {
+        std::string text;
+        std::size_t maxBytes;
+    };
+    for (const BadLine& line : {BadLine{"a 1\n", 1'840}, {"a = {}\n", 4'400}, {"'\n", 790}})
+    {
+        const std::size_t count = 100'000 / line.text.size();
+        EXPECT_LE(peakOfRejected([&] { return test::repeated(line.text, count); }),
+                  line.maxBytes * count)
+            << line.text;
+    }
+}
+
+TEST_F(PeakMemoryOfRejected, isAtMost128KilobytesForFourBytes)
+{
+    for (const std::string text : fourBytes)
+    {
+        EXPECT_LE(peakOfRejected([&] { return text; }), 128u * 1024) << text;
+    }
+}
+
+TEST_F(PeakMemoryOfRejected, isNoMoreWhereTheHeapClearsWhatItHas)
+{
+    for (const std::string text : fourBytes)
+    {
+        EXPECT_LE(peakOfRejected([&] { return text; }, test::Heap::used), 128u * 1024) << text;
+    }
 }
