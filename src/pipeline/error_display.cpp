@@ -43,14 +43,17 @@ void forgetConjured(pANTLR3_BASE_RECOGNIZER parser) noexcept
     {
         return;
     }
-    // Otherwise the next token in the same place gets its text into the string of this one.
-    for (ANTLR3_INT32 pool = 0; pool <= factory->thisPool; ++pool)
+    // One that has been reset would free its first pool only.
+    if (factory->maxPool > 0)
     {
-        const auto used = pool == factory->thisPool ? factory->nextToken : ANTLR3_FACTORY_POOL_SIZE;
-        for (auto* token = factory->pools[pool]; token != factory->pools[pool] + used; ++token)
-        {
-            token->textState = ANTLR3_TEXT_NONE;
-        }
+        factory->close(factory);
+        parser->state->tokFactory = nullptr;
+        return;
+    }
+    // Otherwise the next token in the same place gets its text into the string of this one.
+    for (ANTLR3_UINT32 index = 0; index < factory->nextToken; ++index)
+    {
+        factory->pools[0][index].textState = ANTLR3_TEXT_NONE;
     }
     factory->reset(factory);
 }
