@@ -21,7 +21,6 @@
 #include "pipeline/follow_stack.h"
 #include "pipeline/held_exception.h"
 #include "pipeline/input_stream.h"
-#include "pipeline/memory_need.h"
 #include "pipeline/owned.h"
 #include "pipeline/refusal.h"
 #include "pipeline/runtime_text.h"
@@ -238,14 +237,15 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, DirectLines& direct, ITomlTreeVis
     installErrorDisplay<LexerError>(lexer->pLexer->rec, report);
     installErrorDisplay<ParserError>(parser->pParser->rec, report);
 
-    // All errors of the lexer come before those of the parser, and all calls of the visitor after
-    // these.  Nothing is kept from one to the next: the document is lexed and parsed again.
-    const std::size_t brackets = lines.reportErrors();
-    const UnreportedErrors unreported(lexer->pLexer->rec);
-    if (!isMemoryLeft(memoryForReading(direct.size(), 0, brackets)))
+    if (!hasMemory(*parser, lines, window))
     {
         return refuse(refusal = {Refusal::Reason::tooLarge}, direct.size());
     }
+
+    // All errors of the lexer come before those of the parser, and all calls of the visitor after
+    // these.  Nothing is kept from one to the next: the document is lexed and parsed again.
+    lines.reportErrors();
+    const UnreportedErrors unreported(lexer->pLexer->rec);
     const Syntax syntax = checkSyntax(*parser, window);
     report.thrown.pass();
     if (syntax.levelsWithoutRoom > 0)
@@ -254,8 +254,7 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, DirectLines& direct, ITomlTreeVis
         return refuse(refusal = tooDeep(levels), direct.size());
     }
     const Scratch<char, 64> buffer(VisitorCalls::bytesFor(direct.longestText()));
-    if (buffer.begin() == nullptr ||
-        !isMemoryLeft(memoryForReading(0, window.longestStatement(), 0)))
+    if (buffer.begin() == nullptr)
     {
         return refuse(refusal = {Refusal::Reason::tooLarge}, direct.size());
     }
