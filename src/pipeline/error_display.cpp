@@ -26,6 +26,16 @@ void forgetStrings(pANTLR3_STRING_FACTORY factory, ANTLR3_UINT32 kept)
     }
 }
 
+int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers)
+{
+    ANTLR3_UINT32 count = 0;
+    for (const pANTLR3_BASE_RECOGNIZER recogniser : recognisers)
+    {
+        count += recogniser->getNumberOfSyntaxErrors(recogniser);
+    }
+    return static_cast<int>(count);
+}
+
 void forgetEarlierErrors(pANTLR3_BASE_RECOGNIZER recogniser) noexcept
 {
     const pANTLR3_EXCEPTION last = recogniser->state->exception;
