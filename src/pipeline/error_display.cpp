@@ -81,8 +81,8 @@ pANTLR3_STRING_FACTORY prepareDisplay(pANTLR3_PARSER parser) noexcept
 pANTLR3_STRING_FACTORY prepareDisplay(pANTLR3_TREE_PARSER parser) noexcept
 {
     auto* const tree = static_cast<pANTLR3_BASE_TREE>(parser->rec->state->exception->token);
-    // (A node that is none of a tree has no token.)
-    if (tree->getToken(tree) != nullptr)
+    // (A node that is kept has a text of its own.)
+    if (tree->getToken != nullptr)
     {
         tree->toStringTree = toStringTree;
     }

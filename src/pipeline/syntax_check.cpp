@@ -15,6 +15,7 @@ namespace
 {
 
 // Passes over valid lines, and forgets what the parser has got for the one before.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): it is destroyed as what it is.
 class PassedLines : public LineStarts
 {
 public:

@@ -8,6 +8,7 @@
 namespace vorn::parsers::toml
 {
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): what has no value yet is not looked at.
 TokenWindow::TokenWindow(pANTLR3_COMMON_TOKEN_STREAM tokens, DocumentLines& lines) noexcept
     : tokens_(tokens), lines_(lines), keptStrings_(tokens->tstream->tokenSource->strFactory->index)
 {
