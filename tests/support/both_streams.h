@@ -66,9 +66,10 @@ public:
     WindowPipeline& pipeline() { return windows_; }
     vorn::parsers::toml::TokenWindow& window() { return windows_.window(); }
 
-    ANTLR3_UINT32 count() const
+    // How many tokens there are.
+    ANTLR3_MARKER count() const
     {
-        return runtimes_.tokens()->tstream->istream->size(runtimes()->istream);
+        return static_cast<ANTLR3_MARKER>(runtimes()->istream->size(runtimes()->istream));
     }
 
     void expectSame() const
