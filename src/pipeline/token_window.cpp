@@ -128,6 +128,7 @@ void TokenWindow::countPassed() noexcept
 
 void TokenWindow::setIndexOf(const ANTLR3_COMMON_TOKEN& token, std::size_t index) noexcept
 {
+    // The index of a kept one says nothing of what was passed.
     if (!isKept(token))
     {
         passedTokens_ = index - static_cast<std::size_t>(token.index);

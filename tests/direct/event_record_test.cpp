@@ -73,6 +73,9 @@ public:
         return static_cast<std::size_t>(end - ends_.begin());
     }
 
+    // Where the last line ends, whether it is kept or not.
+    const char* end() const { return ends_.back(); }
+
     // What the visitor gets when the rest is read again.
     void expectHandedOver()
     {
@@ -244,6 +247,53 @@ TEST(EventRecord, knowsTheLongestTextWhetherItWasKeptOrNot)
         EXPECT_EQ(full.record().longestText(), length);
         full.expectHandedOver();
     }
+}
+
+TEST(EventRecord, knowsWhereTheLastLineEndsWhetherItWasKeptOrNot)
+{
+    for (const std::vector<Line>& lines : std::vector<std::vector<Line>>{
+             {}, {{1}}, {{1}, {2}}, {Line(20, 1)}, {{1}, Line(20, 1)}, {Line(20, 1), {1}, {2}}})
+    {
+        Recording recording(8);
+        recording.writeAll(lines);
+        EXPECT_EQ(recording.record().linesEnd(), recording.end());
+        // What is handed over ends with the kept ones, until the others come again.
+        const std::size_t kept = recording.kept();
+        recording.expectHandedOver();
+        EXPECT_EQ(recording.record().linesEnd(), recording.end()) << kept << " were kept";
+    }
+}
+
+// A line that does not end is none, be it the first that the record has no room for or a later one.
+TEST(EventRecord, doesNotKnowTheEndOfALineThatHasNone)
+{
+    std::vector<RecordEntry> entries(EventRecord::entriesFor(4));
+    EventRecord record(entries.data(), entries.size(), document.data());
+    EventWriter writer(record);
+    const char* at = document.data();
+    const auto writeLine = [&](std::size_t count)
+    {
+        writer.keyOfPair(Event::visitBareKey, {at, 1});
+        for (; count > 0; --count)
+        {
+            at += 2;
+            writer.text(Event::visitInteger, {at, 1});
+        }
+        at += 2;
+    };
+    writeLine(1);
+    EXPECT_EQ(record.linesEnd(), document.data());
+    writer.lineEnd(at);
+    const char* const first = at;
+    EXPECT_EQ(record.linesEnd(), first);
+    writeLine(20);
+    EXPECT_EQ(record.linesEnd(), first);
+    writer.lineEnd(at);
+    const char* const second = at;
+    EXPECT_EQ(record.linesEnd(), second);
+    EXPECT_EQ(record.position(), first);
+    writeLine(1);
+    EXPECT_EQ(record.linesEnd(), second);
 }
 
 TEST(EventRecord, isBounded)

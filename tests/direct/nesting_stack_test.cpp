@@ -3,7 +3,9 @@
 
 #include "direct/nesting_stack.h"
 
+#include <cstddef>
 #include <random>
+#include <utility>
 #include <vector>
 
 using vorn::parsers::toml::Inside;
@@ -103,4 +105,42 @@ TEST(NestingStack, hasRoomForALevelInEveryTwoBytes)
             EXPECT_EQ(stack.inside(), Inside::firstElement);
         }
     }
+}
+
+TEST(NestingStack, countsTheLevelsThatWereEnteredAtOnceAtMost)
+{
+    std::size_t max = 0;
+    std::vector<NestingStack::Word> words(NestingStack::wordsFor(100));
+    NestingStack stack(words.data(), 100, &max);
+    EXPECT_EQ(max, 0u);
+    for (const auto& [entered, expected] : std::vector<std::pair<std::size_t, std::size_t>>{
+             {1, 1}, {3, 3}, {2, 3}, {17, 17}, {4, 17}})
+    {
+        for (std::size_t level = 0; level < entered; ++level)
+        {
+            ASSERT_TRUE(stack.enter(Inside::firstElement));
+        }
+        EXPECT_EQ(max, expected);
+        for (std::size_t level = 0; level < entered; ++level)
+        {
+            stack.leave();
+        }
+        EXPECT_EQ(max, expected);
+    }
+    // Another one goes on with it.
+    NestingStack next(words.data(), 100, &max);
+    ASSERT_TRUE(next.enter(Inside::pair));
+    EXPECT_EQ(max, 17u);
+}
+
+TEST(NestingStack, countsNoLevelThatItHasNoRoomFor)
+{
+    std::size_t max = 0;
+    std::vector<NestingStack::Word> words(NestingStack::wordsFor(6));
+    NestingStack stack(words.data(), 6, &max);
+    while (stack.enter(Inside::inlineTable))
+    {
+    }
+    EXPECT_FALSE(stack.enter(Inside::inlineTable));
+    EXPECT_EQ(max, 3u);
 }

@@ -183,6 +183,32 @@ TEST(TokenCursor, ofLineBreaksAreTakenIfTheyAreNext)
     }
 }
 
+// Bytes that are not ASCII may be a malformed line break, with which the lexer goes on: \xC0\x8A is
+// one in two bytes, \xF8\x80\x80\x80\x8A in five.
+TEST(TokenCursor, ofLineBreaksAreNotTakenWhereTheyMayGoOn)
+{
+    for (const std::string lineBreaks : {"\n", "\r\n", "\n\n", "\n\r\n", "# c\n"})
+    {
+        for (const std::string after : {"\xc0\x8a", "\xf8\x80\x80\x80\x8a", "\xc3\xa9",
+                                        "\xe2\x82\xac", "\x80", "\xff", "\xc0"})
+        {
+            const std::size_t start = lineBreaks.find_first_of("\r\n");
+            for (const std::string blank : {"", " "})
+            {
+                const std::string text = lineBreaks + blank + after;
+                SCOPED_TRACE(testing::PrintToString(text));
+                test::GuardedMemory memory(text.size() + 1);
+                const char* const begin = memory.holdTerminated(text);
+                TokenCursor scanned(begin, memory.terminator());
+                // A blank between them ends the token.
+                EXPECT_EQ(scanned.takeNewline(), !blank.empty());
+                EXPECT_EQ(scanned.position(),
+                          begin + (blank.empty() ? start : lineBreaks.size() + 1));
+            }
+        }
+    }
+}
+
 TEST(TokenCursor, haveTheTextWhereItStands)
 {
     const std::string text = " key = 'value' # c\n";

@@ -2,6 +2,7 @@
 // runtime, fail.
 #include <gtest/gtest.h>
 
+#include "pipeline/document_text.h"
 #include "pipeline/error_display.h"
 #include "pipeline/node_texts.h"
 #include "pipeline/runtime_text.h"
@@ -23,8 +24,8 @@
 #include "support/reading.h"
 #include "support/tree_text.h"
 
-#include "support/parser_pipeline.h"
 #include "support/tree_pipeline.h"
+#include "support/window_pipeline.h"
 
 using namespace vorn::parsers::toml;
 
@@ -130,9 +131,54 @@ TEST(FailingCalls, leaveNoTexts)
     const std::string text = "a = 1\n";
     const test::ParserPipeline pipeline(text);
     const pANTLR3_LEXER lexer = pipeline.lexer().get()->pLexer;
-    const pANTLR3_TOKEN_STREAM tokens = pipeline.tokens()->tstream;
-    tokens->_LT(tokens, 1); // has the lexer go over its text
+    pipeline.lexer().next(); // the text is that of a token
     EXPECT_EQ(resultWithout(Call::malloc, [lexer] { return matchedText(lexer); }), nullptr);
+    EXPECT_STREQ(matchedText(lexer).get(), "a ");
+}
+
+TEST(FailingCalls, leaveReportsWithoutTheTextOfTheDocument)
+{
+    const std::string text = "a = 1\nb = = 1\n";
+    test::WindowPipeline pipeline(text);
+    DocumentText document(pipeline.lines(), pipeline.window());
+    pipeline.window().enterLine();
+    const pANTLR3_TOKEN_STREAM stream = pipeline.stream();
+    for (const ANTLR3_INT32 place : {1, 2})
+    {
+        const pANTLR3_COMMON_TOKEN token = stream->_LT(stream, place);
+        const auto index = resultWithout(Call::malloc, [&] { return document.indexOf(*token); });
+        EXPECT_EQ(index, static_cast<std::size_t>(3 + place));
+        EXPECT_STREQ(document.characters(), "");
+    }
+    // Later there may be memory again.
+    EXPECT_EQ(document.indexOf(*stream->_LT(stream, 2)), 5u);
+    EXPECT_STREQ(document.characters(), "a=1\nb==1\n");
+}
+
+// The token of an error that is reported once more has its index already.
+TEST(FailingCalls, leaveIndicesThatWereFoundWithoutTheText)
+{
+    const std::string text = "a = 1\nb = = 1\nc = 2\n= 3\n";
+    test::WindowPipeline pipeline(text);
+    DocumentText document(pipeline.lines(), pipeline.window());
+    const pANTLR3_TOKEN_STREAM stream = pipeline.stream();
+    const pANTLR3_BASE_RECOGNIZER parser = pipeline.recogniser();
+    pipeline.window().recycleFor(parser);
+    pipeline.window().enterLine();
+    antlr3RecognitionExceptionNew(parser);
+    const auto indexOfError = [&] {
+        return document.indexOf(
+            *static_cast<pANTLR3_COMMON_TOKEN>(parser->state->exception->token));
+    };
+    EXPECT_EQ(resultWithout(Call::malloc, indexOfError), 4u);
+    for (int step = 0; step < 5; ++step)
+    {
+        stream->istream->consume(stream->istream);
+    }
+    EXPECT_EQ(pipeline.window().enterLine(), "c = 2\n");
+    EXPECT_EQ(indexOfError(), 4u);
+    EXPECT_STREQ(document.characters(), "a=1\nb==1\nc=2\n=3\n");
+    EXPECT_EQ(document.indexOf(*stream->_LT(stream, 1)), 13u);
 }
 
 TEST(FailingCalls, leaveTheTextsOfNodesToTheRuntime)

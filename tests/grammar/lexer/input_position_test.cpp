@@ -1,5 +1,5 @@
-// Going back in an input whose text lies in the middle of the address space, where
-// addresses, read as signed numbers of 32 bits, turn negative.
+// Places of an input: going over its text at once; going back where it lies in the middle of the
+// address space, where addresses, read as signed numbers of 32 bits, turn negative.
 #include <gtest/gtest.h>
 
 #include <sys/mman.h>
@@ -8,9 +8,15 @@
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "grammar/lexer/input_position.h"
+#include "support/text_generator.h"
+
+// The parser has a token type of this name.
+#undef NAN
+
 #include "support/lexer.h"
 
 namespace
@@ -103,6 +109,14 @@ Reading read(pANTLR3_UINT8 text, std::size_t size)
     return second;
 }
 
+// All that an input knows of its place.
+using Place = std::tuple<const void*, ANTLR3_UINT32, ANTLR3_INT32, const void*>;
+
+Place placeOf(const ANTLR3_INPUT_STREAM& input)
+{
+    return {input.nextChar, input.line, input.charPositionInLine, input.currentLine};
+}
+
 } // namespace
 
 TEST(InputPosition, isFoundAgainInTheMiddleOfTheAddressSpace)
@@ -118,5 +132,62 @@ TEST(InputPosition, isFoundAgainInTheMiddleOfTheAddressSpace)
     for (std::size_t before = 0; before <= text.size(); ++before)
     {
         EXPECT_EQ(read(memory.hold(text, before), text.size()), elsewhere) << before;
+    }
+}
+
+// Whole tokens and whole lines are passed over at once: afterwards the input must be as if the
+// runtime had consumed their characters.
+TEST(InputPosition, advancesAsIfEachCharacterWasConsumed)
+{
+    const std::vector<std::string> characters = {"a",
+                                                 "b",
+                                                 " ",
+                                                 "\n",
+                                                 "\r\n",
+                                                 "\t",
+                                                 std::string(1, '\0'),
+                                                 "\xc3\xa9",
+                                                 "\xe2\x82\xac",
+                                                 "\xef\xbb\xbf",
+                                                 "\xf0\x9f\x98\x80"};
+    test::TextGenerator texts;
+    for (int count = 0; count < 3000; ++count)
+    {
+        std::string text = "^"; // no byte order mark comes first
+        std::vector<std::size_t> ends;
+        for (std::size_t left = texts.below(40); left > 0; --left)
+        {
+            text += texts.oneOf(characters);
+            if (texts.below(4) == 0)
+            {
+                ends.push_back(text.size());
+            }
+        }
+        ends.push_back(text.size());
+        SCOPED_TRACE(testing::PrintToString(text));
+        const test::InputStream consumed = test::openInput(text);
+        const test::InputStream advanced = test::openInput(text);
+        for (const std::size_t end : ends)
+        {
+            while (consumed->nextChar != text.data() + end)
+            {
+                consumed->istream->consume(consumed->istream);
+            }
+            vorn::parsers::toml::advance(*advanced, text.data() + end);
+            ASSERT_EQ(placeOf(*advanced), placeOf(*consumed)) << "at " << end;
+        }
+    }
+}
+
+TEST(InputPosition, staysWhereNothingIsPassed)
+{
+    const std::string text = "a\nbc";
+    const test::InputStream input = test::openInput(text);
+    for (const std::size_t end : {0u, 1u, 2u, 4u, 5u})
+    {
+        vorn::parsers::toml::advance(*input, text.data() + end);
+        const Place before = placeOf(*input);
+        vorn::parsers::toml::advance(*input, text.data() + end);
+        EXPECT_EQ(placeOf(*input), before);
     }
 }
