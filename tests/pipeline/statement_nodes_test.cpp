@@ -259,6 +259,29 @@ TEST(StatementNodes, takeNoMemoryThatGrowsWithTheDocument)
     }
 }
 
+// The runtime does that for each error, which takes long in deep arrays.
+TEST(StatementNodes, areMadeWithoutGoingOverAllThatMayFollow)
+{
+    static std::size_t looks = 0;
+    for (const std::string opening : {"[x,", "{a 1, b=", "[[],"})
+    {
+        SCOPED_TRACE(opening);
+        const test::StderrCapture quiet;
+        const std::string text = test::enclosed("a=", opening, 100, "\nb.c 1\n");
+        test::EventRecorder visitor;
+        test::StatementWalk statements(text, visitor);
+        const pANTLR3_STACK following = statements.pipeline().recogniser()->state->following;
+        following->get = [](pANTLR3_STACK stack, ANTLR3_INTKEY key)
+        {
+            ++looks;
+            return stack->vector->get(stack->vector, static_cast<ANTLR3_UINT32>(key));
+        };
+        looks = 0;
+        statements.walk();
+        EXPECT_EQ(looks, 0u);
+    }
+}
+
 TEST(StatementNodes, areFreedWhereAVisitorThrows)
 {
     const test::StderrCapture quiet;
