@@ -242,7 +242,7 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, DirectLines& direct, ITomlTreeVis
     // these.  Nothing is kept from one to the next: the document is lexed and parsed again.
     const std::size_t brackets = lines.reportErrors();
     const UnreportedErrors unreported(lexer->pLexer->rec);
-    if (!isMemoryLeft(memoryForReading(direct.size(), 0, brackets)))
+    if (!isMemoryLeft(memoryForChecking(direct.text(), brackets)))
     {
         return refuse(refusal = {Refusal::Reason::tooLarge}, direct.size());
     }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "pipeline/error_display.h"
+#include "pipeline/memory_need.h"
 
 #include "support/large_documents.h"
 #include "support/memory_in_use.h"
@@ -21,6 +22,7 @@
 
 using vorn::parsers::toml::checkSyntax;
 using vorn::parsers::toml::forgetEarlierErrors;
+using vorn::parsers::toml::memoryForChecking;
 using vorn::parsers::toml::startOver;
 using vorn::parsers::toml::Syntax;
 
@@ -60,6 +62,20 @@ std::vector<std::string> samples()
     return texts;
 }
 
+// The texts of the tokens that errors are about.
+using Texts = std::vector<std::string>;
+
+void collectTexts(pANTLR3_BASE_RECOGNIZER recogniser, Texts& texts)
+{
+    recogniser->state->userp = &texts;
+    recogniser->displayRecognitionError = [](pANTLR3_BASE_RECOGNIZER failed, pANTLR3_UINT8*)
+    {
+        auto* const token = static_cast<pANTLR3_COMMON_TOKEN>(failed->state->exception->token);
+        static_cast<Texts*>(failed->state->userp)
+            ->push_back(vorn::parsers::toml::characters(token->getText(token)));
+    };
+}
+
 // What a check on a small stack finds.
 Syntax checkedOnSmallStack(const std::string& text, test::ErrorKinds& errors)
 {
@@ -72,6 +88,18 @@ Syntax checkedOnSmallStack(const std::string& text, test::ErrorKinds& errors)
                        syntax = checkSyntax(*pipeline.parser(), pipeline.window());
                    });
     return syntax;
+}
+
+// How much more memory the heap holds for a parser after a check than before.
+std::size_t heldByCheck(const std::string& text)
+{
+    test::WindowPipeline pipeline(text);
+    pipeline.recogniser()->displayRecognitionError =
+        [](pANTLR3_BASE_RECOGNIZER failed, pANTLR3_UINT8*) { forgetEarlierErrors(failed); };
+    const std::size_t before = test::memoryInUse();
+    checkSyntax(*pipeline.parser(), pipeline.window());
+    startOver(*pipeline.parser(), pipeline.window());
+    return test::memoryInUse() - before;
 }
 
 } // namespace
@@ -115,6 +143,41 @@ TEST(SyntaxCheck, isFollowedByTheSameTreesWithoutAnotherReport)
     }
 }
 
+// The runtime takes the error of the first line for that of the second.
+TEST(SyntaxCheck, hasTheTextOfAMissingTokenThatIsReportedAgain)
+{
+    for (const std::string text : {"a.b 1\nc = [1 2]\n", "[[t]\nc = [1 2]\nd.e 3\nc = [1 2]\n",
+                                   "a.b 1\nd = 4\n# c\nc = {e.f 1, g = [1 2]}\n"})
+    {
+        SCOPED_TRACE(testing::PrintToString(text));
+        Texts expected;
+        {
+            const test::ParserPipeline pipeline(text);
+            collectTexts(pipeline.recogniser(), expected);
+            pipeline.parser()->document(pipeline.parser());
+        }
+        Texts texts;
+        test::WindowPipeline pipeline(text);
+        collectTexts(pipeline.recogniser(), texts);
+        checkSyntax(*pipeline.parser(), pipeline.window());
+        EXPECT_EQ(texts, expected);
+        ASSERT_GT(texts.size(), 1u);
+        EXPECT_EQ(texts[1], texts[0]);
+        EXPECT_EQ(texts[0].substr(0, 9), "<missing ");
+    }
+}
+
+TEST(SyntaxCheck, passesOverValidLines)
+{
+    const std::string valid = test::repeated("b = [1, 2, 3]\n[t]\n", 50);
+    const std::string text = valid + "a 1\n" + valid + "a = 1 2\n";
+    Checked checked(text);
+    EXPECT_EQ(checked.errors.size(), 2u);
+    // No longer than one of the lines that are not valid.
+    EXPECT_GE(checked.pipeline.window().longestStatement(), 3u);
+    EXPECT_LE(checked.pipeline.window().longestStatement(), 5u);
+}
+
 TEST(SyntaxCheck, tellsWhatFollowsALine)
 {
     for (const std::string& text : samples())
@@ -146,19 +209,16 @@ TEST(SyntaxCheck, tellsAtHowManyLevelsTheStackEnded)
 
 TEST(SyntaxCheck, holdsNoMemoryThatGrowsWithTheDocument)
 {
-    const auto heldBy = [](const std::string& text)
-    {
-        test::WindowPipeline pipeline(text);
-        pipeline.recogniser()->displayRecognitionError =
-            [](pANTLR3_BASE_RECOGNIZER failed, pANTLR3_UINT8*) { forgetEarlierErrors(failed); };
-        const std::size_t before = test::memoryInUse();
-        checkSyntax(*pipeline.parser(), pipeline.window());
-        startOver(*pipeline.parser(), pipeline.window());
-        return test::memoryInUse() - before;
-    };
     for (const std::string line : {"a = 1\n", "a 1\n", "a = {}\n", "]\n", "a == [1, 2, 3]\n"})
     {
         SCOPED_TRACE(testing::PrintToString(line));
-        EXPECT_LE(heldBy(test::repeated(line, 10'000)), heldBy(test::repeated(line, 100)) + 4096);
+        EXPECT_LE(heldByCheck(test::repeated(line, 10'000)),
+                  heldByCheck(test::repeated(line, 100)) + 4096);
     }
+    const auto statement = [](std::size_t elements)
+    { return test::enclosed("a = [", "1, ", elements, "}\n"); };
+    // Of a statement there are the lists of the runtime, not the tokens.
+    const std::string many = statement(10'000);
+    EXPECT_LE(heldByCheck(many),
+              heldByCheck(statement(100)) + memoryForChecking(many, 0) - memoryForChecking("", 0));
 }
