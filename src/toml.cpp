@@ -1,8 +1,6 @@
 #include <fcntl.h>
 
 #include <algorithm>
-#include <cstring>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -12,6 +10,7 @@
 #include "direct/direct_lines.h"
 #include "direct/direct_reader.h"
 #include "file_content.h"
+#include "file_path.h"
 #include "log.h"
 #include "pipeline/buffer_hints.h"
 #include "pipeline/deferred_cancellation.h"
@@ -21,7 +20,6 @@
 #include "pipeline/follow_stack.h"
 #include "pipeline/held_exception.h"
 #include "pipeline/input_stream.h"
-#include "pipeline/memory_need.h"
 #include "pipeline/owned.h"
 #include "pipeline/refusal.h"
 #include "pipeline/runtime_text.h"
@@ -161,16 +159,6 @@ bool refuse(const Refusal& refusal, std::size_t size, const char* function = __b
     return false;
 }
 
-int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers)
-{
-    ANTLR3_UINT32 count = 0;
-    for (const pANTLR3_BASE_RECOGNIZER recogniser : recognisers)
-    {
-        count += recogniser->getNumberOfSyntaxErrors(recogniser);
-    }
-    return static_cast<int>(count);
-}
-
 // The walk over a document whose errors have been reported: node stream, tree parser.
 bool visitTomlTree(const StatementNodes::Source& source, bool hasFailed, Report& report)
 {
@@ -238,14 +226,15 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, DirectLines& direct, ITomlTreeVis
     installErrorDisplay<LexerError>(lexer->pLexer->rec, report);
     installErrorDisplay<ParserError>(parser->pParser->rec, report);
 
-    // All errors of the lexer come before those of the parser, and all calls of the visitor after
-    // these.  Nothing is kept from one to the next: the document is lexed and parsed again.
-    const std::size_t brackets = lines.reportErrors();
-    const UnreportedErrors unreported(lexer->pLexer->rec);
-    if (!isMemoryLeft(memoryForChecking(direct.text(), brackets)))
+    if (!hasMemory(*parser, lines, window))
     {
         return refuse(refusal = {Refusal::Reason::tooLarge}, direct.size());
     }
+
+    // All errors of the lexer come before those of the parser, and all calls of the visitor after
+    // these.  Nothing is kept from one to the next: the document is lexed and parsed again.
+    lines.reportErrors();
+    const UnreportedErrors unreported(lexer->pLexer->rec);
     const Syntax syntax = checkSyntax(*parser, window);
     report.thrown.pass();
     if (syntax.levelsWithoutRoom > 0)
@@ -254,8 +243,7 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, DirectLines& direct, ITomlTreeVis
         return refuse(refusal = tooDeep(levels), direct.size());
     }
     const Scratch<char, 64> buffer(VisitorCalls::bytesFor(direct.longestText()));
-    if (buffer.begin() == nullptr ||
-        !isMemoryLeft(memoryForReading(0, window.longestStatement(), 0)))
+    if (buffer.begin() == nullptr)
     {
         return refuse(refusal = {Refusal::Reason::tooLarge}, direct.size());
     }
@@ -264,16 +252,6 @@ bool visitTomlTree(ANTLR3_INPUT_STREAM* input, DirectLines& direct, ITomlTreeVis
     return visitTomlTree(
         {parser.get(), window, syntax.followOfLine, lines, visitor, buffer.begin()},
         syntax.hasFailed, report);
-}
-
-// The path's characters.  Clients may come with a path type of their own making that
-// starts, like ours, with a pointer to NUL-terminated characters.
-const char* charactersOf(const FilePath& path)
-{
-    const char* text = nullptr;
-    static_assert(sizeof(path) >= sizeof(text));
-    std::memcpy(&text, static_cast<const void*>(&path), sizeof(text));
-    return text;
 }
 
 } // namespace
@@ -288,31 +266,27 @@ bool visitTomlTree(const std::string& text, ITomlTreeVisitor& visitor)
 
 bool visitTomlTree(std::string_view text, ITomlTreeVisitor& visitor, Refusal& refusal)
 {
-    const bool canBeStreamed = isStreamable(text);
-    DirectReading reading = DirectReading::refused;
-    if (canBeStreamed)
+    constexpr const char* noStream = "Failed to create toml string stream";
+    if (!isStreamable(text))
     {
-        reading = readDirectly(text, visitor);
-        if (reading == DirectReading::accepted)
-        {
-            return true;
-        }
+        return owned<ANTLR3_INPUT_STREAM>(nullptr, noStream) != nullptr;
+    }
+    const DirectReading reading = readDirectly(text, visitor);
+    if (reading == DirectReading::accepted)
+    {
+        return true;
     }
     // Otherwise nothing has been called: the recognisers read what is not valid, and say what is
     // wrong with it, if they can.
-    DirectLines direct(canBeStreamed ? text : std::string_view());
-    if (canBeStreamed)
+    DirectLines direct(text);
+    refusal = reading == DirectReading::outOfMemory || !direct.hasMemory()
+                  ? Refusal{Refusal::Reason::tooLarge}
+                  : refusalOf(text.size(), direct.levelsOfInvalid());
+    if (refusal)
     {
-        refusal = reading == DirectReading::outOfMemory || !direct.hasMemory()
-                      ? Refusal{Refusal::Reason::tooLarge}
-                      : refusalOf(text.size(), direct.levelsOfInvalid());
-        if (refusal)
-        {
-            return refuse(refusal, text.size());
-        }
+        return refuse(refusal, text.size());
     }
-    const auto input =
-        owned(canBeStreamed ? openStream(text) : nullptr, "Failed to create toml string stream");
+    const auto input = owned(openStream(text), noStream);
     return input != nullptr && visitTomlTree(input.get(), direct, visitor, refusal);
 }
 

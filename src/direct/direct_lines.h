@@ -21,7 +21,7 @@ public:
     // For lines of this text, which ends with a NUL and lives as long as this.
     explicit DirectLines(std::string_view text) noexcept;
 
-    std::string_view text() const noexcept { return text_; }
+    // The text's.
     std::size_t size() const noexcept { return text_.size(); }
 
     // Whether there was memory for it; nothing else may be called if not.

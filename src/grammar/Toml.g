@@ -39,6 +39,23 @@ tokens {
     VAL_INLINE_TABLE;
 }
 
+@parser::postinclude {
+#include "grammar/construction.h"
+}
+
+// The end of the constructor.
+@parser::apifuncs {
+    if (PARSER == NULL || !isStateMade(PSRSTATE) || !isAdaptorMade(ADAPTOR) ||
+        !areVectorsMade(ctx->vectors))
+    {
+        freeVectors(ctx->vectors);
+        freeAdaptor(ADAPTOR);
+        freeParser(PARSER, state);
+        ANTLR3_FREE(ctx);
+        return NULL;
+    }
+}
+
 // ---------------------------------------------------------------------------
 // Document, lines and keys
 // ---------------------------------------------------------------------------

@@ -25,6 +25,21 @@ options {
 #include "grammar/tree_actions.h"
 }
 
+@postinclude {
+#include "grammar/construction.h"
+}
+
+// The end of the constructor.
+@apifuncs {
+    if (PARSER == NULL || !isStateMade(PSRSTATE) || !isStackMade(instream->nodeStack))
+    {
+        forgetUnmade(&instream->nodeStack);
+        freeTreeParser(PARSER, state);
+        ANTLR3_FREE(ctx);
+        return NULL;
+    }
+}
+
 // The reaction of the structural rules.
 @rulecatch {
     if (HASEXCEPTION())

@@ -3,6 +3,15 @@
 namespace vorn::parsers::toml
 {
 
+// A factory frees the pools up to the one that it is using, which is an earlier one now that it has
+// been set back.
+DocumentLines::~DocumentLines()
+{
+    const pANTLR3_TOKEN_FACTORY factory = lexer_->rec->state->tokFactory;
+    factory->thisPool = factory->maxPool;
+    factory->nextToken = 0;
+}
+
 std::string_view DocumentLines::passValid()
 {
     ANTLR3_INPUT_STREAM& input = *lexer_->input;

@@ -25,6 +25,10 @@ public:
     {
     }
 
+    DocumentLines(const DocumentLines&) = delete;
+    DocumentLines& operator=(const DocumentLines&) = delete;
+    ~DocumentLines();
+
     pANTLR3_LEXER lexer() const noexcept { return lexer_; }
 
     // Goes back to the start.

@@ -26,6 +26,16 @@ void forgetStrings(pANTLR3_STRING_FACTORY factory, ANTLR3_UINT32 kept)
     }
 }
 
+int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers)
+{
+    ANTLR3_UINT32 count = 0;
+    for (const pANTLR3_BASE_RECOGNIZER recogniser : recognisers)
+    {
+        count += recogniser->getNumberOfSyntaxErrors(recogniser);
+    }
+    return static_cast<int>(count);
+}
+
 void forgetEarlierErrors(pANTLR3_BASE_RECOGNIZER recogniser) noexcept
 {
     const pANTLR3_EXCEPTION last = recogniser->state->exception;
@@ -43,14 +53,17 @@ void forgetConjured(pANTLR3_BASE_RECOGNIZER parser) noexcept
     {
         return;
     }
-    // Otherwise the next token in the same place gets its text into the string of this one.
-    for (ANTLR3_INT32 pool = 0; pool <= factory->thisPool; ++pool)
+    // One that has been reset would free its first pool only.
+    if (factory->maxPool > 0)
     {
-        const auto used = pool == factory->thisPool ? factory->nextToken : ANTLR3_FACTORY_POOL_SIZE;
-        for (auto* token = factory->pools[pool]; token != factory->pools[pool] + used; ++token)
-        {
-            token->textState = ANTLR3_TEXT_NONE;
-        }
+        factory->close(factory);
+        parser->state->tokFactory = nullptr;
+        return;
+    }
+    // Otherwise the next token in the same place gets its text into the string of this one.
+    for (ANTLR3_UINT32 index = 0; index < factory->nextToken; ++index)
+    {
+        factory->pools[0][index].textState = ANTLR3_TEXT_NONE;
     }
     factory->reset(factory);
 }
@@ -68,8 +81,8 @@ pANTLR3_STRING_FACTORY prepareDisplay(pANTLR3_PARSER parser) noexcept
 pANTLR3_STRING_FACTORY prepareDisplay(pANTLR3_TREE_PARSER parser) noexcept
 {
     auto* const tree = static_cast<pANTLR3_BASE_TREE>(parser->rec->state->exception->token);
-    // (A node that is none of a tree has no token.)
-    if (tree->getToken(tree) != nullptr)
+    // (A node that is kept has a text of its own.)
+    if (tree->getToken != nullptr)
     {
         tree->toStringTree = toStringTree;
     }

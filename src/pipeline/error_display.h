@@ -4,6 +4,8 @@
 
 #include <antlr3.h>
 
+#include <initializer_list>
+
 namespace vorn::parsers::toml
 {
 
@@ -63,6 +65,9 @@ private:
     pANTLR3_STRING_FACTORY factory_;
     ANTLR3_UINT32 kept_;
 };
+
+// How many errors the recognisers have counted, one after the other.
+int countSyntaxErrors(std::initializer_list<pANTLR3_BASE_RECOGNIZER> recognisers);
 
 // Frees the exceptions before the last one.  The runtime keeps them all, unused.
 void forgetEarlierErrors(pANTLR3_BASE_RECOGNIZER recogniser) noexcept;

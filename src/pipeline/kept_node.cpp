@@ -12,7 +12,6 @@ KeptNode::KeptNode(pANTLR3_STRING_FACTORY strings) noexcept : ANTLR3_BASE_TREE()
         return factory->newStr8(
             factory, reinterpret_cast<pANTLR3_UINT8>(const_cast<char*>(orEmpty(of(node).text_))));
     };
-    getToken = [](pANTLR3_BASE_TREE) -> pANTLR3_COMMON_TOKEN { return nullptr; };
     getCharPositionInLine = [](pANTLR3_BASE_TREE node) { return of(node).column_; };
 }
 

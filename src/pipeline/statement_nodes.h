@@ -31,8 +31,8 @@ public:
         char* buffer; // for texts of valid lines
     };
 
-    // Replaces what the stream does, which has not been used.  If the document as a whole has
-    // failed there is but one node.
+    // Replaces what the stream does, which has not been used; the source lives as long as this.  If
+    // the document as a whole has failed there is but one node.
     StatementNodes(pANTLR3_COMMON_TREE_NODE_STREAM nodes, const Source& source, bool hasFailed);
     StatementNodes(const StatementNodes&) = delete;
     StatementNodes& operator=(const StatementNodes&) = delete;
@@ -55,7 +55,7 @@ private:
     void makeStatement();
 
     pANTLR3_COMMON_TREE_NODE_STREAM nodes_;
-    const Source source_;
+    const Source& source_;
     const FollowStack follows_; // the parser's
     decltype(ANTLR3_INT_STREAM::_LA) runtimeTypeAhead_;
     pANTLR3_BASE_RECOGNIZER walker_ = nullptr;

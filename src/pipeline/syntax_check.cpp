@@ -1,8 +1,12 @@
 #include "syntax_check.h"
 
+#include <string_view>
+
 #include "error_display.h"
 #include "follow_stack.h"
+#include "memory_need.h"
 #include "no_tree.h"
+#include "unreported_errors.h"
 
 #include "recognisers.h"
 
@@ -13,6 +17,7 @@ namespace
 {
 
 // Passes over valid lines, and forgets what the parser has got for the one before.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): it is destroyed as what it is.
 class PassedLines : public LineStarts
 {
 public:
@@ -46,6 +51,29 @@ Syntax checkSyntax(TomlParser& parser, TokenWindow& tokens)
     tokens.recycleFor(parser.pParser->rec);
     const pANTLR3_BASE_TREE document = parser.document(&parser).tree;
     return {noTree.isOfFailure(document), follows.levelsWithoutRoom(), lines.follow()};
+}
+
+bool hasMemory(TomlParser& parser, DocumentLines& lines, TokenWindow& tokens)
+{
+    const std::size_t size = lines.lexer()->input->sizeBuf;
+    if (isMemoryLeft(memoryForReading(size, size, size)))
+    {
+        return true;
+    }
+    const pANTLR3_BASE_RECOGNIZER recogniser = parser.pParser->rec;
+    const UnreportedErrors ofLexer(lines.lexer()->rec);
+    const UnreportedErrors ofParser(recogniser);
+    const std::size_t brackets = lines.reportErrors();
+    const std::string_view document(static_cast<const char*>(lines.lexer()->input->data), size);
+    if (!isMemoryLeft(memoryForChecking(document, brackets)))
+    {
+        return false;
+    }
+    checkSyntax(parser, tokens);
+    const std::size_t longest = tokens.longestStatement();
+    recogniser->reset(recogniser);
+    tokens.restart();
+    return isMemoryLeft(memoryForReading(size, longest, brackets));
 }
 
 void startOver(TomlParser& parser, TokenWindow& tokens)

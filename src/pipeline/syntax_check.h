@@ -20,6 +20,10 @@ struct Syntax
 // Has the parser report the errors of a whole document, without trees.
 Syntax checkSyntax(TomlParser_Ctx_struct& parser, TokenWindow& tokens);
 
+// Whether there is the memory that a document needs.  Where there is not enough for any of its
+// size, that takes to lex and to parse it, without a word about errors.
+bool hasMemory(TomlParser_Ctx_struct& parser, DocumentLines& lines, TokenWindow& tokens);
+
 // Sets the parser back, to make trees; it does not report the errors again.
 void startOver(TomlParser_Ctx_struct& parser, TokenWindow& tokens);
 

@@ -8,6 +8,7 @@
 namespace vorn::parsers::toml
 {
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): what has no value yet is not looked at.
 TokenWindow::TokenWindow(pANTLR3_COMMON_TOKEN_STREAM tokens, DocumentLines& lines) noexcept
     : tokens_(tokens), lines_(lines), keptStrings_(tokens->tstream->tokenSource->strFactory->index)
 {
@@ -23,6 +24,9 @@ void TokenWindow::restart() noexcept
     tokens_->p = 0;
     end_ = 0;
     statement_ = 0;
+    longestStatement_ = 0;
+    uncounted_ = {};
+    passedTokens_ = 0;
     parser_ = nullptr;
     lines_.restart();
     factory()->reset(factory());
@@ -96,8 +100,7 @@ void TokenWindow::keepTokenOfError() noexcept
     if (ofError_.textState == ANTLR3_TEXT_STRING)
     {
         const std::string_view text = characters(ofError_.tokText.text);
-        textOfError_ = {};
-        text.copy(textOfError_.data(), textOfError_.size() - 1);
+        textOfError_[text.copy(textOfError_.data(), textOfError_.size() - 1)] = '\0';
         ofError_.textState = ANTLR3_TEXT_CHARP;
         ofError_.tokText.chars = reinterpret_cast<pANTLR3_UCHAR>(textOfError_.data());
     }
@@ -125,8 +128,11 @@ void TokenWindow::countPassed() noexcept
 
 void TokenWindow::setIndexOf(const ANTLR3_COMMON_TOKEN& token, std::size_t index) noexcept
 {
-    passedTokens_ = index - static_cast<std::size_t>(token.index);
-    uncounted_ = {};
+    if (!isKept(token))
+    {
+        passedTokens_ = index - static_cast<std::size_t>(token.index);
+        uncounted_ = {};
+    }
 }
 
 TokenWindow& TokenWindow::of(pANTLR3_TOKEN_STREAM stream) noexcept

@@ -19,6 +19,10 @@ bool isCounting = false;
 long requestCount = 0;
 long firstFailure = 0;
 long lastFailure = 0;
+std::size_t failingSize = 0; // 0: none
+long requestsOfSize = 0;
+long firstFailureOfSize = 0;
+long lastFailureOfSize = 0;
 
 // Where the runtime's code is.
 struct Range
@@ -53,8 +57,22 @@ Range findRuntime()
 
 Range runtime;
 
-bool fails(const void* caller)
+bool isFailingSize(std::size_t size)
 {
+    if (failingSize == 0 || size != failingSize)
+    {
+        return false;
+    }
+    ++requestsOfSize;
+    return requestsOfSize >= firstFailureOfSize && requestsOfSize <= lastFailureOfSize;
+}
+
+bool fails(const void* caller, std::size_t size)
+{
+    if (isFailingSize(size))
+    {
+        return true;
+    }
     const auto address = reinterpret_cast<std::uintptr_t>(caller);
     return (address < runtime.begin || address >= runtime.end) && test::hasToFail();
 }
@@ -85,17 +103,19 @@ extern "C"
 
     void* malloc(std::size_t size)
     {
-        return fails(__builtin_return_address(0)) ? failure() : counted(__libc_malloc(size));
+        return fails(__builtin_return_address(0), size) ? failure() : counted(__libc_malloc(size));
     }
 
     void* calloc(std::size_t count, std::size_t size)
     {
-        return fails(__builtin_return_address(0)) ? failure() : counted(__libc_calloc(count, size));
+        return fails(__builtin_return_address(0), count * size)
+                   ? failure()
+                   : counted(__libc_calloc(count, size));
     }
 
     void* realloc(void* memory, std::size_t size)
     {
-        if (fails(__builtin_return_address(0)))
+        if (fails(__builtin_return_address(0), size))
         {
             return failure();
         }
@@ -105,8 +125,8 @@ extern "C"
 
     void* aligned_alloc(std::size_t alignment, std::size_t size)
     {
-        return fails(__builtin_return_address(0)) ? failure()
-                                                  : counted(__libc_memalign(alignment, size));
+        return fails(__builtin_return_address(0), size) ? failure()
+                                                        : counted(__libc_memalign(alignment, size));
     }
 
     void free(void* memory)
@@ -147,6 +167,30 @@ bool FailingMemory::hasFailed() const
 }
 
 long FailingMemory::blocks() const
+{
+    return blockCount - blocksBefore_;
+}
+
+FailingBlock::FailingBlock(std::size_t size, long number, Failing failing)
+    : blocksBefore_(blockCount)
+{
+    requestsOfSize = 0;
+    firstFailureOfSize = number;
+    lastFailureOfSize = failing == Failing::once ? number : std::numeric_limits<long>::max();
+    failingSize = size;
+}
+
+FailingBlock::~FailingBlock()
+{
+    failingSize = 0;
+}
+
+bool FailingBlock::hasFailed() const
+{
+    return requestsOfSize >= firstFailureOfSize;
+}
+
+long FailingBlock::blocks() const
 {
     return blockCount - blocksBefore_;
 }

@@ -1,6 +1,8 @@
 // Memory that fails as told.  Linking this replaces malloc() and its like.
 #pragma once
 
+#include <cstddef>
+
 namespace test
 {
 
@@ -28,6 +30,24 @@ public:
 
 private:
     long number_;
+    long blocksBefore_;
+};
+
+// While this lives, of the requests for blocks of this size, the runtime's too, the one with this
+// number fails.
+class FailingBlock
+{
+public:
+    FailingBlock(std::size_t size, long number, Failing failing = Failing::once);
+    FailingBlock(const FailingBlock&) = delete;
+    FailingBlock& operator=(const FailingBlock&) = delete;
+    ~FailingBlock();
+
+    bool hasFailed() const;
+    // The blocks that have been had since then and are not given back.
+    long blocks() const;
+
+private:
     long blocksBefore_;
 };
 

@@ -130,6 +130,8 @@ TEST(FailingCalls, leaveNoTexts)
     const std::string text = "a = 1\n";
     const test::ParserPipeline pipeline(text);
     const pANTLR3_LEXER lexer = pipeline.lexer().get()->pLexer;
+    const pANTLR3_TOKEN_STREAM tokens = pipeline.tokens()->tstream;
+    tokens->_LT(tokens, 1); // has the lexer go over its text
     EXPECT_EQ(resultWithout(Call::malloc, [lexer] { return matchedText(lexer); }), nullptr);
 }
 

@@ -50,12 +50,15 @@ public:
     StatementWalk(const std::string& text, vorn::parsers::toml::ITomlTreeVisitor& visitor)
         : pipeline_(text), syntax_(checked()),
           buffer_(vorn::parsers::toml::VisitorCalls::bytesFor(pipeline_.lines().longestText())),
+          source_{pipeline_.parser(),
+                  pipeline_.window(),
+                  syntax_.followOfLine,
+                  pipeline_.lines(),
+                  visitor,
+                  buffer_.data()},
           nodes_(antlr3CommonTreeNodeStreamNewTree(list(), 100)),
-          statements_(nodes_.get(),
-                      {pipeline_.parser(), pipeline_.window(), syntax_.followOfLine,
-                       pipeline_.lines(), visitor, buffer_.data()},
-                      syntax_.hasFailed),
-          walker_(TomlTreeNew(nodes_.get())), visitor_(visitor)
+          statements_(nodes_.get(), source_, syntax_.hasFailed), walker_(TomlTreeNew(nodes_.get())),
+          visitor_(visitor)
     {
         statements_.setWalker(recogniser());
     }
@@ -88,6 +91,7 @@ private:
     WindowPipeline pipeline_;
     vorn::parsers::toml::Syntax syntax_;
     std::vector<char> buffer_;
+    const vorn::parsers::toml::StatementNodes::Source source_;
     Nodes nodes_;
     vorn::parsers::toml::StatementNodes statements_;
     Walker walker_;

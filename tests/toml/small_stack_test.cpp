@@ -58,7 +58,7 @@ TEST(TomlSmallStack, readsSomeLevelsAndRefusesMore)
     {
         SCOPED_TRACE(levels);
         const std::string text =
-            "a = " + std::string(levels, '[') + '1' + std::string(levels, ']') + "\nb\n";
+            "a = " + std::string(levels, '[') + '1' + std::string(levels, ']') + " b\n";
         const test::Reading reading = readOnThread(text, stackSize);
         EXPECT_FALSE(reading.accepted);
         ASSERT_FALSE(reading.lines.empty());
@@ -69,7 +69,7 @@ TEST(TomlSmallStack, readsSomeLevelsAndRefusesMore)
             continue;
         }
         EXPECT_EQ(diagnosed + step, levels);
-        EXPECT_EQ(reading.lines.back().message, "Failed to visit toml tree");
+        EXPECT_EQ(reading.lines.back().message, "Failed: input TOML has 2 syntax errors");
         diagnosed = levels;
     }
     EXPECT_GE(diagnosed, step);

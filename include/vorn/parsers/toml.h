@@ -275,13 +275,14 @@ private:
 //   visitTomlTree("a = 1", visitor);     // false, after the calls for the pair
 //   visitTomlTree("", visitor);          // true: beginDocument, endDocument
 //
-// In a valid document arrays and inline tables may nest without limit.  An invalid one gets
+// In valid lines arrays and inline tables may nest without limit.  An invalid document gets
 // no calls, and a log line that says why, in two cases:
 //
-//   - It nests too deeply to be diagnosed on the thread's stack.  A stack that is not the
-//     thread's own (of a coroutine, or of makecontext()) counts as 32 KB, so the limit is
-//     lower there.
-//   - There is not enough memory to diagnose it: some hundred times its size, and two
+//   - A statement with a mistake nests too deeply to be diagnosed on the thread's stack.  A
+//     stack that is not the thread's own (of a coroutine, or of makecontext()) counts as
+//     32 KB, so the limit is lower there.
+//   - There is not enough memory to diagnose it: some megabytes and a few times its size,
+//     and for a statement with a mistake some hundred times that statement's size, two
 //     thousand times in the worst case.
 //
 // Throws nothing of its own but std::bad_alloc, where memory ends all the same.  What the
