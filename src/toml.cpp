@@ -180,7 +180,6 @@ bool visitTomlTree(const StatementNodes::Source& source, bool hasFailed, Report&
     statements.setWalker(walker);
     installErrorDisplay<TreeError>(walker, report);
     const FollowStack follows(walker);
-    const FollowStack parserFollows(source.parser->pParser->rec); // (It makes the trees.)
 
     const bool isVisited = tree->document(tree.get(), source.visitor);
     report.thrown.pass();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 
 namespace vorn::parsers::toml
 {
@@ -14,6 +15,10 @@ std::size_t memoryForLexing(std::size_t documentSize) noexcept;
 // among so many brackets.
 std::size_t memoryForReading(std::size_t documentSize, std::size_t tokens,
                              std::size_t brackets) noexcept;
+
+// What is needed to have the parser check the document without trees, at most, among so many
+// brackets.
+std::size_t memoryForChecking(std::string_view document, std::size_t brackets) noexcept;
 
 // Whether this much memory can be had, now.
 bool isMemoryLeft(std::size_t size) noexcept;

@@ -9,7 +9,7 @@ namespace vorn::parsers::toml
 
 StatementNodes::StatementNodes(pANTLR3_COMMON_TREE_NODE_STREAM nodes, const Source& source,
                                bool hasFailed)
-    : NodeTexts(nodes), nodes_(nodes), source_(source),
+    : NodeTexts(nodes), nodes_(nodes), source_(source), follows_(source.parser->pParser->rec),
       runtimeTypeAhead_(nodes->tnstream->istream->_LA), ofError_(nodes->stringFactory)
 {
     const pANTLR3_INT_STREAM stream = nodes->tnstream->istream;

@@ -4,6 +4,7 @@
 
 #include <antlr3.h>
 
+#include "follow_stack.h"
 #include "kept_node.h"
 #include "node_texts.h"
 #include "token_window.h"
@@ -55,6 +56,7 @@ private:
 
     pANTLR3_COMMON_TREE_NODE_STREAM nodes_;
     const Source& source_;
+    const FollowStack follows_; // the parser's
     decltype(ANTLR3_INT_STREAM::_LA) runtimeTypeAhead_;
     pANTLR3_BASE_RECOGNIZER walker_ = nullptr;
     KeptNode ofError_;

@@ -1,5 +1,7 @@
 #include "syntax_check.h"
 
+#include <string_view>
+
 #include "error_display.h"
 #include "follow_stack.h"
 #include "memory_need.h"
@@ -62,7 +64,8 @@ bool hasMemory(TomlParser& parser, DocumentLines& lines, TokenWindow& tokens)
     const UnreportedErrors ofLexer(lines.lexer()->rec);
     const UnreportedErrors ofParser(recogniser);
     const std::size_t brackets = lines.reportErrors();
-    if (!isMemoryLeft(memoryForReading(size, 0, brackets)))
+    const std::string_view document(static_cast<const char*>(lines.lexer()->input->data), size);
+    if (!isMemoryLeft(memoryForChecking(document, brackets)))
     {
         return false;
     }

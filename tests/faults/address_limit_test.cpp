@@ -193,6 +193,26 @@ TEST(AddressLimit, leavesRefusedDocumentsDiagnosedOrTooLarge)
     EXPECT_GT(tally[Ending::tooLarge], 0);
 }
 
+// What the parser lists of these takes several times as much as the text and its copies.
+TEST(AddressLimit, leavesRoomForLongLists)
+{
+    constexpr std::size_t size = 2 * megabyte;
+    int refused = 0;
+    for (const std::string& text :
+         {ofSize(size, "a = [", "1,", "1}\n"), ofSize(size, "a = [\n", "1,\n", "1}\n"),
+          ofSize(size, "", "a.", "= 1\n"), ofSize(size, "a = {", "b=1,", "}\n")})
+    {
+        for (std::size_t memory = 16 * megabyte; memory <= 96 * megabyte; memory += 8 * megabyte)
+        {
+            const LimitedReading reading = readLimited(text, memory);
+            EXPECT_EQ(reading.signal, 0) << described(text, memory, reading);
+            EXPECT_FALSE(reading.accepted);
+            refused += reading.lines == 1 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(refused, 10);
+}
+
 TEST(AddressLimit, leavesAcceptedDocumentsAcceptedOrTooLarge)
 {
     Tally tally;

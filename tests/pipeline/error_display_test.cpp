@@ -139,6 +139,31 @@ TEST(TemporaryStrings, mayBeNone)
     EXPECT_EQ(characters(string), "later");
 }
 
+TEST(ForgottenStrings, areAllButTheFirstFew)
+{
+    const Factory factory(antlr3StringFactoryNew(ANTLR3_ENC_UTF8));
+    std::vector<pANTLR3_STRING> strings;
+    for (int number = 0; number < 5; ++number)
+    {
+        strings.push_back(makeString(factory, std::to_string(number)));
+    }
+    forgetStrings(factory.get(), 7);
+    EXPECT_EQ(factory->index, 5u);
+    forgetStrings(factory.get(), 5);
+    EXPECT_EQ(factory->index, 5u);
+    forgetStrings(factory.get(), 3);
+    EXPECT_EQ(factory->index, 3u);
+    EXPECT_EQ(factory->strings->count, 3u);
+    for (std::size_t number = 0; number < 3; ++number)
+    {
+        EXPECT_EQ(characters(strings[number]), std::to_string(number));
+    }
+    EXPECT_EQ(makeString(factory, "3 again")->index, 3u);
+    forgetStrings(factory.get(), 0);
+    EXPECT_EQ(factory->index, 0u);
+    EXPECT_EQ(factory->strings->count, 0u);
+}
+
 TEST(EarlierErrors, areKeptByTheRuntimeAndForgotten)
 {
     static std::vector<ANTLR3_UINT32> kept;
@@ -160,6 +185,59 @@ TEST(EarlierErrors, areKeptByTheRuntimeAndForgotten)
     };
     EXPECT_EQ(parse(text, forget), 4u);
     EXPECT_EQ(kept, std::vector<ANTLR3_UINT32>({1, 1, 1, 1}));
+}
+
+// Of a parser that takes the tokens' text as its own; each is in the place of the one before.
+TEST(ConjuredTokens, haveTheirOwnTextsAfterOthersWereForgotten)
+{
+    static std::vector<std::string> texts;
+    static std::vector<pANTLR3_COMMON_TOKEN> tokens;
+    texts.clear();
+    tokens.clear();
+    const Display display = [](pANTLR3_BASE_RECOGNIZER failed, pANTLR3_UINT8*)
+    {
+        auto* const token = static_cast<pANTLR3_COMMON_TOKEN>(failed->state->exception->token);
+        tokens.push_back(token);
+        texts.push_back(characters(token->getText(token)));
+        forgetConjured(failed);
+    };
+    EXPECT_EQ(parse("a.b 1\nc = {d.e 2}\n[[t]\nf.g 3\n", display), 4u);
+    EXPECT_EQ(texts, std::vector<std::string>(
+                         {"<missing '='>", "<missing '='>", "<missing ']'>", "<missing '='>"}));
+    EXPECT_EQ(tokens, std::vector<pANTLR3_COMMON_TOKEN>(4, tokens.front()));
+}
+
+TEST(ConjuredTokens, areForgottenInAllPools)
+{
+    const std::string text = "a";
+    const test::ParserPipeline pipeline(text);
+    const pANTLR3_BASE_RECOGNIZER parser = pipeline.recogniser();
+    // Before there is any.
+    EXPECT_EQ(parser->state->tokFactory, nullptr);
+    forgetConjured(parser);
+    EXPECT_EQ(parser->state->tokFactory, nullptr);
+
+    const pANTLR3_INT_STREAM stream = pipeline.tokens()->tstream->istream;
+    const auto conjure = [&](ANTLR3_UINT32 type)
+    {
+        return static_cast<pANTLR3_COMMON_TOKEN>(
+            parser->getMissingSymbol(parser, stream, nullptr, type, nullptr));
+    };
+    stream->_LA(stream, 1); // fills the stream
+    const pANTLR3_COMMON_TOKEN first = conjure(NL);
+    forgetConjured(parser);
+    EXPECT_EQ(conjure(DEC_INT), first);
+    EXPECT_EQ(characters(first->getText(first)), "<missing DEC_INT>");
+
+    // More than one pool is freed.
+    for (int number = 0; number <= ANTLR3_FACTORY_POOL_SIZE; ++number)
+    {
+        conjure(NL);
+    }
+    forgetConjured(parser);
+    EXPECT_EQ(parser->state->tokFactory, nullptr);
+    const pANTLR3_COMMON_TOKEN token = conjure(BARE_KEY);
+    EXPECT_EQ(characters(token->getText(token)), "<missing BARE_KEY>");
 }
 
 TEST(ParserDisplay, makesStringsWithTheFactoryThatIsPrepared)

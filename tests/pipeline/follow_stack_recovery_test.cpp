@@ -3,14 +3,15 @@
 
 #include "pipeline/follow_stack.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "support/event_recorder.h"
 #include "support/large_documents.h"
+#include "support/mistaken_samples.h"
 #include "support/recognition_errors.h"
-#include "support/refused_documents.h"
 #include "support/tree_samples.h"
 #include "support/tree_text.h"
 #include "support/types_of_set.h"
@@ -117,6 +118,45 @@ Walk walk(const std::string& trees, bool replacesStack)
     return walk;
 }
 
+// What is told of lines: at which token each starts, and what may follow.
+class Lines : public vorn::parsers::toml::LineStarts
+{
+public:
+    struct Start
+    {
+        ANTLR3_MARKER token;
+        Types follow;
+    };
+
+    explicit Lines(pANTLR3_INT_STREAM tokens) : tokens_(tokens) {}
+
+    void startLine(pANTLR3_BITSET_LIST follow) override
+    {
+        starts_.push_back({tokens_->index(tokens_), typesOf(antlr3BitsetLoad(follow))});
+    }
+
+    const std::vector<Start>& starts() const { return starts_; }
+
+private:
+    pANTLR3_INT_STREAM tokens_;
+    std::vector<Start> starts_;
+};
+
+// The places after line breaks that the parser has in its list of trees, and the document's start.
+std::vector<ANTLR3_MARKER> placesAfterLineBreaks(pANTLR3_BASE_TREE document)
+{
+    std::vector<ANTLR3_MARKER> places = {0};
+    for (ANTLR3_UINT32 index = 0; index < document->getChildCount(document); ++index)
+    {
+        const auto node = static_cast<pANTLR3_BASE_TREE>(document->getChild(document, index));
+        if (node->getType(node) == NL)
+        {
+            places.push_back(node->getToken(node)->index + 1);
+        }
+    }
+    return places;
+}
+
 } // namespace
 
 TEST(FollowStackRecovery, isThatOfTheRuntimesStack)
@@ -174,4 +214,122 @@ TEST(FollowStackRecovery, isThatOfTheRuntimesStackInAWalk)
         }
     }
     EXPECT_GT(errors, 20u);
+}
+
+// The rules that those of lines call are none of theirs.
+TEST(FollowStackRecovery, tellsWhereTheOutermostRuleIsCalled)
+{
+    struct Told : vorn::parsers::toml::LineStarts
+    {
+        void startLine(pANTLR3_BITSET_LIST follow) override { sets.push_back(follow); }
+
+        std::vector<pANTLR3_BITSET_LIST> sets;
+    } told;
+    static ANTLR3_BITWORD word = ANTLR3_BITWORD{1} << NL;
+    std::array<ANTLR3_BITSET_LIST, 20> sets = {};
+    sets.fill({&word, 1});
+    const std::string text;
+    const test::ParserPipeline pipeline(text);
+    pipeline.recogniser()->reset(pipeline.recogniser()); // makes the runtime's stack
+    const FollowStack follows(pipeline.parser()->pParser, &told);
+    const pANTLR3_STACK following = pipeline.recogniser()->state->following;
+    std::vector<pANTLR3_BITSET_LIST> expected;
+    for (std::size_t line = 0; line < sets.size() / 2; ++line)
+    {
+        for (std::size_t rule = 0; rule <= line; ++rule)
+        {
+            following->push(following, &sets[line + rule], nullptr);
+        }
+        for (std::size_t rule = 0; rule <= line; ++rule)
+        {
+            following->pop(following);
+        }
+        expected.push_back(&sets[line]);
+        EXPECT_EQ(told.sets, expected);
+    }
+}
+
+TEST(FollowStackRecovery, tellsOnceWhereEachLineStarts)
+{
+    std::size_t count = 0;
+    for (const std::string& text : test::mistakenSamples())
+    {
+        SCOPED_TRACE(testing::PrintToString(text.substr(0, 100)));
+        const test::ParserPipeline pipeline(text);
+        test::ErrorKinds errors;
+        test::collectErrors(pipeline.lexer().recogniser(), errors);
+        test::collectErrors(pipeline.recogniser(), errors);
+        Lines lines(pipeline.tokens()->tstream->istream);
+        const FollowStack follows(pipeline.parser()->pParser, &lines);
+        const pANTLR3_BASE_TREE tree = pipeline.parser()->document(pipeline.parser()).tree;
+
+        std::vector<ANTLR3_MARKER> places;
+        for (const Lines::Start& start : lines.starts())
+        {
+            EXPECT_EQ(start.follow, Types({NL}));
+            places.push_back(start.token);
+        }
+        // A document that has failed has no trees.
+        if (tree->getType(tree) == ANTLR3_TOKEN_INVALID && tree->getChildCount(tree) == 0)
+        {
+            EXPECT_FALSE(places.empty());
+            continue;
+        }
+        EXPECT_EQ(places, placesAfterLineBreaks(tree));
+        count += places.size();
+    }
+    EXPECT_GT(count, 500u);
+}
+
+// The runtime's own recovery finds no token to go on at, and looks at all of them.
+TEST(FollowStackRecovery, goesToTheEndWhereNothingFollows)
+{
+    for (const bool replacesStack : {false, true})
+    {
+        for (const std::string text : {"a = 1\n", "", "a\n[b]\n]\n", "= = =\n\n"})
+        {
+            SCOPED_TRACE(testing::PrintToString(text));
+            const test::ParserPipeline pipeline(text);
+            const pANTLR3_BASE_RECOGNIZER recogniser = pipeline.recogniser();
+            const pANTLR3_INT_STREAM tokens = pipeline.tokens()->tstream->istream;
+            recogniser->reset(recogniser); // makes the runtime's stack
+            std::optional<FollowStack> follows;
+            if (replacesStack)
+            {
+                follows.emplace(pipeline.parser()->pParser);
+            }
+            tokens->_LA(tokens, 1); // fills the stream
+            // The set of a rule says that alone, where it is not for a recovery.
+            EXPECT_EQ(typesOf(recogniser->computeCSRuleFollow(recogniser)), Types());
+            EXPECT_EQ(tokens->index(tokens), 0);
+            static std::size_t consumed = 0;
+            static const auto consume = tokens->consume;
+            consumed = 0;
+            tokens->consume = [](pANTLR3_INT_STREAM stream)
+            {
+                ++consumed;
+                consume(stream);
+            };
+            recogniser->recover(recogniser);
+            EXPECT_EQ(tokens->index(tokens), tokens->size(tokens));
+            EXPECT_EQ(consumed, replacesStack ? 0u : tokens->size(tokens));
+            EXPECT_EQ(tokens->_LA(tokens, 1), ANTLR3_TOKEN_EOF);
+        }
+    }
+}
+
+TEST(FollowStackRecovery, staysWhereSomethingFollows)
+{
+    static ANTLR3_BITWORD word = ANTLR3_BITWORD{1} << NL;
+    static ANTLR3_BITSET_LIST lineBreak = {&word, 1};
+    const std::string text = "a b\nc\n";
+    const test::ParserPipeline pipeline(text);
+    const pANTLR3_BASE_RECOGNIZER recogniser = pipeline.recogniser();
+    const pANTLR3_INT_STREAM tokens = pipeline.tokens()->tstream->istream;
+    const FollowStack follows(pipeline.parser()->pParser);
+    const pANTLR3_STACK following = recogniser->state->following;
+    following->push(following, &lineBreak, nullptr);
+    recogniser->recover(recogniser);
+    EXPECT_EQ(tokens->index(tokens), 2);
+    following->pop(following);
 }

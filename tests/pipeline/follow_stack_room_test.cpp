@@ -3,16 +3,14 @@
 
 #include "pipeline/follow_stack.h"
 
-#include <pthread.h>
-
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "support/large_documents.h"
 #include "support/recognition_errors.h"
+#include "support/small_stack.h"
 
 #include "support/parser_pipeline.h"
 
@@ -36,24 +34,6 @@ void pushMany(pANTLR3_BASE_RECOGNIZER recogniser, unsigned count)
     }
 }
 
-void onThread(std::size_t stackSize, std::function<void()> work)
-{
-    pthread_attr_t attributes;
-    pthread_t thread = {};
-    pthread_attr_init(&attributes);
-    const auto run = [](void* function) -> void*
-    {
-        (*static_cast<std::function<void()>*>(function))();
-        return nullptr;
-    };
-    if (pthread_attr_setstacksize(&attributes, stackSize) != 0 ||
-        pthread_create(&thread, &attributes, run, &work) != 0 || pthread_join(thread, nullptr) != 0)
-    {
-        throw std::runtime_error("no thread with such a stack");
-    }
-    pthread_attr_destroy(&attributes);
-}
-
 // Uses up all but some ten kilobytes of a stack of 64 before it goes on.
 [[gnu::noinline]] void withLittleRoom(const std::function<void()>& work)
 {
@@ -70,7 +50,7 @@ unsigned levelsWithoutRoom(const std::string& text, std::size_t stackSize)
     test::ErrorKinds errors;
     test::collectErrors(pipeline.recogniser(), errors);
     const FollowStack follows(pipeline.parser()->pParser);
-    onThread(stackSize, [&pipeline] { pipeline.parser()->document(pipeline.parser()); });
+    test::onThread(stackSize, [&pipeline] { pipeline.parser()->document(pipeline.parser()); });
     return follows.levelsWithoutRoom();
 }
 
@@ -86,8 +66,8 @@ TEST(FollowStackRoom, endsTheParsingWhereLittleRoomIsLeft)
         const pANTLR3_INT_STREAM tokens = pipeline.tokens()->tstream->istream;
         const FollowStack follows(pipeline.parser()->pParser);
         tokens->_LA(tokens, 1); // fills the stream
-        onThread(64 * kilobyte, [&pipeline, pushed = rules]
-                 { withLittleRoom([&] { pushMany(pipeline.recogniser(), pushed); }); });
+        test::onThread(64 * kilobyte, [&pipeline, pushed = rules]
+                       { withLittleRoom([&] { pushMany(pipeline.recogniser(), pushed); }); });
         EXPECT_EQ(follows.levelsWithoutRoom(), levels);
         EXPECT_EQ(tokens->_LA(tokens, 1) == ANTLR3_TOKEN_EOF, levels > 0);
     }
@@ -97,13 +77,13 @@ TEST(FollowStackRoom, goesOnWhereThereIsRoomOrNoLimit)
 {
     const test::ParserPipeline limited(document);
     const FollowStack parserFollows(limited.parser()->pParser);
-    onThread(64 * kilobyte, [&limited] { pushMany(limited.recogniser(), 300); });
+    test::onThread(64 * kilobyte, [&limited] { pushMany(limited.recogniser(), 300); });
     EXPECT_EQ(parserFollows.levelsWithoutRoom(), 0u);
 
     const test::ParserPipeline unlimited(document);
     const FollowStack follows(unlimited.recogniser());
-    onThread(64 * kilobyte, [&unlimited]
-             { withLittleRoom([&unlimited] { pushMany(unlimited.recogniser(), 300); }); });
+    test::onThread(64 * kilobyte, [&unlimited]
+                   { withLittleRoom([&unlimited] { pushMany(unlimited.recogniser(), 300); }); });
     EXPECT_EQ(follows.levelsWithoutRoom(), 0u);
 }
 

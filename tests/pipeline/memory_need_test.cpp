@@ -8,9 +8,11 @@
 
 #include <fstream>
 #include <limits>
+#include <string>
 #include <vector>
 
 using vorn::parsers::toml::isMemoryLeft;
+using vorn::parsers::toml::memoryForChecking;
 using vorn::parsers::toml::memoryForLexing;
 using vorn::parsers::toml::memoryForReading;
 
@@ -85,6 +87,26 @@ TEST(MemoryNeed, growsByAnAmountForEachByteTokenAndBracket)
         EXPECT_EQ(memoryForReading(0, count, 0) - none, count * (memoryForReading(0, 1, 0) - none));
         EXPECT_EQ(memoryForReading(0, 0, count) - none, count * (memoryForReading(0, 0, 1) - none));
     }
+}
+
+TEST(MemoryNeed, ofACheckGrowsWithWhatTheDocumentLists)
+{
+    for (const std::string nothing : {"", "a", "a = [1] # c", "{}{}[]"})
+    {
+        for (const std::size_t brackets : {0u, 100u})
+        {
+            EXPECT_EQ(memoryForChecking(nothing, brackets),
+                      memoryForReading(nothing.size(), 0, brackets));
+        }
+    }
+    const auto needOf = [](const std::string& text)
+    { return memoryForChecking(text, 0) - memoryForReading(text.size(), 0, 0); };
+    // A separator, and what comes after it: each in a list that is copied to a longer one.
+    EXPECT_GE(needOf(","), 2 * 3 * 2 * sizeof(void*));
+    EXPECT_EQ(needOf("."), needOf(","));
+    EXPECT_EQ(2 * needOf("\n"), needOf(","));
+    EXPECT_EQ(needOf("a = [1,2,\n3]\nb.c = 1\n"), 4 * needOf(",") + needOf("\n"));
+    EXPECT_EQ(needOf(std::string(1000, ',')), 1000 * needOf(","));
 }
 
 TEST(MemoryNeed, isTheLargestNumberWhereItIsLarger)

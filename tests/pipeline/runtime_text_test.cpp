@@ -160,3 +160,43 @@ TEST(RuntimeText, ofATreeOfNothingHasAName)
     EXPECT_STREQ(orEmpty(textOf(nothing)), "nil");
     EXPECT_STREQ(characters(nothing->toStringTree(nothing)), "nil");
 }
+
+TEST(RuntimeText, becomesAStringOfAFactory)
+{
+    const std::string nothing;
+    const test::ParserPipeline pipeline(nothing);
+    const pANTLR3_STRING_FACTORY factory = pipeline.tokens()->tstream->tokenSource->strFactory;
+    for (const std::string expected : {"", "a", "<missing '='>"})
+    {
+        const ANTLR3_UINT32 strings = factory->index;
+        OwnedText text(strdup(expected.c_str()));
+        const char* const bytes = text.get();
+        const pANTLR3_STRING string = newString(factory, std::move(text));
+        EXPECT_EQ(factory->index, strings + 1);
+        // It takes the text, and is one that can grow.
+        EXPECT_EQ(characters(string), bytes);
+        EXPECT_EQ(string->len, expected.size());
+        EXPECT_EQ(string->size, expected.size() + 1);
+        string->append8(string, "more");
+        EXPECT_EQ(characters(string), expected + "more");
+        factory->destroy(factory, string);
+        EXPECT_EQ(factory->index, strings);
+    }
+    const pANTLR3_STRING none = newString(factory, nullptr);
+    EXPECT_EQ(none->chars, nullptr);
+    EXPECT_EQ(none->len, 0u);
+}
+
+TEST(RuntimeText, ofATreeIsThatOfTheRuntimeForAnyShape)
+{
+    for (const std::string trees :
+         {"KEYVAL", R"(KEYVAL(BARE_KEY "a"))", "EOF", R"(VAL_ARRAY(EOF, KEYVAL(EOF)) EOF)",
+          R"(KEYVAL(KEY_BARE(BARE_KEY "a"), VAL_ARRAY(VAL_INTEGER(DEC_INT "1"))) NL "\n")",
+          R"(<invalid> "Tree Error Node")"})
+    {
+        SCOPED_TRACE(trees);
+        test::TreeBuilder builder;
+        const pANTLR3_BASE_TREE tree = builder.build(trees);
+        EXPECT_EQ(textOrNull(textOf(tree)), characters(tree->toStringTree(tree)));
+    }
+}
