@@ -27,10 +27,9 @@ public:
     // Whether there was memory for it; nothing else may be called if not.
     bool hasMemory() const noexcept;
 
-    // Reads the valid pairs and headers that come next.  Returns where the first token after
-    // their lines starts: that of what is not valid, or of line breaks after a comment, or the
-    // text's end.  That is `begin` if none is valid.  `begin` is the text's start, or the end of
-    // line breaks.
+    // Reads the valid lines that come next, empty ones as well.  Returns where the first token
+    // after them starts, or the text's end; that is `begin` if none is valid.  `begin` is the
+    // text's start, or the end of line breaks.
     const char* read(const char* begin);
 
     // How many arrays and inline tables enclose one another in the first statement that is not

@@ -84,6 +84,7 @@ public:
     void text(Event event, std::string_view text) { write(event, 0, text); }
 
     void lineEnd(const char* position) noexcept { record_->keepLines(last_, position); }
+    void emptyLines(const char* end) noexcept { lineEnd(end); }
 
 private:
     void makeRoom()

@@ -46,6 +46,7 @@ public:
     {
         if (tokens_.takeNewline())
         {
+            sink_.emptyLines(tokens_.position());
             return true;
         }
         const bool read = tokens_.take('[') ? header() : pair();

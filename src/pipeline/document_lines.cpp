@@ -31,13 +31,17 @@ std::string_view DocumentLines::passValid()
     return {begin, static_cast<std::size_t>(end - begin)};
 }
 
-std::size_t DocumentLines::reportErrors()
+DocumentLines::Found DocumentLines::reportErrors()
 {
-    std::size_t brackets = 0;
+    Found found;
     forEach([](std::string_view) {},
-            [&](const ANTLR3_COMMON_TOKEN& token) { brackets += opensLevel(token.type) ? 1 : 0; });
+            [&](const ANTLR3_COMMON_TOKEN& token)
+            {
+                found.brackets += opensLevel(token.type) ? 1 : 0;
+                found.listed += separates(token.type) ? 2 : isNewline(token.type) ? 1 : 0;
+            });
     restart();
-    return brackets;
+    return found;
 }
 
 pANTLR3_COMMON_TOKEN DocumentLines::nextToken()

@@ -34,18 +34,26 @@ public:
     // Goes back to the start.
     void restart() const noexcept { start_.goBack(); }
 
-    // Passes over valid pairs and headers with their lines, where the lexer is at the text's start
-    // or after line breaks.  Returns their text, empty if none is valid; it ends before the first
-    // token that the lexer gets to next.
+    // Passes over valid lines, where the lexer is at the text's start or after line breaks. Returns
+    // their text, empty if none is valid; it ends before the first token that the lexer gets to
+    // next.
     std::string_view passValid();
 
     // The lines that were passed last, to the visitor; for the buffer see DirectLines.
     std::size_t longestText() const noexcept { return direct_.longestText(); }
     void handTo(ITomlTreeVisitor& visitor, char* buffer) { direct_.handTo(visitor, buffer); }
 
-    // Has the lexer report its errors, and goes back to the start.  Returns how many brackets there
-    // are that open an array or an inline table, in lines that are not valid.
-    std::size_t reportErrors();
+    // What the lexer finds in lines that are not valid.
+    struct Found
+    {
+        std::size_t brackets = 0; // that open an array or an inline table
+        // What the parser may list at once: the elements, pairs or parts of a key that it is in the
+        // middle of, what separates them, and line breaks.
+        std::size_t listed = 0;
+    };
+
+    // Has the lexer report its errors, and goes back to the start.
+    Found reportErrors();
 
     // Goes over the rest of the document: calls `onValid` with the text of valid lines, and
     // `onToken` with each token of the other ones, which the next one replaces.

@@ -92,17 +92,11 @@ std::size_t memoryForReading(std::size_t documentSize, std::size_t tokens,
                sum(product(tokens, needOfToken), product(brackets, maxStackOfLevel)));
 }
 
-std::size_t memoryForChecking(std::string_view document, std::size_t brackets) noexcept
+std::size_t memoryForChecking(std::size_t documentSize, std::size_t brackets,
+                              std::size_t listed) noexcept
 {
-    // The parser lists the elements, pairs or parts of a key that it is in the middle of, what
-    // separates them, and line breaks.
-    std::size_t listed = 0;
-    for (const char c : document)
-    {
-        listed += c == ',' || c == '.' ? 2 : c == '\n' ? 1 : 0;
-    }
     // A list that grows becomes twice as long, while the shorter one is still there.
-    return sum(memoryForReading(document.size(), 0, brackets),
+    return sum(memoryForReading(documentSize, 0, brackets),
                product(listed, 3 * sizeof(ANTLR3_VECTOR_ELEMENT)));
 }
 

@@ -1,7 +1,5 @@
 #include "syntax_check.h"
 
-#include <string_view>
-
 #include "error_display.h"
 #include "follow_stack.h"
 #include "memory_need.h"
@@ -63,9 +61,8 @@ bool hasMemory(TomlParser& parser, DocumentLines& lines, TokenWindow& tokens)
     const pANTLR3_BASE_RECOGNIZER recogniser = parser.pParser->rec;
     const UnreportedErrors ofLexer(lines.lexer()->rec);
     const UnreportedErrors ofParser(recogniser);
-    const std::size_t brackets = lines.reportErrors();
-    const std::string_view document(static_cast<const char*>(lines.lexer()->input->data), size);
-    if (!isMemoryLeft(memoryForChecking(document, brackets)))
+    const DocumentLines::Found found = lines.reportErrors();
+    if (!isMemoryLeft(memoryForChecking(size, found.brackets, found.listed)))
     {
         return false;
     }
@@ -73,7 +70,7 @@ bool hasMemory(TomlParser& parser, DocumentLines& lines, TokenWindow& tokens)
     const std::size_t longest = tokens.longestStatement();
     recogniser->reset(recogniser);
     tokens.restart();
-    return isMemoryLeft(memoryForReading(size, longest, brackets));
+    return isMemoryLeft(memoryForReading(size, longest, found.brackets));
 }
 
 void startOver(TomlParser& parser, TokenWindow& tokens)

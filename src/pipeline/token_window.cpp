@@ -24,7 +24,6 @@ void TokenWindow::restart() noexcept
     tokens_->p = 0;
     end_ = 0;
     statement_ = 0;
-    longestStatement_ = 0;
     uncounted_ = {};
     passedTokens_ = 0;
     parser_ = nullptr;

@@ -20,7 +20,8 @@ namespace
 unsigned depthOf(const std::string& text)
 {
     test::GuardedMemory memory(text.size() + 1);
-    return vorn::parsers::toml::diagnosis::documentDepth({memory.holdTerminated(text), text.size()});
+    return vorn::parsers::toml::diagnosis::documentDepth(
+        {memory.holdTerminated(text), text.size()});
 }
 
 void expectDepth(unsigned depth, const std::vector<std::string>& texts)

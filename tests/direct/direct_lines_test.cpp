@@ -62,6 +62,7 @@ public:
         EventSink::lineEnd(position);
         kept = events.size();
     }
+    void emptyLines(const char* position) { EventSink::lineEnd(position); }
 
     std::size_t kept = 0;
 };
@@ -145,10 +146,9 @@ TEST(DirectLines, endBeforeTheFirstTokenThatIsNotTheirs)
              {"", "@"},
              {"", "a = 1"},
              {"", "a = 1 # c"},
-             // There is no valid line before these.
-             {"", "\n"},
-             {"", " # c\n\n"},
-             {"", "\n \n@\n"},
+             {"\n", ""},
+             {" # c\n\n", ""},
+             {"\n \n", "@\n"},
              {"a = 1\n", ""},
              {"a = 1\n", "@"},
              {"a = 1\n \t", "b\n"},
@@ -157,10 +157,9 @@ TEST(DirectLines, endBeforeTheFirstTokenThatIsNotTheirs)
              {"\n# c\n a = 1\n", "]"},
              {"[t]\na = [1,\n2\n] # c\n", "c = [\n"},
              {"[t]\n[[ u . 'v' ]]\n", "[w\n"},
-             // After a comment the next token is that of line breaks.
-             {"a = 1\n# c", "\n\nb\n"},
-             {"a = 1\n # c", "\n# d\n"},
-             {"a = 1\n\n# c", "\n"},
+             {"a = 1\n# c\n\n", "b\n"},
+             {"a = 1\n # c\n# d\n", ""},
+             {"a = 1\n\n# c\n", ""},
              {"a = 1\n# c", ""},
              {"\xef\xbb\xbf", ""},
          })

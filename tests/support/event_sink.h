@@ -56,10 +56,12 @@ public:
         texts.push_back(text);
     }
     void lineEnd(const char* position) { lineEnds.push_back(position); }
+    void emptyLines(const char* position) { emptyLineEnds.push_back(position); }
 
     Events events;
     std::vector<std::string_view> texts;
     std::vector<const char*> lineEnds;
+    std::vector<const char*> emptyLineEnds;
 };
 
 } // namespace test

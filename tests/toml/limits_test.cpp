@@ -2,6 +2,7 @@
 // process goes on.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "support/child_reading.h"
@@ -46,7 +47,8 @@ std::vector<std::string> documents(std::size_t size)
         ofSize(size, "a = ", "[{a=", ""),
         ofSize(size, "", "[", ""),
         ofSize(size, "a = ", "[\n[1,\n", ""),
-        ofSize(size, "a = [[1\n],", "[1\n],", ""),
+        // Each of its errors is logged with the whole text.
+        ofSize(std::min(size, 10 * kilobyte), "a = [[1\n],", "[1\n],", ""),
     };
 }
 
@@ -128,13 +130,30 @@ TEST(TomlLimits, ofMemoryNeverEndTheProcessFromAThread)
 
 TEST(TomlLimits, refuseWhatIsTooLargeWithItsSize)
 {
-    const std::string text = test::repeated("k=1\n", 100'000) + "@";
+    // A statement takes its tree.
+    const std::string text = test::enclosed("a = [", "1,", 200'000, "1 2]\n");
     const ChildReading refused = readInChild(text, {0, 100 * megabyte});
     EXPECT_EQ(refused.signal, 0);
     EXPECT_FALSE(refused.accepted);
     EXPECT_EQ(refused.calls, 0u);
     EXPECT_EQ(refused.lines, 1u);
-    EXPECT_EQ(refused.lastMessage, test::tooLarge(400'001));
+    EXPECT_EQ(refused.lastMessage, test::tooLarge(text.size()));
+}
+
+TEST(TomlLimits, leaveDocumentsOfValidLinesDiagnosedInLittleMemory)
+{
+    const std::string lines = test::repeated("k=1\n", 100'000);
+    for (const std::string& text :
+         {lines + "@", lines + "a = [1 2]\n" + lines, "b = 1 2\n" + lines})
+    {
+        const ChildReading unlimited = readInChild(text);
+        const ChildReading reading = readInChild(text, {0, 20 * megabyte});
+        EXPECT_EQ(reading.signal, 0);
+        EXPECT_FALSE(reading.accepted);
+        EXPECT_GT(reading.calls, 0u);
+        EXPECT_EQ(reading.calls, unlimited.calls);
+        EXPECT_EQ(reading.lines, unlimited.lines);
+    }
 }
 
 TEST(TomlLimits, leaveSmallDocumentsDiagnosedInLittleMemory)

@@ -37,6 +37,13 @@ constexpr bool opensLevel(ANTLR3_UINT32 type)
            type == static_cast<ANTLR3_UINT32>(TokenType::openBrace);
 }
 
+// Whether tokens of this type separate elements, pairs, or parts of a key.
+constexpr bool separates(ANTLR3_UINT32 type)
+{
+    return type == static_cast<ANTLR3_UINT32>(TokenType::comma) ||
+           type == static_cast<ANTLR3_UINT32>(TokenType::dot);
+}
+
 // Whether tokens of this type are line breaks.
 constexpr bool isNewline(ANTLR3_UINT32 type)
 {
