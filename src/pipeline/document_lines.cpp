@@ -37,6 +37,7 @@ DocumentLines::Found DocumentLines::reportErrors()
     forEach([](std::string_view) {},
             [&](const ANTLR3_COMMON_TOKEN& token)
             {
+                ++found.tokens;
                 found.brackets += opensLevel(token.type) ? 1 : 0;
                 found.listed += separates(token.type) ? 2 : isNewline(token.type) ? 1 : 0;
             });

@@ -46,6 +46,7 @@ public:
     // What the lexer finds in lines that are not valid.
     struct Found
     {
+        std::size_t tokens = 0;
         std::size_t brackets = 0; // that open an array or an inline table
         // What the parser may list at once: the elements, pairs or parts of a key that it is in the
         // middle of, what separates them, and line breaks.

@@ -29,6 +29,13 @@ constexpr std::size_t needOfToken = 2 * sizeof(ANTLR3_COMMON_TOKEN) +
                                     3 * sizeof(ANTLR3_COMMON_TREE) + 2 * sizeof(ANTLR3_VECTOR) +
                                     12 * sizeof(ANTLR3_VECTOR_ELEMENT);
 
+// A token that is put in where one is missing, with its text, and their places in lists.
+constexpr std::size_t needOfMissing =
+    sizeof(ANTLR3_COMMON_TOKEN) + sizeof(ANTLR3_STRING) + 8 * sizeof(ANTLR3_VECTOR_ELEMENT);
+
+// A list that grows becomes twice as long, while the shorter one is still there.
+constexpr std::size_t needOfListed = 3 * sizeof(ANTLR3_VECTOR_ELEMENT);
+
 // Copies of the document, or parts of it, that an error makes: in the runtime's display,
 // in the log line, in the logger.
 constexpr std::size_t copies = 8;
@@ -92,12 +99,11 @@ std::size_t memoryForReading(std::size_t documentSize, std::size_t tokens,
                sum(product(tokens, needOfToken), product(brackets, maxStackOfLevel)));
 }
 
-std::size_t memoryForChecking(std::size_t documentSize, std::size_t brackets,
+std::size_t memoryForChecking(std::size_t documentSize, std::size_t tokens, std::size_t brackets,
                               std::size_t listed) noexcept
 {
-    // A list that grows becomes twice as long, while the shorter one is still there.
     return sum(memoryForReading(documentSize, 0, brackets),
-               product(listed, 3 * sizeof(ANTLR3_VECTOR_ELEMENT)));
+               sum(product(tokens, needOfMissing), product(listed, needOfListed)));
 }
 
 // NOLINTNEXTLINE(misc-no-recursion): a piece is a large part of the address space.

@@ -16,9 +16,9 @@ std::size_t memoryForLexing(std::size_t documentSize) noexcept;
 std::size_t memoryForReading(std::size_t documentSize, std::size_t tokens,
                              std::size_t brackets) noexcept;
 
-// What is needed to find the errors of a document that has as many brackets, and as much for the
-// parser's lists, in lines that are not valid.
-std::size_t memoryForChecking(std::size_t documentSize, std::size_t brackets,
+// What is needed to find the errors of a document without trees, at most, where there are so many
+// tokens, brackets, and entries of the parser's lists in lines that are not valid.
+std::size_t memoryForChecking(std::size_t documentSize, std::size_t tokens, std::size_t brackets,
                               std::size_t listed) noexcept;
 
 // Whether this much memory can be had, now.

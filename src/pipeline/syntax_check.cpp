@@ -62,7 +62,7 @@ bool hasMemory(TomlParser& parser, DocumentLines& lines, TokenWindow& tokens)
     const UnreportedErrors ofLexer(lines.lexer()->rec);
     const UnreportedErrors ofParser(recogniser);
     const DocumentLines::Found found = lines.reportErrors();
-    if (!isMemoryLeft(memoryForChecking(size, found.brackets, found.listed)))
+    if (!isMemoryLeft(memoryForChecking(size, found.tokens, found.brackets, found.listed)))
     {
         return false;
     }

@@ -220,6 +220,6 @@ TEST(SyntaxCheck, holdsNoMemoryThatGrowsWithTheDocument)
     // Of a statement there are the lists of the runtime, not the tokens.
     const std::string many = statement(10'000);
     const std::size_t lists =
-        memoryForChecking(many.size(), 0, 2 * 10'000) - memoryForChecking(0, 0, 0);
+        memoryForChecking(many.size(), 0, 0, 2 * 10'000) - memoryForChecking(0, 0, 0, 0);
     EXPECT_LE(heldByCheck(many), heldByCheck(statement(100)) + lists);
 }
