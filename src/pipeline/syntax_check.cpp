@@ -73,7 +73,7 @@ bool hasMemory(TomlParser& parser, DocumentLines& lines, TokenWindow& tokens)
     return isMemoryLeft(memoryForReading(size, longest, found.brackets));
 }
 
-void startOver(TomlParser& parser, TokenWindow& tokens)
+void startOver(const TomlParser& parser, TokenWindow& tokens)
 {
     const pANTLR3_BASE_RECOGNIZER recogniser = parser.pParser->rec;
     const ANTLR3_UINT32 errors = recogniser->state->errorCount;

@@ -25,6 +25,6 @@ Syntax checkSyntax(TomlParser_Ctx_struct& parser, TokenWindow& tokens);
 bool hasMemory(TomlParser_Ctx_struct& parser, DocumentLines& lines, TokenWindow& tokens);
 
 // Sets the parser back, to make trees; it does not report the errors again.
-void startOver(TomlParser_Ctx_struct& parser, TokenWindow& tokens);
+void startOver(const TomlParser_Ctx_struct& parser, TokenWindow& tokens);
 
 } // namespace vorn::parsers::toml
