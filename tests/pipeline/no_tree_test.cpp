@@ -128,7 +128,8 @@ TEST(NoTree, tellsWhetherTheDocumentsRuleHasFailed)
 
 TEST(NoTree, hasNodesOfFailureAndOthers)
 {
-    const test::ParserPipeline pipeline("");
+    const std::string text;
+    const test::ParserPipeline pipeline(text);
     const pANTLR3_BASE_TREE_ADAPTOR adaptor = pipeline.parser()->adaptor;
     const auto tree = [](void* node) { return static_cast<pANTLR3_BASE_TREE>(node); };
     const NoTree noTree(adaptor);

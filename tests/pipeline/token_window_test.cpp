@@ -123,7 +123,8 @@ TEST(TokenWindow, isAtTheEndOfTheInputAfterASeekToItsSize)
 
 TEST(TokenWindow, hasNothingBeforeTheFirstToken)
 {
-    const BothStreams streams("a b");
+    const std::string text = "a b";
+    const BothStreams streams(text);
     const pANTLR3_TOKEN_STREAM stream = streams.windows();
     EXPECT_EQ(stream->_LT(stream, -1), nullptr);
     consume(stream);
