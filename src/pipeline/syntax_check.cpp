@@ -10,7 +10,6 @@
 
 namespace vorn::parsers::toml
 {
-
 namespace
 {
 

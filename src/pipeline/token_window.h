@@ -17,8 +17,8 @@ namespace vorn::parsers::toml
 //
 // The runtime's stream fills itself with all tokens before the parser gets the first.  This one
 // has those that the parser may look at again: the last one that it has taken, and few more, since
-// no decision looks further ahead than two tokens.  What keeps others, as the trees of a statement
-// do, says so by not calling recycle().
+// no decision looks further ahead than two tokens.  Trees keep the others of their statement: they
+// stay as long as it, unless recycleFor() says that there are no trees.
 class TokenWindow
 {
 public:
