@@ -215,6 +215,25 @@ TEST(DocumentText, hasTheIndicesOfTheRuntimesStream)
     }
 }
 
+// A window takes its tokens' memory again after 1,024 of one statement.  Where that happens while
+// an error is looked at, its token is kept, and has its index before the first report.
+TEST(DocumentText, hasTheIndicesWhereTokensAreTakenAgainWithinAStatement)
+{
+    for (std::size_t elements = 500; elements < 520; ++elements)
+    {
+        SCOPED_TRACE(elements);
+        std::string text = "a = 1\nb = [\n";
+        for (std::size_t count = 0; count < elements; ++count)
+        {
+            text += "1,";
+        }
+        text += "1 } ]\nc = {]\n\ne";
+        const Errors errors = errorsOf(text);
+        EXPECT_GT(errors.size(), 1u);
+        EXPECT_EQ(errors, runtimesErrors(text));
+    }
+}
+
 TEST(DocumentText, hasTheIndicesOfTheRuntimesStreamForAnyText)
 {
     test::TextGenerator texts;
