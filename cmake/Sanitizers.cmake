@@ -30,11 +30,3 @@ function(vorn_not_sanitized name)
         vorn_leave_out(${name} ${ARGN})
     endif()
 endfunction()
-
-# vorn_not_thread_sanitized(NAME [TESTS...]): leaves them out where that of threads is: they
-# have one, and would take very long or all memory.
-function(vorn_not_thread_sanitized name)
-    if(VORN_SANITIZERS STREQUAL "thread")
-        vorn_leave_out(${name} ${ARGN})
-    endif()
-endfunction()
