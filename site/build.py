@@ -61,6 +61,8 @@ def build(directory, headers):
         (directory / target).parent.mkdir(parents=True, exist_ok=True)
         shutil.copyfile(ROOT / path, directory / target)
     (directory / "search-index.js").write_text(search_index(pages), encoding="utf-8")
+    # Browsers ask for it where they show a picture or a plain text.
+    (directory / "favicon.ico").touch()
     for path in (SITE / "style.css", SITE / "search.js", LUNR):
         shutil.copyfile(path, directory / path.name)
 

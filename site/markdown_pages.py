@@ -15,6 +15,7 @@ PICTURES = {".svg", ".png"}
 HEADER = re.compile(r"include/vorn/parsers/(\w+)\.h")
 VIEW = re.compile(r'viewBox="\S+ \S+ (\S+) (\S+)"')
 FONT_SIZE = re.compile(r'font: (\d+(?:\.\d+)?)px|font-size="(\d+(?:\.\d+)?)"')
+MAX_UNBROKEN = 20  # characters
 MIN_FONT_SIZE = 9  # pixels
 PIXELS = 4 / 3  # in a point
 LINE_OF_CODE = re.compile(r"cb\d+-\d+")
@@ -64,6 +65,10 @@ def without_line_numbers(code):
 
 
 def shape_code(body):
+    """Short code stays on one line."""
+    for code in body.iter("code"):
+        if len(text_of(code)) <= MAX_UNBROKEN:
+            code.set("class", "short")
     for block in body.iter("pre"):
         if (code := block.find("code")) is not None and code.find("span") is not None:
             block.remove(code)

@@ -29,6 +29,7 @@ WORDS = {
     "charliteral": "ch",
     "normal": None,
 }
+MAX_WIDTH = 72  # of a declaration on one line
 BLOCKS = {"itemizedlist", "orderedlist", "programlisting"}
 
 
@@ -148,19 +149,19 @@ def write_function(writer, function):
     parameters = function.findall("param")
     end = function.findtext("argsstring").rpartition(")")[2]
     end = re.sub(r"=(?=\w)", " = ", end)
-    words = {"explicit": "yes", "static": "yes", "virt": "pure-virtual"}
-    for word, value in words.items():
-        if function.get(word) == value:
-            word = "virtual" if word == "virt" else word
-            writer.element("span", word, **{"class": "kw"})
-            writer.data(" ")
+    words = [word for word in ("explicit", "static") if function.get(word) == "yes"]
+    if function.get("virt") != "non-virtual" and "override" not in end:
+        words.append("virtual")
+    for word in words:
+        writer.element("span", word, **{"class": "kw"})
+        writer.data(" ")
     before = plain(function.find("type"))
     writer.content(function.find("type"), tidy)
     name = (" " if before else "") + function.findtext("name")
     width = len(before + name + end) + sum(
         len(plain(parameter.find("type")) + name_in(parameter)) + 4 for parameter in parameters
     )
-    broken = width > 72 and parameters
+    broken = width > MAX_WIDTH and parameters
     writer.data(name + ("(\n    " if broken else "("))
     write_parameters(writer, parameters, ",\n    " if broken else ", ")
     writer.data(")" + end)

@@ -79,7 +79,11 @@
             .some(term => term.startsWith(word) || term === stem(word));
         const whole = found.filter(hit => words.every(word => has(hit, word)));
         if (whole.length > 0) {
-            return whole;
+            // What has just this name comes first, in the order of the pages.
+            const named = whole.filter(hit => searchIndex[hit.ref].title.toLowerCase() === input.value
+                .trim().toLowerCase());
+            named.sort((one, other) => one.ref - other.ref);
+            return [...named, ...whole.filter(hit => !named.includes(hit))];
         }
         return index.query(query => words.forEach(word => {
             query.term(word, {editDistance: word.length > 4 ? 2 : 1, usePipeline: false});
