@@ -18,6 +18,8 @@ from pages import GROUPS, REFERENCE, ROOT, Page, SiteError, missing_pages, targe
 from search_index import search_index
 
 SITE = ROOT / "site"
+# The parts of the style sheet, in their order: later ones prevail.
+STYLES = ["colours", "frame", "navigation", "search", "texts", "code", "tables", "reference", "print"]
 LUNR = pathlib.Path("/usr/share/javascript/lunr/lunr.min.js")
 
 
@@ -63,7 +65,9 @@ def build(directory, headers):
     (directory / "search-index.js").write_text(search_index(pages), encoding="utf-8")
     # Browsers ask for it where they show a picture or a plain text.
     (directory / "favicon.ico").touch()
-    for path in (SITE / "style.css", SITE / "search.js", LUNR):
+    style = "\n".join((SITE / f"style/{name}.css").read_text("utf-8") for name in STYLES)
+    (directory / "style.css").write_text(style, encoding="utf-8")
+    for path in (SITE / "search.js", LUNR):
         shutil.copyfile(path, directory / path.name)
 
 

@@ -67,8 +67,9 @@ def framed(pages, page):
                 element.set(name, relative(element.get(name), page.target))
     content = "".join(ElementTree.tostring(part, "unicode", "html") for part in body)
     heading = text_of(page.body.find("h1"))
+    title = heading if heading == "vorn_parsers" else heading + " - vorn_parsers"
     return TEMPLATE.substitute(
-        title=html.escape("vorn_parsers" if heading == "vorn_parsers" else heading + " - vorn_parsers"),
+        title=html.escape(title),
         description=html.escape(description_of(page.body)),
         root=relative(".", page.target),
         navigation="\n".join(navigation_of(pages, page)),

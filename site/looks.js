@@ -36,8 +36,8 @@ function backgroundOf(element) {
     }
     if (!backgrounds.has(element)) {
         const own = partsOf(getComputedStyle(element).backgroundColor);
-        const colour = own[3] === 1 ? own.slice(0, 3) : blended(own, backgroundOf(element.parentElement));
-        backgrounds.set(element, colour);
+        backgrounds.set(element, own[3] === 1 ? own.slice(0, 3)
+            : blended(own, backgroundOf(element.parentElement)));
     }
     return backgrounds.get(element);
 }
@@ -100,23 +100,31 @@ function faintTexts(texts) {
     return Array.from(faint, ([said, text]) => `${said}: "${text}"`);
 }
 
-// Those that reach beyond the screen without a frame that scrolls.
-function wideElements() {
-    if (document.scrollingElement.scrollWidth <= innerWidth) {
-        return [];
-    }
-    const scrolls = element => element !== document.scrollingElement && element !== document.body
-        && getComputedStyle(element).overflowX !== "visible";
-    const wide = Array.from(document.body.querySelectorAll("*")).filter(element => {
-        for (let outer = element.parentElement; outer !== null; outer = outer.parentElement) {
-            if (scrolls(outer)) {
-                return false;
-            }
+function isWide(element) {
+    return `${element.tagName.toLowerCase()} is wider than the screen:`
+        + ` "${element.textContent.trim().slice(0, 40)}"`;
+}
+
+// Whether an element is in a frame that scrolls by itself.
+function isFramed(element) {
+    for (let outer = element.parentElement; outer !== document.body; outer = outer.parentElement) {
+        if (getComputedStyle(outer).overflowX !== "visible") {
+            return true;
         }
-        return element.getBoundingClientRect().right > innerWidth;
-    });
-    return wide.slice(0, 3).map(element => `${element.tagName.toLowerCase()} is wider than the`
-        + ` screen: "${element.textContent.trim().slice(0, 40)}"`);
+    }
+    return false;
+}
+
+// What reaches beyond the screen without a frame, and tables that need one: only those of figures may.
+function wideElements() {
+    const tables = Array.from(document.querySelectorAll("table:not(.figures)"))
+        .filter(table => table.scrollWidth > table.parentElement.clientWidth);
+    if (document.scrollingElement.scrollWidth <= innerWidth) {
+        return tables.map(isWide);
+    }
+    const wide = Array.from(document.body.querySelectorAll("*")).filter(element =>
+        element.getBoundingClientRect().right > innerWidth && !isFramed(element));
+    return [...tables, ...wide.slice(0, 3)].map(isWide);
 }
 
 // Whether the navigation is seen, and whether its button, if there is one to be seen, opens it.

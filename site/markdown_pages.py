@@ -85,15 +85,17 @@ def shape_tables(body):
             for widths in table.findall("colgroup"):
                 table.remove(widths)
             names = [text_of(cell) for cell in table.iter("th")]
-            figures = sum("right" in cell.get("style", "") for cell in table.iter("th"))
-            if figures == 0 and len(names) > 2:
+            right = sum("right" in cell.get("style", "") for cell in table.iter("th"))
+            for cell in table.iter():
+                if "right" in cell.attrib.pop("style", "") and right < len(names) - 1:
+                    cell.set("class", "figure")
+            if right > 0 and right >= len(names) - 1:
+                table.set("class", "figures")
+            elif right == 0 and len(names) > 2:
                 table.set("class", "stacked")
                 for row in table.find("tbody"):
                     for name, cell in zip(names, row):
                         cell.set("data-label", name)
-            for cell in table.iter():
-                if "right" in cell.attrib.pop("style", ""):
-                    cell.set("class", "figure")
             frame = ElementTree.Element("div", {"class": "table", "tabindex": "0"})
             frame.tail, table.tail = table.tail, None
             frame.append(table)

@@ -23,7 +23,10 @@ SECOND = ICON + (
     '<style>@media (max-width: 600px) { nav { display: none } }</style>'
     '<nav><a href="second.html" aria-current="page">a</a></nav>'
 )
-THIRD = ICON + "<p>a page without a navigation</p>"
+THIRD = ICON + (
+    '<p>a page without a navigation</p><div style="overflow-x: auto">'
+    '<table style="width: 500px"><tr><td>wide, with a frame</td></tr></table></div>'
+)
 SEARCH = (
     "<input><script>const searchIndex = [{address: 'second.html#gone'}];"
     "addEventListener('keydown', () => document.querySelector('input').focus())</script>"
@@ -52,12 +55,18 @@ EXPECTED = [
     "index.html: the navigation is not folded",
     "second.html: the navigation does not open",
     "third.html: there is no navigation",
+    'third.html: 390 pixels, dark: table is wider than the screen: "wide, with a frame"',
     "the search finds nothing for 'second'",
     "the index has second.html#gone, which is not there",
     "third.html: the search does not know the page",
 ]
 # What is right, and must not be complained of.
-UNEXPECTED = ['light: contrast 1', "second.html: the current page", "second.html: the navigation is"]
+UNEXPECTED = [
+    "light: contrast 1",
+    "third.html: 1280",
+    "second.html: the current page",
+    "second.html: the navigation is",
+]
 
 
 def sees_what_is_wrong(visited):

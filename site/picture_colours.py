@@ -33,6 +33,10 @@ STYLE = re.compile(r' style="([^"]*)"')
 COLOUR = re.compile(r"(fill|stroke): (#\w+)")
 ATTRIBUTE = re.compile(r'(fill|stroke)="([^"]*)"')
 START = re.compile(r"<svg[^>]*>")
+# What Matplotlib writes and nothing needs.
+NO_ROTATION = re.compile(r' transform="rotate\(-0 [^)]*\)"')
+NAME_OF_GROUP = re.compile(r'(?<=<g) id="[\w.]+_\d+"')
+BLANKS = re.compile(r"\s*\n\s*")
 LONG_NUMBER = re.compile(r"\d+\.\d{3,}")
 
 
@@ -49,7 +53,9 @@ def dark_rules(styles, attributes):
 
 def with_both_colours(svg):
     """The picture with classes in place of styles, and a sheet that has them for light and dark."""
-    svg = METADATA.sub("", svg)
+    for needless in (METADATA, NO_ROTATION, NAME_OF_GROUP):
+        svg = needless.sub("", svg)
+    svg = BLANKS.sub("\n", svg)
     svg = LONG_NUMBER.sub(lambda number: f"{float(number[0]):.2f}".rstrip("0").rstrip("."), svg)
     svg = FAMILY.sub(FONTS, svg)
     styles = {}

@@ -238,6 +238,7 @@ def list_of_names(headers):
                 writer.element("code", name_of(thing))
                 writer.end("a")
                 writer.end("li")
+                writer.data(" ")
         writer.end("ul")
     writer.end("main")
     return writer.close()

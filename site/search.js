@@ -7,7 +7,7 @@
     const input = form.querySelector("input");
     const list = document.getElementById("hits");
     const separator = /[^\p{L}\p{N}_]+/u;
-    const maxHits = 12;
+    const maxHits = 10;
     let index = null;
     let loading = null;
 
@@ -96,7 +96,9 @@
         const from = start > 60 ? text.indexOf(" ", start - 60) + 1 : 0;
         const excerpt = document.createElement("span");
         excerpt.className = "text";
-        const shown = (from > 0 ? "... " : "") + text.slice(from, from + 150);
+        const end = text.length > from + 150 ? text.lastIndexOf(" ", from + 150) : text.length;
+        const shown = (from > 0 ? "... " : "") + text.slice(from, end)
+            + (end < text.length ? " ..." : "");
         const marks = new RegExp(`(${words.join("|")})`, "i");
         for (const [number, part] of shown.split(marks).entries()) {
             const node = document.createElement(number % 2 === 1 ? "mark" : "span");
