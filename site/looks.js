@@ -127,6 +127,13 @@ function wideElements() {
     return [...tables, ...wide.slice(0, 3)].map(isWide);
 }
 
+// Blocks of code that would lose their line breaks.
+function brokenCode() {
+    return Array.from(document.querySelectorAll("pre, pre *"))
+        .filter(element => !getComputedStyle(element).whiteSpace.startsWith("pre"))
+        .map(element => `code without its line breaks: "${element.textContent.slice(0, 40)}"`);
+}
+
 // Whether the navigation is seen, and whether its button, if there is one to be seen, opens it.
 function navigation() {
     const nav = document.querySelector("nav");
@@ -168,7 +175,7 @@ if (document.contentType !== "text/html") {
 }
 return {
     faint: faintTexts(textsOfPage()),
-    wide: wideElements(),
+    wide: [...wideElements(), ...brokenCode()],
     navigation: navigation(),
     pictures: picturesOfPage(),
 };

@@ -65,9 +65,10 @@ def without_line_numbers(code):
 
 
 def shape_code(body):
-    """Short code stays on one line."""
+    """Short code in a text stays on one line."""
+    in_blocks = set(body.findall(".//pre/code"))
     for code in body.iter("code"):
-        if len(text_of(code)) <= MAX_UNBROKEN:
+        if code not in in_blocks and len(text_of(code)) <= MAX_UNBROKEN:
             code.set("class", "short")
     for block in body.iter("pre"):
         if (code := block.find("code")) is not None and code.find("span") is not None:

@@ -26,6 +26,7 @@ SECOND = ICON + (
 THIRD = ICON + (
     '<p>a page without a navigation</p><div style="overflow-x: auto">'
     '<table style="width: 500px"><tr><td>wide, with a frame</td></tr></table></div>'
+    '<pre><code style="white-space: nowrap">one\ntwo</code></pre>'
 )
 SEARCH = (
     "<input><script>const searchIndex = [{address: 'second.html#gone'}];"
@@ -56,6 +57,7 @@ EXPECTED = [
     "second.html: the navigation does not open",
     "third.html: there is no navigation",
     'third.html: 390 pixels, dark: table is wider than the screen: "wide, with a frame"',
+    "third.html: 390 pixels, light: code without its line breaks",
     "the search finds nothing for 'second'",
     "the index has second.html#gone, which is not there",
     "third.html: the search does not know the page",
@@ -63,7 +65,7 @@ EXPECTED = [
 # What is right, and must not be complained of.
 UNEXPECTED = [
     "light: contrast 1",
-    "third.html: 1280",
+    "third.html: 1280 pixels, light: table",
     "second.html: the current page",
     "second.html: the navigation is",
 ]

@@ -156,10 +156,10 @@ def write_members(writer, headers, thing):
             writer.start("dt", {"id": headers.place(member), "data-title": title})
             writer.start("code", {"class": "sourceCode"})
             write_declaration(writer, member)
+            remark = "".join(member.find("detaileddescription").itertext()).strip()
+            if own and len(group) > 1 and remark:
+                writer.element("span", f"  // {remark}", **{"class": "co"})
             writer.end("code")
-            if own and len(group) > 1:
-                remark = "".join(member.find("detaileddescription").itertext()).strip()
-                writer.element("span", remark and f" // {remark}", **{"class": "co"})
             writer.end("dt")
         writer.start("dd", {})
         parts = [group[0].find("briefdescription")]

@@ -159,7 +159,7 @@ def write_function(writer, function):
     writer.content(function.find("type"), tidy)
     name = (" " if before else "") + function.findtext("name")
     width = len(before + name + end) + sum(
-        len(plain(parameter.find("type")) + name_in(parameter)) + 4 for parameter in parameters
+        len(plain(parameter.find("type")) + name_in(parameter)) + 2 for parameter in parameters
     )
     broken = width > MAX_WIDTH and parameters
     writer.data(name + ("(\n    " if broken else "("))
