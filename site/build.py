@@ -67,7 +67,7 @@ def build(directory, headers):
     (directory / "favicon.ico").touch()
     style = "\n".join((SITE / f"style/{name}.css").read_text("utf-8") for name in STYLES)
     (directory / "style.css").write_text(style, encoding="utf-8")
-    for path in (SITE / "search.js", LUNR):
+    for path in (SITE / "menu.js", SITE / "search.js", LUNR):
         shutil.copyfile(path, directory / path.name)
 
 

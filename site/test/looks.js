@@ -1,5 +1,5 @@
 // Looks at the page that is open; browse.py runs this in it, for each screen.
-// Returns what does not fit, what cannot be read, and how the navigation is.
+// Returns what does not fit and what cannot be read.
 "use strict";
 
 const minContrast = 4.5;
@@ -134,24 +134,6 @@ function brokenCode() {
         .map(element => `code without its line breaks: "${element.textContent.slice(0, 40)}"`);
 }
 
-// Whether the navigation is seen, and whether its button, if there is one to be seen, opens it.
-function navigation() {
-    const nav = document.querySelector("nav");
-    const button = document.querySelector("[popovertarget]");
-    if (nav === null) {
-        return null;
-    }
-    const seen = nav.checkVisibility();
-    let opens = false;
-    if (button !== null && button.checkVisibility()) {
-        button.click();
-        opens = nav.checkVisibility();
-        button.click();
-    }
-    const marked = Array.from(nav.querySelectorAll("[aria-current=page]"), link => link.href);
-    return {seen, opens, marked};
-}
-
 // The widths of the pictures, by their addresses.
 function picturesOfPage() {
     return Array.from(document.querySelectorAll("img[src$='.svg']"), image =>
@@ -166,6 +148,7 @@ if (document.documentElement instanceof SVGElement) {
         parseFloat(getComputedStyle(text).fontSize));
     return {
         faint: faintTexts(textsOfPicture()),
+        background: luminance(shapeBelow(document.querySelector("text"))),
         // The smallest text, as a share of the picture's width.
         smallest: Math.min(...sizes) / document.documentElement.viewBox.baseVal.width,
     };
@@ -176,6 +159,5 @@ if (document.contentType !== "text/html") {
 return {
     faint: faintTexts(textsOfPage()),
     wide: [...wideElements(), ...brokenCode()],
-    navigation: navigation(),
     pictures: picturesOfPage(),
 };

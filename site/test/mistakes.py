@@ -28,14 +28,20 @@ THIRD = ICON + (
     '<table style="width: 500px"><tr><td>wide, with a frame</td></tr></table></div>'
     '<pre><code style="white-space: nowrap">one\ntwo</code></pre>'
 )
+# Nothing folds its navigation away again.
+FOURTH = ICON + (
+    '<button popovertarget="menu">a</button><nav id="menu" popover><ul class="sections">'
+    '<li><a href="#menu">a</a></li></ul></nav>'
+)
 SEARCH = (
     "<input><script>const searchIndex = [{address: 'second.html#gone'}];"
     "addEventListener('keydown', () => document.querySelector('input').focus())</script>"
 )
 FILES = {
-    "index.html": FIRST + SEARCH + '<a href="third.html">c</a>',
+    "index.html": FIRST + SEARCH + '<a href="third.html">c</a><a href="fourth.html">d</a>',
     "second.html": SECOND,
     "third.html": THIRD,
+    "fourth.html": FOURTH,
     "picture.svg": PICTURE,
     "orphan.html": "",
     "favicon.ico": "",
@@ -51,11 +57,13 @@ EXPECTED = [
     'light: contrast 2.8, rgb(153, 153, 153) on rgb(255,255,255): "faint"',
     '"faint in the dark"',
     "picture.svg: 390 pixels, light: contrast 3.",
+    "picture.svg: 390 pixels, dark: the picture is bright",
     "a text of 6.0 pixels",
     "index.html: the current page is not marked",
     "index.html: the navigation is not folded",
     "second.html: the navigation does not open",
     "third.html: there is no navigation",
+    "fourth.html: the navigation stays open",
     'third.html: 390 pixels, dark: table is wider than the screen: "wide, with a frame"',
     "third.html: 390 pixels, light: code without its line breaks",
     "the search finds nothing for 'second'",
@@ -80,5 +88,5 @@ def sees_what_is_wrong(visited):
     missed = [sign for sign in EXPECTED if sign not in complaints]
     invented = [sign for sign in UNEXPECTED if sign in complaints]
     if missed or invented:
-        print(f"site/browse.py does not see {missed}, but sees {invented} in\n{complaints}")
+        print(f"site/test/browse.py does not see {missed}, but sees {invented} in\n{complaints}")
     return not missed and not invented

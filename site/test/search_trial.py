@@ -54,7 +54,7 @@ def try_search(visit, root, trials):
     for number, (text, expected) in enumerate(trials.items()):
         hits = typed(visit.driver, start, text)
         if number == 0:
-            visit.looks.look(start)  # with its hits
+            visit.looks.look(start, only_texts=True)  # with the hits
         if not hits:
             visit.complain(start, f"the search finds nothing for {text!r}")
         elif (reached := follow_first(visit.driver, hits)) != hits[0]:

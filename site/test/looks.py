@@ -4,9 +4,13 @@ import pathlib
 
 from browser import set_screen
 
-LOOKS = pathlib.Path(__file__).with_name("looks.js").read_text(encoding="utf-8")
+LOOKS, NAVIGATION = (
+    pathlib.Path(__file__).with_name(name).read_text(encoding="utf-8")
+    for name in ("looks.js", "navigation.js")
+)
 NARROW, WIDE = 390, 1280
 SCREENS = [(width, colours) for colours in ("light", "dark") for width in (NARROW, WIDE)]
+MAX_DARK = 0.1  # the luminance of a picture's background
 MIN_FONT_SIZE = 9  # of pictures, in pixels
 
 
@@ -19,7 +23,7 @@ class Looks:
         self.smallest = {}  # picture: its smallest text, as a share of its width
         self.shown = []  # (page, screen, picture, its width there)
 
-    def look(self, page):
+    def look(self, page, only_texts=False):
         """Looks at the page that is open."""
         for width, colours in SCREENS:
             set_screen(self.driver, width, colours)
@@ -31,9 +35,13 @@ class Looks:
                 self.complain(page, f"{screen}: {what}")
             if "smallest" in seen:
                 self.smallest[page] = seen["smallest"]
-                continue
-            self.look_at_navigation(page, width, seen["navigation"])
-            self.shown += [(page, screen, *picture) for picture in seen["pictures"]]
+                if colours == "dark" and seen["background"] > MAX_DARK:
+                    self.complain(page, f"{screen}: the picture is bright")
+            if "pictures" in seen:
+                self.shown += [(page, screen, *picture) for picture in seen["pictures"]]
+            if "pictures" in seen and not only_texts:
+                navigation = self.driver.execute_script(NAVIGATION)
+                self.look_at_navigation(page, width, navigation)
 
     def look_at_navigation(self, page, width, navigation):
         if navigation is None:
@@ -47,6 +55,8 @@ class Looks:
             self.complain(page, "the navigation is not folded on a narrow screen")
         if width == NARROW and not navigation["opens"]:
             self.complain(page, "the navigation does not open")
+        if navigation["stays"]:
+            self.complain(page, "the navigation stays open")
 
     def compare_pictures(self):
         """Once all pages and pictures have been looked at."""
