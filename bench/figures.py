@@ -71,6 +71,7 @@ def bars(axes, drawn, groups):
         axes.bar(places, heights, width, color=colour, label=name)
     axes.set_xticks(range(len(groups)), groups)
     axes.set_yscale("log")
+    axes.yaxis.set_major_formatter("{x:,.0f}")
     axes.set_axisbelow(True)
     axes.grid(axis="y", color="#e0e0e0")
     axes.spines[["top", "right"]].set_visible(False)

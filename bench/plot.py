@@ -101,24 +101,25 @@ def draw_picture(picture, rates, caption):
     # The same figures make the same file, with text that stays text.
     plot.rcParams.update({"svg.hashsalt": "vorn", "svg.fonttype": "none", "font.size": 9})
     columns = math.ceil(len(kinds) / 2)
-    figure, panels = plot.subplots(2, columns, figsize=(1 + 3 * columns, 6.4), sharey=True)
+    # As narrow as it can be read on a page of text, and on a telephone with little scrolling.
+    figure, panels = plot.subplots(2, columns, figsize=(1 + 1.7 * columns, 4.8), sharey=True)
     figure.subplots_adjust(
-        left=0.07, right=0.99, bottom=0.1, top=0.88, wspace=0.05, hspace=0.3
+        left=0.1, right=0.99, bottom=0.12, top=0.82, wspace=0.05, hspace=0.35
     )
     for axes in panels.flat[len(kinds) :]:
         axes.remove()
     for axes, (kind, sizes) in zip(panels.flat, kinds.items()):
         figures.bars(axes, drawn, sizes)
-        axes.set_title(kind, fontsize=10)
+        axes.set_title(kind, fontsize=9)
         axes.set_xlim(-0.6, 2.6)
     # Left to itself, the common axis ends far above the bars.
     fastest = max(measured[reader] for measured in rates.values() for reader, *_ in drawn)
     panels[0, 0].set_ylim(1, 1.5 * fastest)
     for axes in panels[:, 0]:
-        axes.set_ylabel("MB/s of TOML (logarithmic)")
+        axes.set_ylabel("MB/s (logarithmic)")
     handles, names = panels[0, 0].get_legend_handles_labels()
-    figure.legend(handles, names, loc="upper center", ncols=len(names), frameon=False)
-    figure.text(0.5, 0.02, caption, fontsize=8, color="#555555", horizontalalignment="center")
+    figure.legend(handles, names, loc="upper center", ncols=math.ceil(len(names) / 2), frameon=False)
+    figure.text(0.5, 0.02, caption, color="#555555", horizontalalignment="center")
     figure.savefig(picture, metadata={"Date": None})
 
 

@@ -58,8 +58,8 @@ def allocations_table(runs):
 def draw_picture(picture, rates, caption):
     # The same figures make the same file, with text that stays text.
     plot.rcParams.update({"svg.hashsalt": "vorn", "svg.fonttype": "none", "font.size": 9})
-    figure, axes = plot.subplots(figsize=(10, 3.8))
-    figure.subplots_adjust(left=0.07, right=0.99, bottom=0.16, top=0.88)
+    figure, axes = plot.subplots(figsize=(7.8, 3.6))
+    figure.subplots_adjust(left=0.1, right=0.99, bottom=0.16, top=0.88)
     figures.bars(axes, [(reader, *look) for reader, look in READERS.items()], rates)
     # Left to itself, the axis ends far above the bars.
     fastest = max(rate for measured in rates.values() for rate in measured.values())
@@ -67,7 +67,7 @@ def draw_picture(picture, rates, caption):
     axes.set_ylabel("MB/s (logarithmic)")
     handles, names = axes.get_legend_handles_labels()
     figure.legend(handles, names, loc="upper center", ncols=len(names), frameon=False)
-    figure.text(0.5, 0.02, caption, fontsize=8, color="#555555", horizontalalignment="center")
+    figure.text(0.5, 0.02, caption, color="#555555", horizontalalignment="center")
     figure.savefig(picture, metadata={"Date": None})
 
 

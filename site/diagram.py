@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Checks a diagram: diagram.py SOURCE PICTURE
 
-The picture shows what Graphviz makes of the source, places aside, which depend on fonts.  Every
-stage names a file of the repository in its last line, or is dashed.
+The picture shows what Graphviz makes of the source, in colours for light and dark; places aside,
+which depend on fonts.  Every stage names a file of the repository in its last line, or is dashed.
 """
 
 import json
@@ -10,6 +10,8 @@ import pathlib
 import re
 import subprocess
 import sys
+
+from picture_colours import with_both_colours
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 FILE = re.compile(r"[\w.-]+(?:/[\w.-]+)+")
@@ -22,10 +24,11 @@ def graphviz(source, form):
 
 
 def complaints_of(source, picture):
-    if NUMBER.sub("", graphviz(source, "svg")) != NUMBER.sub("", picture.read_text()):
+    expected = with_both_colours(graphviz(source, "svg"))
+    if NUMBER.sub("", expected) != NUMBER.sub("", picture.read_text()):
         yield f"{picture} is not of {source}: run scripts/docs pictures"
     for shape in json.loads(graphviz(source, "json"))["objects"]:
-        label = shape.get("label", "").replace("\\n", "\n")
+        label = re.sub(r"\\[nl]", "\n", shape.get("label", ""))
         files = FILE.findall(label)
         if not files and "dashed" not in shape.get("style", ""):
             yield f"{source}: {shape['name']} names no file"

@@ -2,20 +2,18 @@
 """Prints a header with its `//` comments as Doxygen reads them: header_comments.py HEADER
 
 The comment above a declaration is that of all declarations below it, up to the next blank
-line; one beside a declaration is about that one alone.  A comment between blank lines is about the namespace, and the first one of a file is
-about the file; that of toml.h is the reference's first page, too.  Indented lines are code,
-apart from lists.
+line; one beside a declaration is about that one alone.  The first comment of a file is about
+the file.  A comment between blank lines is a page for Doxygen, whose name says after which line
+of the output it stands: note-toml-120.  Indented lines are code, apart from lists.
 """
 
 import html
-import itertools
 import pathlib
 import re
 import sys
 
-FIRST_PAGE = "toml.h"
 COMMENT = re.compile(r"\s*//( ?)(.*)")
-NAMESPACE = re.compile(r"^namespace ([\w:]+)$", re.MULTILINE)
+INTERNAL = re.compile(r"(} // )?namespace config$")  # its start and its end
 DECLARATION = re.compile(r"#define .*|\s*[\w~].*[;}]")
 BESIDE = re.compile(r"(\s*\w.*[,;])\s*// (?!NOLINT)(.*)")
 CODE_SPAN = re.compile(r"`([^`]*)`")
@@ -53,12 +51,13 @@ def block(comment, command="\\brief"):
     return [f"/// {line}".rstrip() for line in [command, *converted(comment)]]
 
 
-def filtered(lines, namespace):
+def filtered(lines, header):
     """The lines of a header with Doxygen's comments."""
     output = []
     comment = []  # the lines of the one being read
     attached = []  # the lines of the one above the declarations being read
     is_first = True
+    internal = False
     for line in lines:
         match = COMMENT.fullmatch(line)
         if match:
@@ -66,11 +65,13 @@ def filtered(lines, namespace):
             continue
         if comment and is_first:
             output += block(comment, "\\file")
-        elif comment and not line.strip():
-            output += [*block(comment, f"\\namespace {namespace}"), ""]
+        elif comment and not line.strip() and not internal:
+            output += [*block(comment, f"\\page note-{header}-{len(output)}"), ""]
         elif comment:
             attached = comment
         is_first = is_first and not comment
+        if INTERNAL.match(line):
+            internal = not line.startswith("}")
         beside = []
         if match := BESIDE.fullmatch(line):
             line, beside = match[1], [match[2]]
@@ -86,12 +87,7 @@ def filtered(lines, namespace):
 
 def main():
     path = pathlib.Path(sys.argv[1])
-    header = path.read_text(encoding="utf-8")
-    namespace = NAMESPACE.search(header)
-    lines = filtered(header.splitlines(), namespace[1] if namespace else "")
-    if path.name == FIRST_PAGE:
-        comment = itertools.takewhile(COMMENT.fullmatch, header.splitlines())
-        lines = block([COMMENT.fullmatch(line)[2] for line in comment], "\\mainpage") + [""] + lines
+    lines = filtered(path.read_text(encoding="utf-8").splitlines(), path.stem)
     sys.stdout.write("\n".join(lines) + "\n")
 
 
