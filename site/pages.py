@@ -20,7 +20,7 @@ GROUPS = {
     ],
     "Reference": [],  # of the headers; reference.py makes them
     "Tool": ["docs/errors.md", "docs/fix.md", "docs/editors-and-ci.md"],
-    "Quality": ["docs/reliability.md", "docs/performance.md", "docs/growth.md"],
+    "Quality": ["docs/reliability.md", "docs/performance.md", "docs/growth.md", "docs/sizes.md"],
     "Project": [
         "docs/promises.md",
         "docs/packaging.md",
