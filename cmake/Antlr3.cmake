@@ -1,12 +1,12 @@
 # The ANTLR 3 tool, which makes the recognisers, and its C runtime.
 
 # An archive of scripts/release has the recognisers' sources in generated/, with the checksums of
-# these and of what they were made of.  As long as all fit, nobody looks for the tool.
+# these and of what they were made with.  As long as all fit, nobody looks for the tool.
 set(VORN_ARCHIVED_RECOGNISERS ${PROJECT_SOURCE_DIR}/generated)
 
-# vorn_unlike_archived(VARIABLE): which of those files are not as they were.
-function(vorn_unlike_archived variable)
-    set(different)
+# vorn_find_changes(VARIABLE): which of those files are not as they were.
+function(vorn_find_changes variable)
+    set(changed)
     file(STRINGS ${VORN_ARCHIVED_RECOGNISERS}/checksums lines REGEX "^[0-9a-f]")
     foreach(line IN LISTS lines)
         string(REGEX MATCH "^([0-9a-f]+)  (.+)$" matched "${line}")
@@ -17,38 +17,34 @@ function(vorn_unlike_archived variable)
             file(SHA256 ${PROJECT_SOURCE_DIR}/${name} found)
         endif()
         if(NOT found STREQUAL expected)
-            list(APPEND different ${name})
+            list(APPEND changed ${name})
         endif()
-        # A change after this run has CMake run again.
+        # A later change makes CMake run again.
         set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY
             CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${name})
     endforeach()
-    set(${variable} ${different} PARENT_SCOPE)
+    string(REPLACE ";" ", " changed "${changed}")
+    set(${variable} ${changed} PARENT_SCOPE)
 endfunction()
 
-set(archived OFF)
-set(different)
+set(VORN_RECOGNISERS_ARE_ARCHIVED OFF)
+set(why_again)
 if(EXISTS ${VORN_ARCHIVED_RECOGNISERS}/checksums)
-    vorn_unlike_archived(different)
-    if(NOT different)
-        set(archived ON)
+    vorn_find_changes(changed)
+    if(changed)
+        set(why_again "The recognisers have to be made again, since generated/ was made with "
+            "another state of: ${changed}.\n")
+    else()
+        set(VORN_RECOGNISERS_ARE_ARCHIVED ON)
     endif()
 endif()
-set(VORN_RECOGNISERS_ARE_ARCHIVED ${archived})
-
-if(VORN_RECOGNISERS_ARE_ARCHIVED)
-    set(VORN_RECOGNISERS_FROM "not needed: the recognisers' sources are in the archive")
-else()
+# For the summary.
+set(VORN_RECOGNISERS_FROM "not needed: the recognisers' sources are in the archive")
+if(NOT VORN_RECOGNISERS_ARE_ARCHIVED)
     find_program(ANTLR3_TOOL antlr3 DOC "The ANTLR 3 tool")
     if(NOT ANTLR3_TOOL)
-        set(reason)
-        if(different)
-            list(JOIN different ", " different)
-            set(reason "The recognisers' sources in ${VORN_ARCHIVED_RECOGNISERS} have to be made "
-                "again, since this is not as it was when they were made: ${different}. ")
-        endif()
         message(FATAL_ERROR
-            ${reason} "antlr3 was not found. It is in the Debian package antlr3.")
+            ${why_again} "antlr3 was not found. It is in the Debian package antlr3.")
     endif()
     set(VORN_RECOGNISERS_FROM ${ANTLR3_TOOL})
 endif()
@@ -102,8 +98,8 @@ function(antlr_recognisers grammar)
         set(depends ${PROJECT_SOURCE_DIR}/src/grammar/${grammar} ${script})
         set(comment "Making the recognisers of ${grammar}")
     endif()
-    # What has been copied may be younger than a grammar that asks for the tool, and the other way
-    # round: this file is younger than what was made in another way.
+    # What was copied may be younger than a grammar that has changed since, and what was made than
+    # the archive's.  These files are younger than what came about in the other way.
     file(MAKE_DIRECTORY ${directory})
     file(GENERATE OUTPUT ${directory}/${grammar}.way CONTENT "${comment}\n")
     list(TRANSFORM arg_OUTPUTS PREPEND ${directory}/)
@@ -111,6 +107,6 @@ function(antlr_recognisers grammar)
         OUTPUT ${arg_OUTPUTS}
         COMMAND ${CMAKE_COMMAND} ${command}
         DEPENDS ${depends} ${directory}/${grammar}.way ${arg_DEPENDS}
-        COMMENT ${comment}
+        COMMENT "${comment}"
         VERBATIM)
 endfunction()
