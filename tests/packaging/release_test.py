@@ -118,9 +118,7 @@ def check_without_tool(archive, version, directory):
     """Where there is neither the tool nor Java, by plain CMake."""
     root = EmptyRoot(directory)
     # The shell, with which Make runs the compiler, is essential: nothing depends on it.
-    # (The last two are the tool's that explains, until it can be left out.)
-    root.add("dash", "g++", "cmake", "make", "libantlr3c-dev", "libcli11-dev",
-             "nlohmann-json3-dev")
+    root.add("dash", "g++", "cmake", "make", "libantlr3c-dev")
     for name in ("antlr3", "java"):
         if list(root.path.glob(f"usr/*bin/{name}*")) or (root.path / "usr/share/java").exists():
             raise Failure(f"{name} is in the root")
