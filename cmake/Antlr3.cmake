@@ -1,7 +1,52 @@
 # The ANTLR 3 tool, which makes the recognisers, and its C runtime.
-find_program(ANTLR3_TOOL antlr3 DOC "The ANTLR 3 tool")
-if(NOT ANTLR3_TOOL)
-    message(FATAL_ERROR "antlr3 was not found. It is in the Debian package antlr3.")
+
+# An archive of scripts/release has the recognisers' sources in generated/, with the checksums of
+# these and of what they were made with.  As long as all fit, nobody looks for the tool.
+set(VORN_ARCHIVED_RECOGNISERS ${PROJECT_SOURCE_DIR}/generated)
+
+# vorn_find_changes(VARIABLE): which of those files are not as they were.
+function(vorn_find_changes variable)
+    set(changed)
+    file(STRINGS ${VORN_ARCHIVED_RECOGNISERS}/checksums lines REGEX "^[0-9a-f]")
+    foreach(line IN LISTS lines)
+        string(REGEX MATCH "^([0-9a-f]+)  (.+)$" matched "${line}")
+        set(expected "${CMAKE_MATCH_1}")
+        set(name "${CMAKE_MATCH_2}")
+        set(found)
+        if(EXISTS ${PROJECT_SOURCE_DIR}/${name})
+            file(SHA256 ${PROJECT_SOURCE_DIR}/${name} found)
+        endif()
+        if(NOT found STREQUAL expected)
+            list(APPEND changed ${name})
+        endif()
+        # A later change makes CMake run again.
+        set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY
+            CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${name})
+    endforeach()
+    string(REPLACE ";" ", " changed "${changed}")
+    set(${variable} ${changed} PARENT_SCOPE)
+endfunction()
+
+set(VORN_RECOGNISERS_ARE_ARCHIVED OFF)
+set(why_again)
+if(EXISTS ${VORN_ARCHIVED_RECOGNISERS}/checksums)
+    vorn_find_changes(changed)
+    if(changed)
+        set(why_again "The recognisers have to be made again, since generated/ was made with "
+            "another state of: ${changed}.\n")
+    else()
+        set(VORN_RECOGNISERS_ARE_ARCHIVED ON)
+    endif()
+endif()
+# For the summary.
+set(VORN_RECOGNISERS_FROM "not needed: the recognisers' sources are in the archive")
+if(NOT VORN_RECOGNISERS_ARE_ARCHIVED)
+    find_program(ANTLR3_TOOL antlr3 DOC "The ANTLR 3 tool")
+    if(NOT ANTLR3_TOOL)
+        message(FATAL_ERROR
+            ${why_again} "antlr3 was not found. It is in the Debian package antlr3.")
+    endif()
+    set(VORN_RECOGNISERS_FROM ${ANTLR3_TOOL})
 endif()
 
 find_path(ANTLR3C_INCLUDE_DIR antlr3.h DOC "Where the ANTLR 3 C runtime's headers are")
@@ -37,16 +82,31 @@ if(NOT ANTLR3C_IS_FOR_THIS_PROCESSOR)
 endif()
 
 # antlr_recognisers(GRAMMAR OUTPUTS...): makes the recognisers of src/grammar/GRAMMAR in
-# the same place below the build directory.
+# the same place below the build directory, or takes the archive's.
 function(antlr_recognisers grammar)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "OUTPUTS;DEPENDS")
-    list(TRANSFORM arg_OUTPUTS PREPEND ${PROJECT_BINARY_DIR}/src/grammar/)
+    set(directory ${PROJECT_BINARY_DIR}/src/grammar)
+    if(VORN_RECOGNISERS_ARE_ARCHIVED)
+        list(TRANSFORM arg_OUTPUTS PREPEND ${VORN_ARCHIVED_RECOGNISERS}/ OUTPUT_VARIABLE archived)
+        set(command -E copy ${archived} ${directory})
+        set(depends ${archived})
+        set(comment "Copying the recognisers of ${grammar}")
+    else()
+        set(script ${PROJECT_SOURCE_DIR}/cmake/RunAntlr.cmake)
+        set(command -DANTLR3=${ANTLR3_TOOL} -DGRAMMAR=src/grammar/${grammar}
+            -DOUTPUT=${directory} -P ${script})
+        set(depends ${PROJECT_SOURCE_DIR}/src/grammar/${grammar} ${script})
+        set(comment "Making the recognisers of ${grammar}")
+    endif()
+    # What was copied may be younger than a grammar that has changed since, and what was made than
+    # the archive's.  These files are younger than what came about in the other way.
+    file(MAKE_DIRECTORY ${directory})
+    file(GENERATE OUTPUT ${directory}/${grammar}.way CONTENT "${comment}\n")
+    list(TRANSFORM arg_OUTPUTS PREPEND ${directory}/)
     add_custom_command(
         OUTPUT ${arg_OUTPUTS}
-        COMMAND ${CMAKE_COMMAND} -DANTLR3=${ANTLR3_TOOL} -DGRAMMAR=src/grammar/${grammar}
-            -DOUTPUT=${PROJECT_BINARY_DIR}/src/grammar -P ${PROJECT_SOURCE_DIR}/cmake/RunAntlr.cmake
-        DEPENDS ${PROJECT_SOURCE_DIR}/src/grammar/${grammar}
-            ${PROJECT_SOURCE_DIR}/cmake/RunAntlr.cmake ${arg_DEPENDS}
-        COMMENT "Making the recognisers of ${grammar}"
+        COMMAND ${CMAKE_COMMAND} ${command}
+        DEPENDS ${depends} ${directory}/${grammar}.way ${arg_DEPENDS}
+        COMMENT "${comment}"
         VERBATIM)
 endfunction()

@@ -119,7 +119,7 @@ def main():
         wanted = list(compilations(options.source, found))
         clients = pool.map(lambda name: failure_of_client(options, name, pathlib.Path(directory)),
                            found)
-        failures = [*pool.map(lambda one: errors_of(options.source, one), wanted), *clients]
+        failures = [*clients, *pool.map(lambda one: errors_of(options.source, one), wanted)]
     headers = sum(one.is_header for one in wanted) // len(found)
     print(f"{headers} compilations of headers and {len(wanted) // len(found) - headers} of programs "
           "with each compiler")
