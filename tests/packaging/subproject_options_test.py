@@ -24,12 +24,17 @@ class Project:
 
     def __init__(self, source, build, *options):
         self.source, self.build, self.options = source, build, options
+        self.told = []
+
+    def arguments(self, options):
+        """Those of this run, which forget what earlier ones were told, and nothing else."""
+        forgotten = [option.partition("=")[0].replace("-D", "-U") for option in self.told]
+        self.told = options
+        return [*forgotten, *self.options, *options]
 
     def has(self, *parts, options=(), found=()):
         """With these options and what can be found, there are these parts and no others."""
-        # What an earlier run was told is forgotten.
-        forgotten = [f"-U{name}" for name in (*TARGET_OF, "BUILD_TESTING")]
-        configure(self.source, self.build, *forgotten, *self.options, *options, found=found)
+        configure(self.source, self.build, *self.arguments(options), found=found)
         there = targets(self.build)
         wrong = [part for part, target in TARGET_OF.items()
                  if (target in there) != (part in parts)]
@@ -37,9 +42,8 @@ class Project:
             raise Failure(f"{self.source} with {options}: {wrong} should be the other way")
 
     def fails(self, message, *options, found=()):
-        forgotten = [f"-U{name}" for name in (*TARGET_OF, "BUILD_TESTING")]
-        check_configuring_fails(self.source, self.build, message, *forgotten, *self.options,
-                                *options, found=found)
+        check_configuring_fails(self.source, self.build, message, *self.arguments(options),
+                                found=found)
 
 
 def check_contradictions(project):
