@@ -6,6 +6,13 @@
 // document model and keeps no state between calls.
 //
 // Units used below: a "text" is a NUL-terminated string of UTF-8 bytes.
+//
+// Your program may do without exceptions or type information (-fno-exceptions, -fno-rtti): it
+// gets the same library, but for StrictTomlTreeVisitor.  What a function throws, such as
+// std::bad_alloc, then ends the program.  On 32-bit ARM that is so wherever an exception comes
+// to code that is compiled without them, even if other code would catch it; elsewhere it passes
+// that code, which frees nothing.  Visitors of code without type information work like others,
+// but nobody may use dynamic_cast or typeid on them.
 #ifndef VORN_PARSERS_TOML_H
 #define VORN_PARSERS_TOML_H
 
@@ -389,7 +396,8 @@ VORN_PARSERS_API bool parseBoolean(const std::string& text);
 // Binary values are limited to 32 bits on every platform.  Of the digits after "0b" the
 // first 64 are read.  One that is neither 0 nor 1 throws std::invalid_argument
 // ("bitset::_M_copy_from_ptr"), and a value above 4294967295 throws std::overflow_error
-// ("_Base_bitset::_M_do_to_ulong").  Nothing else is thrown.
+// ("_Base_bitset::_M_do_to_ulong").  Nothing else is thrown.  A document may have such a value:
+// without exceptions, use integerValue() of toml_values.h.
 //
 //   parseInteger("-1_000")                // -1000
 //   parseInteger("0xDEAD_beef")           // 3735928559

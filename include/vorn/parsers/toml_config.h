@@ -17,6 +17,8 @@
 //       std::cerr << problem << '\n';   // app.toml:4:11: dns.timeout: 99 is not in 0.1 to 60
 //   }
 //
+// A program without exceptions ends where a function would throw; toml.h says more about these.
+//
 // This is a library of its own, libvorn_toml_config, on top of libvorn_parsers and
 // libvorn_toml_diagnosis.  It builds no document model.
 #ifndef VORN_PARSERS_TOML_CONFIG_H

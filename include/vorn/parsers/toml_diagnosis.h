@@ -21,6 +21,8 @@
 //      12 | names = []
 //         |          ^
 //
+// A program without exceptions ends where a function would throw; toml.h says more about these.
+//
 // This is a library of its own, libvorn_toml_diagnosis: a device that does not
 // explain mistakes leaves it out.
 #ifndef VORN_PARSERS_TOML_DIAGNOSIS_H

@@ -20,6 +20,8 @@
 // as one with a blank around it, there is no value, either: each function says what
 // it returns then.  Any bytes are safe.
 //
+// A program without exceptions ends where a function would throw; toml.h says more about these.
+//
 // This is a part of libvorn_toml_config.
 #ifndef VORN_PARSERS_TOML_VALUES_H
 #define VORN_PARSERS_TOML_VALUES_H

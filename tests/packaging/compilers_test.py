@@ -1,0 +1,132 @@
+"""Compiles the public headers and clients with each compiler, as clients do, and runs one.
+
+The warnings that careful projects ask for are errors in them: the headers are not a system's.
+Each header is compiled alone, with and without exceptions and type information, by each standard.
+Then the client without both is linked with the libraries of the build, and run.
+"""
+
+import argparse
+import concurrent.futures
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+from typing import NamedTuple
+
+WITH = ()
+WITHOUT = ("-fno-exceptions", "-fno-rtti")
+HEADER_WAYS = [(standard, flags) for standard in ("c++17", "c++20", "c++2b")
+               for flags in (WITH, WITHOUT)]
+# Programs take longer: each has one standard for each way.
+PROGRAM_WAYS = [("c++17", WITHOUT), ("c++2b", WITH)]
+WARNINGS = ("-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Wshadow", "-Wold-style-cast",
+            "-Werror")
+PLAIN = "tests/packaging/plain_client.cpp"
+# Programs, and how they can be compiled.
+PROGRAMS = {
+    "examples/config_reader.cpp": (WITH, WITHOUT),
+    "examples/daemon_config.cpp": (WITH, WITHOUT),
+    "examples/network_config.cpp": (WITH, WITHOUT),
+    "examples/toml_to_json.cpp": (WITH, WITHOUT),
+    "tests/packaging/consumer/consumer.cpp": (WITH,),  # its visitor throws
+    "tests/packaging/consumer/explain.cpp": (WITH, WITHOUT),
+    "tests/packaging/consumer/place.cpp": (WITH,),  # it asks for a type
+    "tests/packaging/version_program.cpp": (WITH, WITHOUT),
+    PLAIN: (WITHOUT,),
+}
+
+
+class Compilation(NamedTuple):
+    compiler: str
+    standard: str
+    flags: tuple
+    name: str  # of a header, as it is included, or of a program
+    is_header: bool
+
+    def __str__(self):
+        return " ".join((self.compiler, f"-std={self.standard}", *self.flags, self.name))
+
+
+def said_by(command, text=None):
+    """Whether a command succeeds, and its output."""
+    environment = {name: value for name, value in os.environ.items() if name != "LD_LIBRARY_PATH"}
+    result = subprocess.run([str(word) for word in command], input=text, env=environment, text=True,
+                            stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
+    return result.returncode == 0, result.stdout
+
+
+def version_of(compiler):
+    """The compiler's first line about itself, or nothing if there is none of that name."""
+    try:
+        return said_by([compiler, "--version"])[1].partition("\n")[0]
+    except OSError:
+        return ""
+
+
+def compilations(root, compilers):
+    headers = sorted(str(path.relative_to(root / "include"))
+                     for path in (root / "include").rglob("*.h"))
+    for compiler in compilers:
+        for standard, flags in HEADER_WAYS:
+            for header in headers:
+                yield Compilation(compiler, standard, flags, header, True)
+        for standard, flags in PROGRAM_WAYS:
+            for program, possible in PROGRAMS.items():
+                if flags in possible:
+                    yield Compilation(compiler, standard, flags, program, False)
+
+
+def errors_of(root, compilation):
+    """What the compiler says of a header or a program, if it is not content."""
+    command = [compilation.compiler, f"-std={compilation.standard}", *compilation.flags, *WARNINGS,
+               "-I", root / "include", "-fsyntax-only", "-x", "c++"]
+    if compilation.is_header:
+        succeeded, said = said_by([*command, "-"], f"#include <{compilation.name}>\n")
+    else:
+        succeeded, said = said_by([*command, root / compilation.name])
+    return "" if succeeded else f"$ {compilation}\n{said}"
+
+
+def failure_of_client(options, compiler, directory):
+    """Links the client without exceptions, and runs it."""
+    program = directory / f"plain_client-{pathlib.Path(compiler).name}"
+    needed = [f"-Wl,-rpath-link,{pathlib.Path(path).parent}" for path in options.needed]
+    libraries = [f"-Wl,-rpath,{pathlib.Path(path).parent}" for path in options.library]
+    succeeded, said = said_by([compiler, "-std=c++17", "-O1", *WITHOUT, *WARNINGS,
+                               "-I", options.source / "include", options.source / PLAIN,
+                               "-o", program, *options.library, *libraries, *needed])
+    if succeeded:
+        succeeded, said = said_by([program])
+    return "" if succeeded else f"$ {program}\n{said}"
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--source", type=pathlib.Path, required=True)
+    parser.add_argument("--compilers", nargs="+", required=True, help="all of them have to be there")
+    parser.add_argument("--library", nargs="+", required=True, help="what the client is linked with")
+    parser.add_argument("--needed", nargs="*", default=[], help="what these need besides")
+    options = parser.parse_args()
+    found = {name: version_of(name) for name in options.compilers}
+    for name, version in found.items():
+        print(f"{name}: {version or 'was not found'}")
+    if missing := [name for name, version in found.items() if not version]:
+        sys.exit(f"`scripts/setup compilers` installs what is missing: {', '.join(missing)}")
+
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool, \
+            tempfile.TemporaryDirectory() as directory:
+        wanted = list(compilations(options.source, found))
+        clients = pool.map(lambda name: failure_of_client(options, name, pathlib.Path(directory)),
+                           found)
+        failures = [*clients, *pool.map(lambda one: errors_of(options.source, one), wanted)]
+    headers = sum(one.is_header for one in wanted) // len(found)
+    print(f"{headers} compilations of headers and {len(wanted) // len(found) - headers} of programs "
+          "with each compiler")
+    failures = [failure for failure in failures if failure]
+    print("\n".join(failures[:10]))
+    return 1 if failures or not headers else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
