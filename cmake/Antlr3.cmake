@@ -98,15 +98,14 @@ function(antlr_recognisers grammar)
         set(depends ${PROJECT_SOURCE_DIR}/src/grammar/${grammar} ${script})
         set(comment "Making the recognisers of ${grammar}")
     endif()
-    # What was copied may be younger than a grammar that has changed since, and what was made than
-    # the archive's.  These files are younger than what came about in the other way.
+    # (Where the command becomes the other one, Ninja and CMake's Makefiles run it, whatever is
+    # younger.)
     file(MAKE_DIRECTORY ${directory})
-    file(GENERATE OUTPUT ${directory}/${grammar}.way CONTENT "${comment}\n")
     list(TRANSFORM arg_OUTPUTS PREPEND ${directory}/)
     add_custom_command(
         OUTPUT ${arg_OUTPUTS}
         COMMAND ${CMAKE_COMMAND} ${command}
-        DEPENDS ${depends} ${directory}/${grammar}.way ${arg_DEPENDS}
+        DEPENDS ${depends} ${arg_DEPENDS}
         COMMENT "${comment}"
         VERBATIM)
 endfunction()
