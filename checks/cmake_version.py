@@ -59,7 +59,9 @@ NEWER = {
         cxx_std_26""",
     "3.26": "message(CONFIGURE_LOG $<BUILD_LOCAL_INTERFACE",
     "3.27": "cmake_file_api( SKIP_LINTING $<COMPILE_ONLY $<LIST $<TARGET_IMPORT_FILE",
-    "3.28": "FetchContent_Declare(EXCLUDE_FROM_ALL set_tests_properties(DIRECTORY CXX_SCAN_FOR_MODULES",
+    "3.28": """
+        FetchContent_Declare(EXCLUDE_FROM_ALL set_tests_properties(DIRECTORY
+        CXX_SCAN_FOR_MODULES""",
     "3.29": "if(IS_READABLE if(IS_WRITABLE if(IS_EXECUTABLE *LINKER_TYPE",
     "3.30": "CMAKE_*_STANDARD_LATEST $<QUOTE",
 }

@@ -40,7 +40,8 @@ else()
 endif()
 
 if(VORN_TESTS AND CMAKE_VERSION VERSION_LESS 3.20)
-    message(FATAL_ERROR "The tests need CMake 3.20, this is ${CMAKE_VERSION}: switch VORN_TESTS off.")
+    message(FATAL_ERROR
+        "The tests need CMake 3.20, this is ${CMAKE_VERSION}: switch VORN_TESTS off.")
 endif()
 vorn_needs(VORN_CONFIG VORN_DIAGNOSIS)
 vorn_needs(VORN_TOOL VORN_DIAGNOSIS)
