@@ -70,14 +70,34 @@ def build_with_cmake(build, *options, source=SOURCE, within=(), target="consumer
     return f"{build}/{target}"
 
 
-def build_with_pkg_config(program, path=None, source=SOURCE, within=(), target="consumer"):
+def build_with_pkg_config(program, path=None, source=SOURCE, within=(), target="consumer",
+                          options=()):
     """A program, by nothing but the compiler and what pkg-config says."""
     variables = {"PKG_CONFIG_PATH": str(path)} if path else {}
-    said = run([*within, "pkg-config", "--cflags", "--libs", LIBRARY_OF[target]],
+    said = run([*within, "pkg-config", *options, "--cflags", "--libs", LIBRARY_OF[target]],
                env=clean_environment(**variables))
     run([*within, "g++", "-std=c++17", f"{source}/{target}.cpp", "-o", program,
          *shlex.split(said)], env=clean_environment())
     return program
+
+
+def build_with_meson(build, path, source=SOURCE, target="consumer"):
+    """A program, by Meson, which asks pkg-config."""
+    environment = clean_environment(PKG_CONFIG_PATH=str(path))
+    run(["meson", "setup", build, source], env=environment)
+    run(["ninja", "-C", build, target], env=environment)
+    return f"{build}/{target}"
+
+
+def check_is_missing(component, build, found):
+    """Where a component is not installed, find_package() says so."""
+    try:
+        build_with_cmake(build, found, f"-DWANTED_COMPONENTS={component}")
+    except Failure as failure:
+        if component in str(failure):
+            return
+        raise
+    raise Failure("find_package() finds a component that is not installed")
 
 
 def check_run(program, version, mark, within=(), **variables):

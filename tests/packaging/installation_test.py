@@ -18,13 +18,16 @@ from consumer_build import (
     SOURCE,
     Failure,
     build_with_cmake,
+    build_with_meson,
     build_with_pkg_config,
     check_explanation,
+    check_is_missing,
     check_placing,
     check_run,
     clean_environment,
     run,
 )
+from pkg_config import check_moved, check_staged
 
 # The files of each component, where LIB stands for the directory of libraries.
 COMPONENTS = {
@@ -148,16 +151,6 @@ def check_pkg_config_of(library, prefix, libdir):
                           f"not {expected!r}")
 
 
-def check_is_missing(component, build, found):
-    try:
-        build_with_cmake(build, found, f"-DWANTED_COMPONENTS={component}")
-    except Failure as failure:
-        if component in str(failure):
-            return
-        raise
-    raise Failure("find_package() finds a component that is not installed")
-
-
 def check_without(options, directory, left_out, missing):
     """Where components are left out, the other libraries can be used: theirs alone fail."""
     prefix = directory / f"without-{missing[0]}"
@@ -214,6 +207,9 @@ def check_installed(options, directory):
     # What pkg-config says is enough to link; where the library is the loader has to be told.
     program = build_with_pkg_config(directory / "by-pkg-config", path=libraries / "pkgconfig")
     check_run(program, options.version, mark, LD_LIBRARY_PATH=str(libraries))
+    program = build_with_meson(directory / "by-meson", libraries / "pkgconfig")
+    check_run(program, options.version, mark)
+    check_staged(options.build, options.libdir, directory / "stage")
     check_diagnosis(prefix, libraries, directory)
     check_places(prefix, libraries, directory)
     check_without(options, directory, {"Config"}, ["toml_config"])
@@ -232,6 +228,7 @@ def check_installed(options, directory):
     program = build_with_cmake(directory / "moved-explain", f"-DCMAKE_PREFIX_PATH={moved}",
                                target="explain")
     check_explanation(program)
+    check_moved(moved, options.libdir, directory / "moved-program", options.version, mark)
 
 
 def main():
