@@ -32,7 +32,6 @@ return()
     "cmake/Parts.cmake": PARTS,
     "tests/CMakeLists.txt": "execute_process(COMMAND one COMMAND_ERROR_IS_FATAL ANY)\n",
     "build/test/made.cmake": "cmake_path(GET one PARENT_PATH two)\n",
-    "packaging/DebianPackages.cmake": "block()\nendblock()\n",
 }
 REFUSED = [
     ("if(PROJECT_IS_TOP_LEVEL)", "*_IS_TOP_LEVEL is CMake 3.21's"),

@@ -70,6 +70,31 @@ class EmptyRoot:
             (self.path / DATABASE / "info" / f"{name}.list").write_text(
                 run(["dpkg-query", "--listfiles", name]), encoding="utf-8")
 
+    def pretend(self, name, version, architecture):
+        """States that a package is installed, which has nothing and depends on nothing."""
+        with open(self.path / DATABASE / "status", "a", encoding="utf-8") as status:
+            status.write(f"Package: {name}\nStatus: install ok installed\n"
+                         f"Architecture: {architecture}\nMulti-Arch: same\n"
+                         f"Version: {version}\nMaintainer: nobody <nobody@vorn.example>\n"
+                         f"Description: a package of this name\n\n")
+        (self.path / DATABASE / "info" / f"{name}:{architecture}.list").touch()
+
+    def simulate(self, architectures, *archives):
+        """Has apt say whether it would install packages, without any others at hand."""
+        nothing = self.path / "tmp/apt"
+        (nothing / "lists/partial").mkdir(parents=True, exist_ok=True)
+        options = {
+            "APT::Architecture": architectures[0],
+            "APT::Architectures": ",".join(architectures),
+            "Dir::Cache": nothing,
+            "Dir::Etc::SourceList": "/dev/null",
+            "Dir::Etc::SourceParts": "/dev/null",
+            "Dir::State::Lists": nothing / "lists",
+            "Dir::State::Status": self.path / DATABASE / "status",
+        }
+        return run(["apt-get", *(f"--option={name}={value}" for name, value in options.items()),
+                    "--simulate", "install", *archives])
+
     def install(self, *archives):
         """Installs packages, as dpkg does: with their dependencies or not at all."""
         run(["dpkg", f"--root={self.path}", "--install", *archives])

@@ -1,4 +1,4 @@
-"""Compares what a library exports with a list of symbols, a line each.
+"""Compares what a library exports with the list of its symbols in debian/.
 
     exported_symbols_test.py --nm PROGRAM --library FILE --symbols FILE
 """
@@ -10,8 +10,9 @@ import sys
 
 
 def listed_symbols(file):
+    # Other lines are about the package, or comments.
     lines = pathlib.Path(file).read_text(encoding="ascii").splitlines()
-    symbols = [line for line in lines if line and not line.startswith("#")]
+    symbols = [line.strip().partition("@Base ")[0] for line in lines if line.startswith(" ")]
     twice = {symbol for symbol in symbols if symbols.count(symbol) > 1}
     if twice:
         sys.exit(f"{file} has these twice: {' '.join(sorted(twice))}")

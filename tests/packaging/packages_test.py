@@ -3,10 +3,14 @@
 In the root there are, beside them, only the packages that they depend on; for building a
 client a compiler, CMake, Ninja and pkg-config come to it.  (Debian's packages are copied from
 this machine, so their own installation is not tested; and nothing for another processor is.)
+
+The library is built again in another directory: the same bytes, debug symbols included.  The source
+package is only made.
 """
 
 import argparse
 import os
+import pathlib
 import shutil
 import sys
 import tempfile
@@ -22,7 +26,7 @@ from consumer_build import (
     run,
 )
 from empty_root import EmptyRoot
-from package_files import NAMES, check_all_dependencies, dependencies, packages_in
+from package_files import DEBIAN, NAMES, check_all_dependencies, dependencies, packages_in
 
 SKIPPED = 77
 MARK = "error vorn_parsers "
@@ -65,6 +69,46 @@ def check_client(root, packages, version):
     check_placing(program, root.within)
 
 
+def check_distribution_test(root):
+    """The test that a distribution runs of the installed packages."""
+    # (As essential as the shell.)
+    root.add("grep")
+    source = root.path / "tmp/source"
+    shutil.copytree(DEBIAN.with_name("examples"), source / "examples")
+    shutil.copytree(DEBIAN / "tests", source / "debian/tests")
+    root.run("sh", "-c", "cd /tmp/source && AUTOPKGTEST_TMP=/tmp sh debian/tests/client")
+
+
+def check_same_bytes(built, directory):
+    """The library, built as it was for its package, in another directory."""
+    source = directory / "another-place"
+    results = ("obj-*", "tmp", *NAMES)
+    shutil.copytree(built, source, symlinks=True, ignore=shutil.ignore_patterns(*results))
+    run(["debian/rules", "override_dh_auto_configure"], cwd=source)
+    (build,) = source.glob("obj-*")
+    run(["cmake", "--build", build, "--target", "vorn_parsers"])
+    libraries = [*build.glob("src/libvorn_*.so.*.*"), *build.glob("platform/libvorn_*.so.*.*")]
+    if len(libraries) != 2:
+        raise Failure(f"these have been built: {libraries}")
+    for library in libraries:
+        other = built / library.relative_to(source)
+        if library.read_bytes() != other.read_bytes():
+            raise Failure(f"{other.name} is not the same in {built} and in another directory")
+
+
+def check_source_package(script, packages):
+    """That of the last commit, where there are commits: lintian has nothing to say."""
+    if not DEBIAN.with_name(".git").exists():
+        return
+    run([script, packages, "source"])
+    (description,) = pathlib.Path(packages).glob("*.dsc")
+    with tempfile.TemporaryDirectory() as directory:
+        source = pathlib.Path(directory) / "source"
+        run(["dpkg-source", "--extract", description, source])
+        if not (source / "generated/TomlParser.c").exists():
+            raise Failure(f"{description} needs antlr3, which it does not ask for")
+
+
 def check_without_diagnosis(root, version):
     """The library as on a device that does without the diagnosis."""
     if not root.refuses_to_remove("libvorn-toml-diagnosis0"):
@@ -91,7 +135,12 @@ def main():
             root = EmptyRoot(directory)
             check_tool(root, packages)
             check_client(root, packages, options.version)
+            check_distribution_test(root)
             check_without_diagnosis(root, options.version)
+        check_source_package(options.script, options.packages)
+        (built,) = pathlib.Path(options.packages).glob("build-amd64/vorn-parsers-*")
+        with tempfile.TemporaryDirectory() as directory:
+            check_same_bytes(built, pathlib.Path(directory))
     except Failure as failure:
         print(failure)
         return 1
