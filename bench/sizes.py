@@ -99,7 +99,8 @@ def downloads(setup):
             debian.row(f"`{command}`", output_of([setup, "--print", *groups]).split())
             for command, groups in (
                 ("scripts/vorn-toml", ["build"]), ("scripts/test quick", ["test"]),
-                ("scripts/test", ["test", "check", "arm", "fuzz", "package", "docs"]))
+                ("scripts/test", ["test", "compilers", "check", "fuzz", "arm", "docs",
+                                   "package", "release"]))
         ]
         archive = ["g++", "cmake", "make", "libantlr3c-dev"]
         rows.append(debian.row("the libraries, from a release archive", archive))
