@@ -23,9 +23,20 @@ function(vorn_needs name)
     endforeach()
 endfunction()
 
+# With this, configurations read and show floats.
+include(CheckCXXSourceCompiles)
+check_cxx_source_compiles("
+    #include <charconv>
+    #ifndef __cpp_lib_to_chars
+    #error
+    #endif
+    int main() {}
+    " VORN_HAS_FLOAT_CONVERSIONS)
+set(float_conversions "std::to_chars() for double, which GCC has from version 11 on")
+
 vorn_part(VORN_INSTALL VORN_TOP_LEVEL)
 vorn_part(VORN_DIAGNOSIS TRUE)
-vorn_part(VORN_CONFIG VORN_DIAGNOSIS)
+vorn_part(VORN_CONFIG VORN_DIAGNOSIS AND VORN_HAS_FLOAT_CONVERSIONS)
 vorn_part(VORN_TOOL VORN_DIAGNOSIS AND (VORN_TOP_LEVEL OR VORN_TESTS))
 # BUILD_TESTING is about the tests of the project at the top.
 vorn_part(VORN_TESTS VORN_TOP_LEVEL AND BUILD_TESTING AND VORN_CONFIG AND VORN_TOOL)
@@ -44,6 +55,12 @@ if(VORN_TESTS AND CMAKE_VERSION VERSION_LESS 3.20)
         "The tests need CMake 3.20, this is ${CMAKE_VERSION}: switch VORN_TESTS off.")
 endif()
 vorn_needs(VORN_CONFIG VORN_DIAGNOSIS)
+if(NOT VORN_HAS_FLOAT_CONVERSIONS)
+    if(VORN_CONFIG)
+        message(FATAL_ERROR "VORN_CONFIG needs ${float_conversions}: switch it off.")
+    endif()
+    message(STATUS "vorn::toml_config is left out: it needs ${float_conversions}")
+endif()
 vorn_needs(VORN_TOOL VORN_DIAGNOSIS)
 vorn_needs(VORN_TESTS VORN_DIAGNOSIS VORN_CONFIG VORN_TOOL)
 vorn_needs(VORN_BENCHMARKS VORN_CONFIG)

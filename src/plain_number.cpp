@@ -103,6 +103,17 @@ std::string_view withoutUnderscores(std::string_view text, Room& room) noexcept
     return {room.data(), static_cast<std::size_t>(end - room.data())};
 }
 
+// Whether a number is in range, and its value.  Before GCC 11 the standard library reads no
+// floats: the stated way does.
+bool convert([[maybe_unused]] std::string_view number, [[maybe_unused]] double& value) noexcept
+{
+#ifdef __cpp_lib_to_chars
+    return std::from_chars(number.data(), number.data() + number.size(), value).ec == std::errc();
+#else
+    return false;
+#endif
+}
+
 } // namespace
 
 bool readPlainBoolean(std::string_view text, bool& value)
@@ -156,10 +167,9 @@ bool readPlainFloat(std::string_view text, double& value)
         return false;
     }
     number.remove_prefix(number[0] == '+' ? 1 : 0);
-    const char* const end = number.data() + number.size();
-    const bool isInRange = std::from_chars(number.data(), end, value).ec == std::errc();
     // Below the smallest normal number strtod() sets errno.  (Zero is in range where it is exact.)
-    return isInRange && (std::abs(value) > std::numeric_limits<double>::min() || value == 0);
+    return convert(number, value) &&
+           (std::abs(value) > std::numeric_limits<double>::min() || value == 0);
 }
 
 } // namespace vorn::parsers::toml

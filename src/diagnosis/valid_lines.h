@@ -64,7 +64,8 @@ public:
     bool read(std::size_t from, Sink& sink) const
     {
         NestingStack nesting(words_.begin(), text_.size());
-        return Reader(text_.data() + from, end(), nesting, sink).line();
+        Reader reader(text_.data() + from, end(), nesting, sink);
+        return reader.line();
     }
 
     // Whether a valid pair or header comes next, or the document's end.

@@ -83,7 +83,8 @@ private:
         {
             return true;
         }
-        if (!NestedReader(tokens_, sink_, nesting_).read(read))
+        NestedReader nested(tokens_, sink_, nesting_);
+        if (!nested.read(read))
         {
             return false;
         }

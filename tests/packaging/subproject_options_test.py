@@ -66,6 +66,10 @@ def check_part(source, build):
     client.has(options=["-DVORN_DIAGNOSIS=OFF"])
     client.has(DIAGNOSIS, CONFIG)
     check_contradictions(client)
+    # As with a compiler that is too old.
+    without = "-DVORN_HAS_FLOAT_CONVERSIONS=OFF"
+    client.has(DIAGNOSIS, options=[without])
+    client.fails("VORN_CONFIG needs std::to_chars()", without, "-DVORN_CONFIG=ON")
 
     client.fails("CLI11 was not found", "-DVORN_TOOL=ON")
     client.has(DIAGNOSIS, CONFIG, TOOL, options=["-DVORN_TOOL=ON"], found=TOOL_NEEDS)
