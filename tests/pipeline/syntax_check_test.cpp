@@ -11,6 +11,7 @@
 
 #include "support/large_documents.h"
 #include "support/memory_in_use.h"
+#include "support/memory_limit.h"
 #include "support/mistaken_samples.h"
 #include "support/parsing.h"
 #include "support/recognition_errors.h"
@@ -22,6 +23,7 @@
 
 using vorn::parsers::toml::checkSyntax;
 using vorn::parsers::toml::forgetEarlierErrors;
+using vorn::parsers::toml::hasMemory;
 using vorn::parsers::toml::memoryForChecking;
 using vorn::parsers::toml::startOver;
 using vorn::parsers::toml::Syntax;
@@ -100,6 +102,34 @@ std::size_t heldByCheck(const std::string& text)
     checkSyntax(*pipeline.parser(), pipeline.window());
     startOver(*pipeline.parser(), pipeline.window());
     return test::memoryInUse() - before;
+}
+
+// Whether there is the memory for a document where only so much is left.  Either way, the errors
+// are still to be reported, and nothing has been said of them.
+bool hasMemoryWith(std::size_t left, const std::string& text)
+{
+    SCOPED_TRACE(std::to_string(left) + " bytes for " + testing::PrintToString(text.substr(0, 12)));
+    const test::ParsedDocument expected = test::parseDocument(text);
+    test::WindowPipeline pipeline(text);
+    test::ErrorKinds lexerErrors;
+    test::ErrorKinds errors;
+    test::collectErrors(pipeline.lexer().recogniser(), lexerErrors);
+    test::collectErrors(pipeline.recogniser(), errors);
+    bool found = false;
+    {
+        const test::MemoryLimit limit(left);
+        found = hasMemory(*pipeline.parser(), pipeline.lines(), pipeline.window());
+    }
+    EXPECT_TRUE(lexerErrors.empty());
+    EXPECT_TRUE(errors.empty());
+    if (found)
+    {
+        pipeline.lines().reportErrors();
+        EXPECT_EQ(lexerErrors, expected.lexerErrors);
+        checkSyntax(*pipeline.parser(), pipeline.window());
+        EXPECT_EQ(errors, expected.errors);
+    }
+    return found;
 }
 
 } // namespace
@@ -222,4 +252,18 @@ TEST(SyntaxCheck, holdsNoMemoryThatGrowsWithTheDocument)
     const std::size_t lists =
         memoryForChecking(many.size(), 0, 0, 2 * 10'000) - memoryForChecking(0, 0, 0, 0);
     EXPECT_LE(heldByCheck(many), heldByCheck(statement(100)) + lists);
+}
+
+// What any document of the size may need is not there.
+TEST(SyntaxCheckWithLimits, takesWhatTheStatementsThatAreNotValidNeed)
+{
+    constexpr std::size_t left = 40'000 * kilobyte;
+    const std::string valid = test::repeated("a = [1, 2, 3]\n", 5'000);
+    for (const std::string mistake : {"b 1\n", "c = [1 2]\n", "@", "[t\n"})
+    {
+        EXPECT_TRUE(hasMemoryWith(left, valid + mistake + valid));
+    }
+    EXPECT_FALSE(hasMemoryWith(left, test::enclosed("a = [", "1, ", 50'000, "1 2]\n")));
+    EXPECT_FALSE(hasMemoryWith(left, test::enclosed("", "[", 100'000, "")));
+    EXPECT_FALSE(hasMemoryWith(kilobyte, valid + "b 1\n"));
 }
