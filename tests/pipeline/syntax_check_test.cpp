@@ -263,7 +263,7 @@ TEST(SyntaxCheckWithLimits, takesWhatTheStatementsThatAreNotValidNeed)
     {
         EXPECT_TRUE(hasMemoryWith(left, valid + mistake + valid));
     }
-    EXPECT_FALSE(hasMemoryWith(left, test::enclosed("a = [", "1, ", 10'000, "1 2]\n")));
+    EXPECT_FALSE(hasMemoryWith(left, test::enclosed("a = [", "1, ", 20'000, "1 2]\n")));
     EXPECT_FALSE(hasMemoryWith(left, test::enclosed("", "[", 100'000, "")));
     EXPECT_FALSE(hasMemoryWith(kilobyte, valid + "b 1\n"));
 }
