@@ -15,7 +15,7 @@ import re
 import sys
 import tempfile
 
-from consumer_build import Failure, run
+from commands import Failure, run
 from empty_root import EmptyRoot
 from package_files import FOREIGN_NAMES, check_all_dependencies, packages_in
 

@@ -1,9 +1,10 @@
 """Builds and runs the programs of consumer/, in ways in which clients do."""
 
-import os
 import pathlib
 import shlex
 import subprocess
+
+from commands import Failure, clean_environment, run
 
 SOURCE = pathlib.Path(__file__).with_name("consumer")
 # The programs there, and the library that each one links.
@@ -32,34 +33,6 @@ config.toml:12:10: the array is empty
 """
 # What that of the values and places prints.
 PLACING = "2:8: 80800 is not a port\n"
-
-
-class Failure(Exception):
-    """Something is not as it should be."""
-
-
-def run(command, **options):
-    """The output of a command that must succeed."""
-    result = subprocess.run(
-        [str(word) for word in command],
-        stdin=subprocess.DEVNULL,
-        stdout=subprocess.PIPE,
-        stderr=subprocess.STDOUT,
-        text=True,
-        check=False,
-        **options,
-    )
-    if result.returncode != 0:
-        words = " ".join(str(word) for word in command)
-        raise Failure(f"$ {words}\n{result.stdout}ends with status {result.returncode}")
-    return result.stdout
-
-
-def clean_environment(**variables):
-    """The environment without what would help to find libraries."""
-    helpers = ("LD_LIBRARY_PATH", "LD_PRELOAD", "PKG_CONFIG_PATH", "CMAKE_PREFIX_PATH")
-    kept = {name: value for name, value in os.environ.items() if name not in helpers}
-    return {**kept, **variables}
 
 
 def build_with_cmake(build, *options, source=SOURCE, within=(), target="consumer"):

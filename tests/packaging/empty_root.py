@@ -9,7 +9,7 @@ import pathlib
 import re
 import subprocess
 
-from consumer_build import Failure, run
+from commands import Failure, run
 
 DATABASE = "var/lib/dpkg"
 

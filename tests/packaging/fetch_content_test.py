@@ -6,11 +6,10 @@ The archive has the sources as they are here, and nothing that has been built.
 import argparse
 import hashlib
 import pathlib
-import sys
 import tarfile
-import tempfile
 
-from consumer_build import Failure, check_run, run
+from commands import Failure, in_new_directory, run
+from consumer_build import check_run
 from subproject_build import QUICKLY, check_objects, configure, tests
 
 SOURCE = pathlib.Path(__file__).with_name("fetched")
@@ -46,11 +45,7 @@ def main():
     for name in ("version", "source"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
-    try:
-        with tempfile.TemporaryDirectory() as directory:
-            check_fetched(options, pathlib.Path(directory))
-    except Failure as failure:
-        sys.exit(str(failure))
+    in_new_directory(check_fetched, options)
 
 
 if __name__ == "__main__":

@@ -7,7 +7,7 @@ recipe has (checks/recipes.py refuses the rest).  Buildroot's file is read by Ma
 import fnmatch
 import re
 
-from consumer_build import Failure, run
+from commands import Failure, run
 
 OPTIONS = ("diagnosis", "config", "tool")
 # What Yocto's configuration has these stand for.

@@ -6,16 +6,15 @@ of the others is configured.
 """
 
 import argparse
-import json
 import pathlib
 import re
 import shutil
 import sys
-import tempfile
 
-from consumer_build import Failure, clean_environment, run
+from cmake_model import ask, components, targets
+from commands import Failure, clean_environment, in_new_directory, run
 from image_recipes import OPTIONS, Recipe, buildroot_flags
-from release_test import copy_repository, make_archive
+from release_making import copy_repository, make_archive
 
 SKIPPED = 77
 DEVICE = pathlib.Path(__file__).with_name("device") / "device_utils.cpp"
@@ -62,9 +61,7 @@ def check_checksums(recipes, archive):
 
 def configure(options, source, build, flags):
     """What CMake says; the recipes' flags, and what Yocto and Buildroot give by themselves."""
-    query = build / ".cmake/api/v1/query/codemodel-v2"
-    query.parent.mkdir(parents=True)
-    query.touch()
+    ask(build)
     toolchain = source / "cmake/arm-linux-gnueabihf.cmake"
     return run(["cmake", "-G", "Ninja", "-S", source, "-B", build, *flags,
                 f"-DCMAKE_TOOLCHAIN_FILE={toolchain}", f"-DVORN_ARM_SYSROOT={options.sysroot}",
@@ -79,17 +76,11 @@ def check_nothing_else(build, said):
     for part in ("diagnosis", "config", "tool", "tests"):
         if not re.search(rf"^-- +{part} +OFF$", said, re.MULTILINE):
             raise Failure(f"{part} is not off:\n{said}")
-    (reply,) = (build / ".cmake/api/v1/reply").glob("codemodel-v2-*.json")
-    (configuration,) = json.loads(reply.read_text(encoding="utf-8"))["configurations"]
-    targets = {target["name"] for target in configuration["targets"]}
-    if others := {name for name in targets if re.search("diagnosis|config|toml|utils|test", name)}:
+    unwanted = "diagnosis|config|toml|utils|test"
+    if others := {name for name in targets(build) if re.search(unwanted, name)}:
         raise Failure(f"there are the targets {sorted(others)}")
-    components = set()
-    for directory in configuration["directories"]:
-        content = json.loads((reply.parent / directory["jsonFile"]).read_text(encoding="utf-8"))
-        components.update(installer["component"] for installer in content["installers"])
-    if components != {"Runtime", "Development"}:
-        raise Failure(f"{sorted(components)} are installed")
+    if (found := components(build)) != {"Runtime", "Development"}:
+        raise Failure(f"{sorted(found)} are installed")
 
 
 def check_installed(recipe, root):
@@ -133,7 +124,7 @@ def check_images(options, directory):
     flags = flags_of_recipes(recipes, staging, directory, ())
     build = directory / "nothing"
     check_nothing_else(build, configure(options, source, build, flags))
-    flags = flags_of_recipes(recipes, staging, directory, ("diagnosis",))
+    flags_of_recipes(recipes, staging, directory, ("diagnosis",))
     flags = flags_of_recipes(recipes, staging, directory, OPTIONS)
     build, root = directory / "everything", directory / "root"
     configure(options, source, build, flags)
@@ -153,13 +144,7 @@ def main():
     if not (options.source / ".git").exists() or not shutil.which("antlr3"):
         print("An archive is made of a checkout, with the tool.")
         return SKIPPED
-    try:
-        with tempfile.TemporaryDirectory() as directory:
-            check_images(options, pathlib.Path(directory))
-    except Failure as failure:
-        print(failure)
-        return 1
-    return 0
+    return in_new_directory(check_images, options)
 
 
 if __name__ == "__main__":

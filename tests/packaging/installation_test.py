@@ -5,18 +5,15 @@ prefix alone, and link one library alone.
 """
 
 import argparse
-import pathlib
 import subprocess
-import sys
-import tempfile
 import textwrap
 
+from commands import Failure, clean_environment, in_new_directory, run
 from consumer_build import (
     EXPLANATION,
     LIBRARY_OF,
     PLACING,
     SOURCE,
-    Failure,
     build_with_cmake,
     build_with_meson,
     build_with_pkg_config,
@@ -24,8 +21,6 @@ from consumer_build import (
     check_is_missing,
     check_placing,
     check_run,
-    clean_environment,
-    run,
 )
 from pkg_config import check_moved, check_staged
 
@@ -237,11 +232,7 @@ def main():
                  "source", "build-type", "libdir", "document", "cmake"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
-    try:
-        with tempfile.TemporaryDirectory() as directory:
-            check_installed(options, pathlib.Path(directory))
-    except Failure as failure:
-        sys.exit(str(failure))
+    in_new_directory(check_installed, options)
 
 
 if __name__ == "__main__":

@@ -4,7 +4,7 @@ import pathlib
 import re
 import tempfile
 
-from consumer_build import Failure, run
+from commands import Failure, run
 
 DEBIAN = pathlib.Path(__file__).parents[2] / "debian"
 NAMES = ["libvorn-parsers0", "libvorn-parsers-dev", "libvorn-toml-config0",

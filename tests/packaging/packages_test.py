@@ -15,15 +15,14 @@ import shutil
 import sys
 import tempfile
 
+from commands import Failure, run
 from consumer_build import (
     SOURCE,
-    Failure,
     build_with_cmake,
     build_with_pkg_config,
     check_explanation,
     check_placing,
     check_run,
-    run,
 )
 from empty_root import EmptyRoot
 from package_files import DEBIAN, NAMES, check_all_dependencies, dependencies, packages_in

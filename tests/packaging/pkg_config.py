@@ -4,14 +4,8 @@ import os
 import pathlib
 import shlex
 
-from consumer_build import (
-    LIBRARY_OF,
-    Failure,
-    build_with_pkg_config,
-    check_run,
-    clean_environment,
-    run,
-)
+from commands import Failure, clean_environment, run
+from consumer_build import LIBRARY_OF, build_with_pkg_config, check_run
 
 
 def check_leads_to(place, libdir, *options, **variables):

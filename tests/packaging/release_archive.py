@@ -4,7 +4,7 @@ import hashlib
 import re
 import tarfile
 
-from consumer_build import Failure
+from commands import Failure
 
 GRAMMARS = {"Toml": "src/grammar/Toml.g", "TomlTree": "src/grammar/TomlTree.g"}
 SOURCES = {f"generated/{name}{suffix}": GRAMMARS[name.removesuffix("Lexer").removesuffix("Parser")]

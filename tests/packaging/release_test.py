@@ -13,66 +13,19 @@ import pathlib
 import re
 import shutil
 import sys
-import tempfile
 
-from consumer_build import SOURCE, Failure, check_run, clean_environment, run
+from commands import Failure, in_new_directory, run
+from consumer_build import SOURCE, check_run
 from empty_root import EmptyRoot
-from release_archive import (
-    Archive,
-    check_checksums,
-    check_generated,
-    check_members,
-    check_names,
-)
+from release_archive import check_checksums, check_generated, check_members, check_names
+from release_making import DATE, GIT, copy_repository, environment, git, make_archive
 
 SKIPPED = 77
-DATE = 1700000000
-# Who commits, and when; no settings of the machine's.
-GIT = {"GIT_CONFIG_GLOBAL": "/dev/null", "GIT_CONFIG_NOSYSTEM": "1",
-       "GIT_AUTHOR_NAME": "A", "GIT_AUTHOR_EMAIL": "a@b.c", "GIT_AUTHOR_DATE": f"{DATE} +0000",
-       "GIT_COMMITTER_NAME": "A", "GIT_COMMITTER_EMAIL": "a@b.c",
-       "GIT_COMMITTER_DATE": f"{DATE} +0000"}
 SUMMARY = "antlr3            "
 NOT_NEEDED = SUMMARY + "not needed: the recognisers' sources are in the archive\n"
 # The library alone.  (What is no variable here does no harm.)
 ALONE = ("-DCMAKE_BUILD_TYPE=Debug", "-DBUILD_TESTING=OFF", "-DVORN_TOOL=OFF", "-DVORN_TESTS=OFF",
          "-DVORN_CONFIG=OFF", "-DVORN_DIAGNOSIS=OFF")
-
-
-def environment(**variables):
-    """The environment without what git and CMake would listen to, and a date would come from."""
-    without = ("GIT_", "CMAKE_", "SOURCE_DATE_EPOCH")
-    kept = {name: value for name, value in clean_environment().items()
-            if not name.startswith(without)}
-    return {**kept, **variables}
-
-
-def git(repository, *words, **variables):
-    return run(["git", "-C", repository, *words], env=environment(**variables))
-
-
-def copy_repository(source, copy):
-    """A repository with one commit of all that is not ignored in this one."""
-    listed = git(source, "ls-files", "-z", "--cached", "--others", "--exclude-standard")
-    for name in set(listed.split("\0")) - {""}:
-        if (source / name).exists():
-            (copy / name).parent.mkdir(parents=True, exist_ok=True)
-            shutil.copy2(source / name, copy / name)
-    git(copy, "init", "--quiet", **GIT)
-    git(copy, "add", "--all", **GIT)
-    git(copy, "commit", "--quiet", "--message=All", **GIT)
-
-
-def make_archive(repository, version, directory, umask=0o022, **variables):
-    """The archive, and what the script says."""
-    work = directory / "work"
-    work.mkdir(parents=True)
-    said = run([repository / "scripts/release", directory], umask=umask,
-               env=environment(TMPDIR=str(work), **{**GIT, **variables}))
-    if left := list(work.iterdir()):
-        raise Failure(f"the script leaves {left}")
-    top = f"vorn-parsers-{version}"
-    return Archive(directory / f"{top}.tar.xz", top), said
 
 
 def check_reproducible(repository, archive, version, directory):
@@ -172,6 +125,22 @@ def check_with_tool(archive, directory):
         raise Failure(f"the grammar of the release does not lead back to the archive:\n{said}")
 
 
+def check_release(options, directory):
+    repository = directory / "repository"
+    copy_repository(pathlib.Path(options.source), repository)
+    archive, said = make_archive(repository, options.version, directory / "archive")
+    if "changed since" in said:
+        raise Failure(f"the repository has no changes:\n{said}")
+    check_content(options, repository, archive, directory)
+    check_reproducible(repository, archive, options.version, directory)
+    check_with_tool(archive, directory / "with-tool")
+    if os.geteuid() != 0:
+        print("The archive is right. Only root can build from it in another root.")
+        return SKIPPED
+    check_without_tool(archive, options.version, directory / "root")
+    return 0
+
+
 def main():
     parser = argparse.ArgumentParser()
     for name in ("version", "source", "build"):
@@ -180,25 +149,7 @@ def main():
     if not (pathlib.Path(options.source) / ".git").exists():
         print("An archive is made of a repository, which this is not.")
         return SKIPPED
-    try:
-        with tempfile.TemporaryDirectory() as name:
-            directory = pathlib.Path(name)
-            repository = directory / "repository"
-            copy_repository(pathlib.Path(options.source), repository)
-            archive, said = make_archive(repository, options.version, directory / "archive")
-            if "changed since" in said:
-                raise Failure(f"the repository has no changes:\n{said}")
-            check_content(options, repository, archive, directory)
-            check_reproducible(repository, archive, options.version, directory)
-            check_with_tool(archive, directory / "with-tool")
-            if os.geteuid() != 0:
-                print("The archive is right. Only root can build from it in another root.")
-                return SKIPPED
-            check_without_tool(archive, options.version, directory / "root")
-    except Failure as failure:
-        print(failure)
-        return 1
-    return 0
+    return in_new_directory(check_release, options)
 
 
 if __name__ == "__main__":

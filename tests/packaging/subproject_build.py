@@ -1,10 +1,10 @@
 """Configures and builds the clients that have the library's sources as a part of them."""
 
-import json
 import pathlib
 import re
 
-from consumer_build import Failure, clean_environment, run
+from cmake_model import ask
+from commands import Failure, clean_environment, run
 
 # What the library needs no more than its clients do.
 ABSENT = ("GTest", "CLI11", "nlohmann_json", "Python3", "benchmark")
@@ -14,9 +14,7 @@ QUICKLY = ("-DCMAKE_BUILD_TYPE=Debug", "-DCMAKE_CXX_FLAGS_DEBUG=-O0", "-DCMAKE_C
 
 def configure(source, build, *options, found=()):
     """Sets a build up, where of what is absent only what is `found` can be found."""
-    query = build / ".cmake/api/v1/query/codemodel-v2"
-    query.parent.mkdir(parents=True, exist_ok=True)
-    query.touch()
+    ask(build)
     return run(["cmake", "-Wdev", "-Werror=dev", "-G", "Ninja", "-S", source, "-B", build,
                 *(f"-DCMAKE_DISABLE_FIND_PACKAGE_{name}={'OFF' if name in found else 'ON'}"
                   for name in ABSENT), *options],
@@ -32,15 +30,6 @@ def check_configuring_fails(source, build, message, *options, found=()):
             return
         raise
     raise Failure(f"{' '.join(options)} is configured without saying: {message}")
-
-
-def targets(build):
-    """The names of the targets that CMake has made."""
-    replies = (build / ".cmake/api/v1/reply").glob("index-*.json")
-    index = json.loads(max(replies).read_text(encoding="utf-8"))
-    model = build / ".cmake/api/v1/reply" / index["reply"]["codemodel-v2"]["jsonFile"]
-    (configuration,) = json.loads(model.read_text(encoding="utf-8"))["configurations"]
-    return {target["name"] for target in configuration["targets"]}
 
 
 def tests(build):

@@ -4,11 +4,10 @@ off; nothing is built.
 
 import argparse
 import pathlib
-import sys
-import tempfile
 
-from consumer_build import Failure
-from subproject_build import check_configuring_fails, configure, targets, tests
+from cmake_model import targets
+from commands import Failure, in_new_directory
+from subproject_build import check_configuring_fails, configure, tests
 
 CLIENT = pathlib.Path(__file__).with_name("subproject")
 # What tells that a part is there.
@@ -96,16 +95,16 @@ def check_top(source, build):
     check_contradictions(top)
 
 
+def check_options(options, directory):
+    check_part(options.source, directory / "client")
+    check_top(options.source, directory / "top")
+
+
 def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--source", required=True)
     options = parser.parse_args()
-    try:
-        with tempfile.TemporaryDirectory() as directory:
-            check_part(options.source, pathlib.Path(directory) / "client")
-            check_top(options.source, pathlib.Path(directory) / "top")
-    except Failure as failure:
-        sys.exit(str(failure))
+    in_new_directory(check_options, options)
 
 
 if __name__ == "__main__":

@@ -8,21 +8,19 @@ them.  What such a client installs on request is what the parts that are switche
 import argparse
 import pathlib
 import re
-import sys
-import tempfile
 
+from cmake_model import targets
+from commands import Failure, in_new_directory, run
 from consumer_build import (
-    Failure,
     build_with_cmake,
     build_with_meson,
     check_explanation,
     check_is_missing,
     check_placing,
     check_run,
-    run,
 )
 from pkg_config import check_leads_to, check_moved, check_staged
-from subproject_build import QUICKLY, check_objects, configure, targets, tests
+from subproject_build import QUICKLY, check_objects, configure, tests
 
 SOURCE = pathlib.Path(__file__).with_name("subproject")
 TARGETS = {"consumer", "explain", "place", "vorn_parsers", "vorn_parsers_objects",
@@ -143,11 +141,7 @@ def main():
     for name in ("version", "source"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
-    try:
-        with tempfile.TemporaryDirectory() as directory:
-            check_client(options, pathlib.Path(directory))
-    except Failure as failure:
-        sys.exit(str(failure))
+    in_new_directory(check_client, options)
 
 
 if __name__ == "__main__":

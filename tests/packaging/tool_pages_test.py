@@ -8,7 +8,7 @@ import subprocess
 import sys
 import tempfile
 
-from consumer_build import Failure, run
+from commands import Failure, run
 
 STATUSES = "0123"
 

@@ -7,10 +7,9 @@ the stand-in may be built, needed or installed.
 import argparse
 import pathlib
 import re
-import sys
-import tempfile
 
-from consumer_build import Failure, build_with_cmake, check_run, run
+from commands import Failure, in_new_directory, run
+from consumer_build import build_with_cmake, check_run
 
 DEVICE = pathlib.Path(__file__).with_name("device") / "device_utils.cpp"
 
@@ -46,11 +45,7 @@ def main():
     for name in ("version", "source", "readelf"):
         parser.add_argument(f"--{name}", required=True)
     options = parser.parse_args()
-    try:
-        with tempfile.TemporaryDirectory() as directory:
-            check_library(options, pathlib.Path(directory))
-    except Failure as failure:
-        sys.exit(str(failure))
+    in_new_directory(check_library, options)
 
 
 if __name__ == "__main__":

@@ -10,7 +10,7 @@ import re
 import sys
 import tempfile
 
-from consumer_build import Failure, run
+from commands import Failure, run
 
 UTILS = "libvorn_utils.so.0"
 
